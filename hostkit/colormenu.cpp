@@ -1,0 +1,248 @@
+#include "colormenu.h"
+
+#include "colorswatch.h"
+#include "colortext.h"
+
+#include <QtCore/QPointer>
+#include <QtGui/QColor>
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QGridLayout>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QScrollBar>
+
+using HostKit::ColorSwatch;
+
+namespace {
+constexpr qsizetype mostEntries = 256;
+constexpr int columns = 6;
+constexpr int mostRowsShown = 4;
+constexpr int gap = 6;
+constexpr int margin = 4;
+
+// Names for palettes that come without any.
+QString knownName(const QString& code)
+{
+    struct Known {
+        const char* code;
+        const char* name;
+    };
+    static constexpr Known table[] = {
+        {"#ffffff", QT_TRANSLATE_NOOP("ColorMenu", "White")},
+        {"#000000", QT_TRANSLATE_NOOP("ColorMenu", "Black")},
+        {"#dc0b0b", QT_TRANSLATE_NOOP("ColorMenu", "Red")},
+        {"#f28000", QT_TRANSLATE_NOOP("ColorMenu", "Orange")},
+        {"#fedb00", QT_TRANSLATE_NOOP("ColorMenu", "Yellow")},
+        {"#248d4f", QT_TRANSLATE_NOOP("ColorMenu", "Green")},
+        {"#0018a8", QT_TRANSLATE_NOOP("ColorMenu", "Blue")},
+        {"#00ffff", QT_TRANSLATE_NOOP("ColorMenu", "Cyan")},
+        {"#473333", QT_TRANSLATE_NOOP("ColorMenu", "Brown")},
+        {"#41b6e6", QT_TRANSLATE_NOOP("ColorMenu", "Sky Blue")},
+        {"#7238ab", QT_TRANSLATE_NOOP("ColorMenu", "Purple")},
+        {"#a0a0a0", QT_TRANSLATE_NOOP("ColorMenu", "Gray")},
+        {"#fffffe", QT_TRANSLATE_NOOP("ColorMenu", "Clear")},
+        {"transparent", QT_TRANSLATE_NOOP("ColorMenu", "Transparent")},
+    };
+    for (const Known& known : table) {
+        if (code.compare(QLatin1String(known.code), Qt::CaseInsensitive) == 0)
+            return ColorMenu::tr(known.name);
+    }
+    return code;
+}
+} // namespace
+
+ColorMenu::ColorMenu(QWidget* parent) : QWidget(parent), m_scrollArea(new QScrollArea(this))
+{
+    m_scrollArea->setFrameShape(QFrame::NoFrame);
+    m_scrollArea->setWidgetResizable(true);
+    m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scrollArea->viewport()->setAutoFillBackground(false);
+    m_scrollArea->setFocusPolicy(Qt::NoFocus);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_scrollArea, 0, Qt::AlignTop);
+    replaceContents();
+    arrangeSwatches();
+}
+
+ColorMenu::~ColorMenu() = default;
+
+void ColorMenu::setColorPalette(QList<QString> names, QList<QString> codes)
+{
+    const bool named = !names.isEmpty() && !codes.isEmpty();
+    if (codes.isEmpty())
+        codes.swap(names);
+    const qsizetype count = named ? qMin(names.size(), codes.size()) : codes.size();
+    replaceContents();
+    for (qsizetype i = 0; i < count && m_swatches.size() < mostEntries; ++i) {
+        const QString& code = codes.at(i);
+        if (HostKit::isColorText(code))
+            addSwatch(named ? names.at(i) : knownName(code), code);
+    }
+    arrangeSwatches();
+    updateSelectedColor(m_selectedColor);
+}
+
+void ColorMenu::updateSelectedColor(QString color)
+{
+    m_selectedColor = color;
+    bool found = false;
+    for (ColorSwatch* swatch : std::as_const(m_swatches)) {
+        const bool checked = !found && swatch->code() == color;
+        swatch->setChecked(checked);
+        found = found || checked;
+    }
+}
+
+void ColorMenu::setTransparentColorVisible(bool visible)
+{
+    if (visible == m_transparentVisible)
+        return;
+    m_transparentVisible = visible;
+    arrangeSwatches();
+}
+
+void ColorMenu::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::StyleChange)
+        updateExtent();
+}
+
+void ColorMenu::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    updateExtent();
+}
+
+bool ColorMenu::eventFilter(QObject* watched, QEvent* event)
+{
+    auto* swatch = qobject_cast<ColorSwatch*>(watched);
+    if (!swatch || event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(watched, event);
+    const auto* keyEvent = static_cast<QKeyEvent*>(event);
+    if (keyEvent->key() == Qt::Key_Return || keyEvent->key() == Qt::Key_Enter) {
+        event->accept();
+        swatch->click();
+        return true;
+    }
+    return moveFocus(swatch, keyEvent->key());
+}
+
+void ColorMenu::addSwatch(const QString& name, const QString& code)
+{
+    auto* swatch = new ColorSwatch(name, code, m_scrollArea->widget());
+    swatch->installEventFilter(this);
+    connect(swatch, &ColorSwatch::clicked, this, [this, swatch] { pick(swatch); });
+    m_swatches.append(swatch);
+}
+
+// Starts on an empty grid. A swatch whose click is being delivered must outlive that.
+void ColorMenu::replaceContents()
+{
+    m_swatches.clear();
+    if (QWidget* old = m_scrollArea->takeWidget()) {
+        old->hide();
+        if (m_picksUnderWay > 0) {
+            old->setParent(this);
+            old->deleteLater();
+        } else {
+            delete old;
+        }
+    }
+    auto* contents = new QWidget;
+    auto* grid = new QGridLayout(contents);
+    grid->setContentsMargins(margin, margin, margin, margin);
+    grid->setSpacing(gap);
+    m_scrollArea->setWidget(contents);
+    contents->setAutoFillBackground(false);
+}
+
+QList<ColorSwatch*> ColorMenu::shownSwatches() const
+{
+    QList<ColorSwatch*> shown;
+    for (ColorSwatch* swatch : m_swatches) {
+        if (m_transparentVisible || swatch->code() != HostKit::transparentText())
+            shown.append(swatch);
+    }
+    return shown;
+}
+
+void ColorMenu::arrangeSwatches()
+{
+    auto* grid = static_cast<QGridLayout*>(m_scrollArea->widget()->layout());
+    for (ColorSwatch* swatch : std::as_const(m_swatches)) {
+        grid->removeWidget(swatch);
+        swatch->setVisible(m_transparentVisible || swatch->code() != HostKit::transparentText());
+    }
+    const QList<ColorSwatch*> shown = shownSwatches();
+    int place = 0;
+    for (ColorSwatch* swatch : shown) {
+        grid->addWidget(swatch, place / columns, place % columns);
+        ++place;
+    }
+    for (int column = 0; column < columns; ++column) {
+        grid->setColumnMinimumWidth(column, ColorSwatch::touchSize);
+        grid->setColumnStretch(column, 1);
+    }
+    updateExtent();
+}
+
+// As high as the rows it shows; a longer palette scrolls in them.
+void ColorMenu::updateExtent()
+{
+    const QList<ColorSwatch*> shown = shownSwatches();
+    QSize cell(ColorSwatch::touchSize, ColorSwatch::touchSize);
+    if (!shown.isEmpty()) {
+        // A host's style sheet for push buttons may add a border.
+        shown.first()->ensurePolished();
+        cell = cell.expandedTo(shown.first()->minimumSize());
+    }
+    const int rows = (int(shown.size()) + columns - 1) / columns;
+    const int shownRows = qBound(1, rows, mostRowsShown);
+    const int barWidth =
+        rows > shownRows ? m_scrollArea->verticalScrollBar()->sizeHint().width() : 0;
+    m_scrollArea->setFixedHeight(shownRows * (cell.height() + gap) - gap + 2 * margin);
+    m_scrollArea->setMinimumWidth(columns * (cell.width() + gap) - gap + 2 * margin + barWidth);
+}
+
+void ColorMenu::pick(ColorSwatch* swatch)
+{
+    const QString code = swatch->code();
+    m_selectedColor = code;
+    for (ColorSwatch* other : std::as_const(m_swatches))
+        other->setChecked(other == swatch);
+    const QPointer<ColorMenu> guard(this);
+    ++m_picksUnderWay;
+    Q_EMIT colorSignal(code);
+    if (guard)
+        --m_picksUnderWay;
+}
+
+bool ColorMenu::moveFocus(ColorSwatch* from, int key)
+{
+    const int along = isRightToLeft() ? -1 : 1;
+    int step = 0;
+    switch (key) {
+    case Qt::Key_Left:
+        step = -along;
+        break;
+    case Qt::Key_Right:
+        step = along;
+        break;
+    case Qt::Key_Up:
+        step = -columns;
+        break;
+    case Qt::Key_Down:
+        step = columns;
+        break;
+    default:
+        return false;
+    }
+    const QList<ColorSwatch*> shown = shownSwatches();
+    const qsizetype target = shown.indexOf(from) + step;
+    if (target >= 0 && target < shown.size()) {
+        shown.at(target)->setFocus(Qt::OtherFocusReason);
+        m_scrollArea->ensureWidgetVisible(shown.at(target), gap, gap);
+    }
+    return true;
+}

@@ -1,0 +1,32 @@
+#ifndef COLORTEXT_H
+#define COLORTEXT_H
+
+#include <QtCore/QString>
+
+class QColor;
+class QPainter;
+class QRectF;
+
+namespace HostKit {
+
+/** The text that stands for the entry for no colour. */
+QString transparentText();
+
+/** The text that stands for a place without anything in it. */
+QString blankText();
+
+/** True if @p text names a colour or is transparentText(). */
+bool isColorText(const QString& text);
+
+/** Black or white, whichever stands out on @p color. */
+QColor contrastColor(const QColor& color);
+
+/**
+ * Fills @p rect with the colour named by @p text: see-through colours on a chequered ground, and
+ * transparentText() as that ground with a slash through it. Texts that name no colour paint nothing.
+ */
+void fillWithColorText(QPainter* painter, const QRectF& rect, const QString& text);
+
+} // namespace HostKit
+
+#endif

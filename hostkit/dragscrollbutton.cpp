@@ -1,0 +1,49 @@
+#include "dragscrollbutton.h"
+
+#include "dragscroller.h"
+
+#include <QtGui/QMouseEvent>
+
+DragScrollButton::DragScrollButton(QWidget* parent) : DragScrollButton(QString(), parent) {}
+
+DragScrollButton::DragScrollButton(const QString& text, QWidget* parent) :
+    QPushButton(text, parent),
+    m_scroller(std::make_unique<HostKit::DragScroller>(this))
+{
+}
+
+DragScrollButton::~DragScrollButton() = default;
+
+void DragScrollButton::hideEvent(QHideEvent* event)
+{
+    m_scroller->end();
+    QPushButton::hideEvent(event);
+}
+
+void DragScrollButton::mousePressEvent(QMouseEvent* event)
+{
+    m_scroller->press(event);
+    QPushButton::mousePressEvent(event);
+}
+
+void DragScrollButton::mouseMoveEvent(QMouseEvent* event)
+{
+    const bool wasDragging = m_scroller->isDragging();
+    if (!m_scroller->move(event)) {
+        QPushButton::mouseMoveEvent(event);
+        return;
+    }
+    event->accept();
+    if (!wasDragging && isDown()) {
+        // A button that is no longer down neither repeats nor clicks when the mouse is released.
+        setDown(false);
+        Q_EMIT released();
+    }
+}
+
+void DragScrollButton::mouseReleaseEvent(QMouseEvent* event)
+{
+    // Before the base, whose clicked() may delete the button.
+    m_scroller->end();
+    QPushButton::mouseReleaseEvent(event);
+}

@@ -1,0 +1,153 @@
+#include "expandingtabbar.h"
+
+#include "colortext.h"
+
+#include <QtGui/QPainter>
+#include <QtWidgets/QStyleOptionTab>
+
+namespace {
+constexpr int spacing = 6;
+
+// The picture for a character of the host's icon font; empty for any other text.
+QString pictureFile(const QString& text)
+{
+    if (text == QLatin1String("!"))
+        return QStringLiteral(":/hostkit/ribbon.png");
+    if (text == QChar(0xe92a))
+        return QStringLiteral(":/hostkit/blank-ribbon.png");
+    if (text == QChar(0xe917))
+        return QStringLiteral(":/hostkit/supply.png");
+    return QString();
+}
+
+void paintColorRect(QPainter* painter, const QRectF& rect, const QString& color)
+{
+    painter->save();
+    painter->setBrush(Qt::NoBrush);
+    if (color == HostKit::blankText()) {
+        painter->setPen(QPen(QColor(0x84, 0x84, 0x84), 1, Qt::DashLine));
+    } else {
+        HostKit::fillWithColorText(painter, rect, color);
+        painter->setPen(QColor(0x46, 0x46, 0x46));
+    }
+    painter->drawRect(rect.adjusted(0.5, 0.5, -0.5, -0.5));
+    painter->restore();
+}
+} // namespace
+
+ExpandingTabBar::ExpandingTabBar(QWidget* parent) : QTabBar(parent) { setExpanding(true); }
+
+ExpandingTabBar::~ExpandingTabBar() = default;
+
+void ExpandingTabBar::setTabColorRect(int index, const QString& color)
+{
+    const bool known =
+        color.isEmpty() || color == HostKit::blankText() || HostKit::isColorText(color);
+    if (!known || index < 0 || index >= count() || tabColorRect(index) == color)
+        return;
+    setTabData(index, color.isEmpty() ? QVariant() : QVariant(color));
+    // Setting the text is what makes the bar lay its tabs out anew.
+    setTabText(index, tabText(index));
+    update();
+}
+
+QString ExpandingTabBar::tabColorRect(int index) const { return tabData(index).toString(); }
+
+void ExpandingTabBar::setTabToolTip(int index, const QString& toolTip)
+{
+    QTabBar::setTabToolTip(index, toolTip);
+    updateAccessibleName(index);
+}
+
+void ExpandingTabBar::tabLayoutChange()
+{
+    QTabBar::tabLayoutChange();
+    for (int index = 0; index < count(); ++index)
+        updateAccessibleName(index);
+}
+
+QSize ExpandingTabBar::tabSizeHint(int index) const
+{
+    // The base counts the text and the tab's own icon; where the icon became part of the contents it
+    // has been counted twice, which only adds some air.
+    const QSize hint = QTabBar::tabSizeHint(index);
+    const QSize extra = contentsSize(index);
+    if (extra.isEmpty())
+        return hint;
+    const bool vertical = isVertical();
+    const int length = (vertical ? hint.height() : hint.width()) + extra.width() + spacing;
+    const int breadth = qMax(vertical ? hint.width() : hint.height(), extra.height());
+    return vertical ? QSize(breadth, length) : QSize(length, breadth);
+}
+
+void ExpandingTabBar::initStyleOption(QStyleOptionTab* option, int tabIndex) const
+{
+    QTabBar::initStyleOption(option, tabIndex);
+    const QSize size = contentsSize(tabIndex);
+    if (size.isEmpty())
+        return;
+    option->icon = QIcon(contents(tabIndex));
+    option->iconSize = size;
+    if (!pictureFile(tabText(tabIndex)).isEmpty()) {
+        // Without a text to fill the tab the style would keep the icon at its left end. It centres an
+        // icon in the size it is promised, so promise the whole tab.
+        option->text.clear();
+        const int padding = style()->pixelMetric(QStyle::PM_TabBarTabHSpace, option, this);
+        const int length = isVertical() ? option->rect.height() : option->rect.width();
+        option->iconSize.setWidth(qMax(size.width(), length - padding));
+    } else if (elideMode() != Qt::ElideNone) {
+        const QRect room = style()->subElementRect(QStyle::SE_TabBarTabText, option, this);
+        option->text = fontMetrics().elidedText(tabText(tabIndex), elideMode(), room.width(),
+                                                Qt::TextShowMnemonic);
+    }
+}
+
+bool ExpandingTabBar::isVertical() const
+{
+    const Shape side = shape();
+    return side == RoundedWest || side == RoundedEast || side == TriangularWest
+           || side == TriangularEast;
+}
+
+QSize ExpandingTabBar::contentsSize(int index) const
+{
+    const bool hasPicture = !pictureFile(tabText(index)).isEmpty();
+    const bool hasColorRect = !tabColorRect(index).isEmpty();
+    if (!hasPicture && !hasColorRect)
+        return QSize();
+    const bool hasIcon = hasPicture || !tabIcon(index).isNull();
+    const QSize icon = iconSize();
+    const int width = (hasIcon ? icon.width() : 0) + (hasColorRect ? icon.width() : 0)
+                      + (hasIcon && hasColorRect ? spacing : 0) + (hasPicture ? 0 : spacing);
+    return QSize(width, icon.height());
+}
+
+// The picture or the tab's own icon, and the colour rectangle behind it, as one image.
+QPixmap ExpandingTabBar::contents(int index) const
+{
+    QPixmap image(contentsSize(index) * devicePixelRatioF());
+    image.setDevicePixelRatio(devicePixelRatioF());
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    const QString picture = pictureFile(tabText(index));
+    // In front of a text, a little way off the tab's edge.
+    QRect place(QPoint(picture.isEmpty() ? spacing : 0, 0), iconSize());
+    const QIcon icon = picture.isEmpty() ? tabIcon(index) : QIcon(picture);
+    if (!icon.isNull()) {
+        icon.paint(&painter, place);
+        place.translate(place.width() + spacing, 0);
+    }
+    const int inset = place.height() / 6;
+    if (!tabColorRect(index).isEmpty())
+        paintColorRect(&painter, place.adjusted(0, inset, 0, -inset), tabColorRect(index));
+    return image;
+}
+
+void ExpandingTabBar::updateAccessibleName(int index)
+{
+    const QString name =
+        pictureFile(tabText(index)).isEmpty() ? QString() : tabToolTip(index);
+    if (accessibleTabName(index) != name)
+        setAccessibleTabName(index, name);
+}

@@ -1,0 +1,31 @@
+#ifndef JXMODULEINFO_H
+#define JXMODULEINFO_H
+
+#include <hostkit_export.h>
+
+#include <QtCore/QObject>
+
+/** The modules of the host application. */
+class HOSTKIT_EXPORT JxModuleInfo
+{
+    Q_GADGET
+
+public:
+    /** The module on whose behalf a panel is shown. The values are part of the host's interface. */
+    enum JxModuleTypes {
+        Unspecified = 0,
+        JxLabelEditor = 1,
+        GHS = 2,
+        ArcFlashMain = 3,
+        PipeMarking = 4,
+        NFPAMain = 5,
+        JxCatalog = 6,
+        QuickPrint = 7,
+        PDFViewer = 8,
+        JavaScript = 9,
+        GraphicsViewer = 10
+    };
+    Q_ENUM(JxModuleTypes)
+};
+
+#endif

@@ -1,0 +1,23 @@
+#ifndef PLAINTOOLTIP_H
+#define PLAINTOOLTIP_H
+
+#include <QtCore/QString>
+
+class QHelpEvent;
+class QPoint;
+class QWidget;
+
+namespace HostKit {
+
+/**
+ * The text to hand to QToolTip so that @p text is shown letter for letter, where QToolTip would take
+ * some texts for markup.
+ */
+QString plainToolTip(const QString& text);
+
+/** Shows @p widget's own tool tip as plain text; what QEvent::ToolTip asks for. */
+void showPlainToolTip(QWidget* widget, QHelpEvent* event);
+
+} // namespace HostKit
+
+#endif

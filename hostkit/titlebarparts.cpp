@@ -1,0 +1,48 @@
+#include "titlebarparts.h"
+
+#include <QtGui/QIcon>
+#include <QtGui/QPainter>
+
+namespace HostKit {
+
+TitleBarLabel::TitleBarLabel(const QString& text, QWidget* parent) : QLabel(text, parent)
+{
+    setTextFormat(Qt::PlainText);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    // The bar drags the window, also by its title.
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+bool TitleBarLabel::isElided() const { return fontMetrics().horizontalAdvance(text()) > width(); }
+
+QSize TitleBarLabel::minimumSizeHint() const { return QSize(0, fontMetrics().height()); }
+
+void TitleBarLabel::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setPen(isEnabled() ? QColor(Qt::white) : QColor(0x84, 0x84, 0x84));
+    const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, width());
+    painter.drawText(rect(), Qt::AlignVCenter | Qt::AlignLeading | Qt::TextSingleLine, shown);
+}
+
+TitleBarButton::TitleBarButton(QWidget* parent) : QAbstractButton(parent)
+{
+    setObjectName(QStringLiteral("CloseButton"));
+    setFocusPolicy(Qt::NoFocus);
+    setAttribute(Qt::WA_Hover);
+    setFixedSize(sizeHint());
+}
+
+QSize TitleBarButton::sizeHint() const { return QSize(35, 35); }
+
+void TitleBarButton::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    if (underMouse() && !isDown())
+        painter.fillRect(rect(), QColor(255, 255, 255, 40));
+    const QIcon cross(isDown() ? QStringLiteral(":/hostkit/close-pressed.png")
+                               : QStringLiteral(":/hostkit/close.png"));
+    cross.paint(&painter, rect(), Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
+}
+
+} // namespace HostKit

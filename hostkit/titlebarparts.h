@@ -1,0 +1,42 @@
+#ifndef TITLEBARPARTS_H
+#define TITLEBARPARTS_H
+
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QLabel>
+
+namespace HostKit {
+
+/** The title: white, plain text, elided where it does not fit; text() stays whole. */
+class TitleBarLabel : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit TitleBarLabel(const QString& text, QWidget* parent);
+
+    /** True while the label has too little room for its text. */
+    bool isElided() const;
+
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+/** The close button, painted by itself so that a style sheet for push buttons does not change it. */
+class TitleBarButton : public QAbstractButton
+{
+    Q_OBJECT
+
+public:
+    explicit TitleBarButton(QWidget* parent);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+} // namespace HostKit
+
+#endif

@@ -1,0 +1,9 @@
+#include "whitespace.h"
+
+#include <algorithm>
+
+bool WhiteSpace::isWhiteSpace(const QString& text)
+{
+    return std::all_of(text.cbegin(), text.cend(),
+                       [](QChar character) { return character.isSpace(); });
+}
