@@ -1,0 +1,21 @@
+#include "foundation/connectionpause.h"
+
+#include <QtCore/QObject>
+
+namespace PrintPanels {
+
+ConnectionPause::ConnectionPause(QObject* sender, const char* signal, QObject* receiver,
+                                 const char* slot)
+    : m_sender(sender), m_receiver(receiver), m_signal(signal), m_slot(slot)
+{
+    QObject::disconnect(sender, signal, receiver, slot);
+}
+
+ConnectionPause::~ConnectionPause()
+{
+    // The change itself may have run a listener that deleted one of the two.
+    if (m_sender && m_receiver)
+        QObject::connect(m_sender, m_signal, m_receiver, m_slot);
+}
+
+} // namespace PrintPanels

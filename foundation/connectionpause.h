@@ -1,0 +1,32 @@
+#ifndef PRINTPANELS_CONNECTIONPAUSE_H
+#define PRINTPANELS_CONNECTIONPAUSE_H
+
+#include <QtCore/QPointer>
+
+namespace PrintPanels {
+
+/**
+ * Change without telling the host: takes one string-based connection away for its lifetime.
+ *
+ * Only the named connection pauses; other listeners of the same signal still hear of the change,
+ * which is why the signal is not blocked. After the scope the connection stands exactly once.
+ */
+class ConnectionPause
+{
+    Q_DISABLE_COPY_MOVE(ConnectionPause)
+
+public:
+    /** @p signal and @p slot are SIGNAL() and SLOT() texts and must outlive the pause. */
+    ConnectionPause(QObject* sender, const char* signal, QObject* receiver, const char* slot);
+    ~ConnectionPause();
+
+private:
+    QPointer<QObject> m_sender;
+    QPointer<QObject> m_receiver;
+    const char* m_signal;
+    const char* m_slot;
+};
+
+} // namespace PrintPanels
+
+#endif

@@ -1,0 +1,49 @@
+#include "foundation/elidedlabel.h"
+
+#include <QtGui/QHelpEvent>
+#include <QtGui/QPainter>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QToolTip>
+
+namespace PrintPanels {
+
+namespace {
+
+// More than any line can show; keeps measuring quick when a host pushes a megabyte of text.
+constexpr qsizetype longestLine = 1000;
+
+} // namespace
+
+ElidedLabel::ElidedLabel()
+{
+    setTextFormat(Qt::PlainText);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+}
+
+QString ElidedLabel::shownText() const
+{
+    const QString line = text().left(longestLine).simplified();
+    return fontMetrics().elidedText(line, Qt::ElideRight, contentsRect().width());
+}
+
+bool ElidedLabel::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip || !toolTip().isEmpty())
+        return QLabel::event(event);
+    const QString whole = text().left(longestLine);
+    const bool elided = shownText() != whole.simplified();
+    // Escaped inside a paragraph, so that the tool tip shows markup instead of following it.
+    const QString tip = elided ? QStringLiteral("<p>%1</p>").arg(whole.toHtmlEscaped()) : QString();
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, this);
+    return true;
+}
+
+void ElidedLabel::paintEvent(QPaintEvent* event)
+{
+    QFrame::paintEvent(event);
+    QPainter painter(this);
+    style()->drawItemText(&painter, contentsRect(), int(alignment()), palette(), isEnabled(),
+                          shownText(), foregroundRole());
+}
+
+} // namespace PrintPanels

@@ -1,0 +1,28 @@
+#ifndef PRINTPANELS_ELIDEDLABEL_H
+#define PRINTPANELS_ELIDEDLABEL_H
+
+#include <QtWidgets/QLabel>
+
+namespace PrintPanels {
+
+/**
+ * One line of a host's text, shown as it is and never as markup. It asks for no width: what does
+ * not fit ends in an ellipsis, and a tool tip then shows the whole. text() is always the whole
+ * text.
+ */
+class ElidedLabel : public QLabel
+{
+public:
+    ElidedLabel();
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString shownText() const;
+};
+
+} // namespace PrintPanels
+
+#endif
