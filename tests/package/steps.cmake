@@ -1,0 +1,35 @@
+# Helpers of the package tests.
+
+# Runs a command and stops the test with its output when it fails.
+function(run)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+    if(NOT result EQUAL 0)
+        string(REPLACE ";" " " command "${ARGN}")
+        message(FATAL_ERROR "${command}\nanswered ${result}:\n${output}")
+    endif()
+endfunction()
+
+# Configures and builds a project with the compiler of the build under test.
+function(build_project source build)
+    run("${CMAKE_COMMAND}" -S "${source}" -B "${build}" -G "${GENERATOR}"
+        "-DCMAKE_CXX_COMPILER=${CXX_COMPILER}" "-DCMAKE_CXX_FLAGS=${CXX_FLAGS}"
+        -DCMAKE_BUILD_TYPE=Debug ${ARGN})
+    run("${CMAKE_COMMAND}" --build "${build}")
+endfunction()
+
+# Writes the README's C++ example to a file, so that what is printed there is what is compiled.
+function(extract_readme_example file)
+    file(READ "${SOURCE_DIR}/README.md" readme)
+    string(FIND "${readme}" "```cpp\n" begin)
+    if(begin LESS 0)
+        message(FATAL_ERROR "README.md has no C++ example")
+    endif()
+    math(EXPR begin "${begin} + 7")
+    string(SUBSTRING "${readme}" ${begin} -1 rest)
+    string(FIND "${rest}" "```" end)
+    string(SUBSTRING "${rest}" 0 ${end} example)
+    file(WRITE "${file}" "${example}")
+endfunction()
+
+file(REMOVE_RECURSE "${WORK_DIR}")
+file(MAKE_DIRECTORY "${WORK_DIR}")
