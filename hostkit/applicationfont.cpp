@@ -11,7 +11,10 @@ QFont applicationFont(int pixelSize)
 }
 } // namespace
 
-QFont ApplicationFont::getWidgetFont(bool prominent) { return applicationFont(prominent ? 15 : 14); }
+QFont ApplicationFont::getWidgetFont(bool prominent)
+{
+    return applicationFont(prominent ? 15 : 14);
+}
 
 QFont ApplicationFont::getWidgetFontSmall(bool prominent)
 {

@@ -3,7 +3,6 @@
 #include "colorswatch.h"
 #include "colortext.h"
 
-#include <QtCore/QPointer>
 #include <QtGui/QColor>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QGridLayout>
@@ -22,7 +21,8 @@ constexpr int margin = 4;
 // Names for palettes that come without any.
 QString knownName(const QString& code)
 {
-    struct Known {
+    struct Known
+    {
         const char* code;
         const char* name;
     };
@@ -136,19 +136,10 @@ void ColorMenu::addSwatch(const QString& name, const QString& code)
     m_swatches.append(swatch);
 }
 
-// Starts on an empty grid. A swatch whose click is being delivered must outlive that.
+// Starts on an empty grid. Buttons stand being deleted while they deliver their click.
 void ColorMenu::replaceContents()
 {
     m_swatches.clear();
-    if (QWidget* old = m_scrollArea->takeWidget()) {
-        old->hide();
-        if (m_picksUnderWay > 0) {
-            old->setParent(this);
-            old->deleteLater();
-        } else {
-            delete old;
-        }
-    }
     auto* contents = new QWidget;
     auto* grid = new QGridLayout(contents);
     grid->setContentsMargins(margin, margin, margin, margin);
@@ -211,11 +202,8 @@ void ColorMenu::pick(ColorSwatch* swatch)
     m_selectedColor = code;
     for (ColorSwatch* other : std::as_const(m_swatches))
         other->setChecked(other == swatch);
-    const QPointer<ColorMenu> guard(this);
-    ++m_picksUnderWay;
+    // The last thing done here: a slot may delete the menu.
     Q_EMIT colorSignal(code);
-    if (guard)
-        --m_picksUnderWay;
 }
 
 bool ColorMenu::moveFocus(ColorSwatch* from, int key)

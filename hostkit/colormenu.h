@@ -13,8 +13,8 @@ class QScrollArea;
 
 /**
  * A grid of colour swatches of touch size, at most one of which is checked. The user picks one with
- * the mouse, or with the arrow keys and Space or Enter. Every entry is a child button whose object name
- * is its code.
+ * the mouse, or with the arrow keys and Space or Enter. Every entry is a child button whose object
+ * name is its code.
  */
 class HOSTKIT_EXPORT ColorMenu : public QWidget
 {
@@ -26,21 +26,21 @@ public:
     ~ColorMenu() override;
 
     /**
-     * Replaces the entries. With both lists filled, entry i has the name names[i], shown as its tool
-     * tip, and the code codes[i]; what one list has more than the other is ignored. With one list empty
-     * the other alone gives the codes, and names are found for those the kit knows. Two empty lists
-     * leave a menu without entries.
+     * Replaces the entries. With both lists filled, entry i has the name names[i], shown as its
+     * tool tip, and the code codes[i]; what one list has more than the other is ignored. With one
+     * list empty the other alone gives the codes, and names are found for those the kit knows. Two
+     * empty lists leave a menu without entries.
      *
-     * A code is "#" and hexadecimal digits, a colour name that QColor knows, or "transparent" for the
-     * entry for no colour. Entries with any other text are left out, and so is everything beyond the
-     * first 256 entries. The selected colour stays selected if the new entries have it. Emits nothing,
-     * and may be called while colorSignal() is being delivered.
+     * A code is "#" and hexadecimal digits, a colour name that QColor knows, or "transparent" for
+     * the entry for no colour. Entries with any other text are left out, and so is everything
+     * beyond the first 256 entries. The selected colour stays selected if the new entries have it.
+     * Emits nothing, and may be called while colorSignal() is being delivered.
      */
     void setColorPalette(QList<QString> names, QList<QString> codes);
 
     /**
-     * Checks the first entry whose code is exactly @p color (letter case counts) and no other; none if
-     * there is no such entry. Emits nothing.
+     * Checks the first entry whose code is exactly @p color (letter case counts) and no other; none
+     * if there is no such entry. Emits nothing.
      */
     void updateSelectedColor(QString color);
 
@@ -52,8 +52,8 @@ public:
 
 Q_SIGNALS:
     /**
-     * The user picked an entry, be it the checked one again; @p code is its code as setColorPalette()
-     * got it. The entry is checked by then. The menu may be deleted from a slot.
+     * The user picked an entry, be it the checked one again; @p code is its code as
+     * setColorPalette() got it. The entry is checked by then. The menu may be deleted from a slot.
      */
     void colorSignal(QString code);
 
@@ -75,7 +75,6 @@ private:
     QList<HostKit::ColorSwatch*> m_swatches;
     QString m_selectedColor;
     bool m_transparentVisible = false;
-    int m_picksUnderWay = 0;
 };
 
 #endif

@@ -22,9 +22,8 @@ QPainterPath rounded(const QRectF& rect, double radius)
 }
 } // namespace
 
-ColorSwatch::ColorSwatch(const QString& name, const QString& code, QWidget* parent) :
-    DragScrollButton(parent),
-    m_code(code)
+ColorSwatch::ColorSwatch(const QString& name, const QString& code, QWidget* parent)
+    : DragScrollButton(parent), m_code(code)
 {
     setObjectName(code);
     setToolTip(name);
@@ -37,11 +36,20 @@ ColorSwatch::ColorSwatch(const QString& name, const QString& code, QWidget* pare
 
 ColorSwatch::~ColorSwatch() = default;
 
-QString ColorSwatch::code() const { return m_code; }
+QString ColorSwatch::code() const
+{
+    return m_code;
+}
 
-QSize ColorSwatch::minimumSizeHint() const { return QSize(touchSize, touchSize); }
+QSize ColorSwatch::minimumSizeHint() const
+{
+    return QSize(touchSize, touchSize);
+}
 
-QSize ColorSwatch::sizeHint() const { return minimumSizeHint(); }
+QSize ColorSwatch::sizeHint() const
+{
+    return minimumSizeHint();
+}
 
 bool ColorSwatch::event(QEvent* event)
 {
@@ -53,7 +61,10 @@ bool ColorSwatch::event(QEvent* event)
 }
 
 // Picking the checked swatch again leaves it checked.
-void ColorSwatch::nextCheckState() { setChecked(true); }
+void ColorSwatch::nextCheckState()
+{
+    setChecked(true);
+}
 
 void ColorSwatch::paintEvent(QPaintEvent*)
 {
@@ -89,9 +100,11 @@ void ColorSwatch::paintEvent(QPaintEvent*)
 void ColorSwatch::paintCheckMark(QPainter* painter, const QRectF& field) const
 {
     const QPointF centre = field.center();
-    const QPolygonF mark({centre + QPointF(-6, 0), centre + QPointF(-2, 4.5), centre + QPointF(6.5, -5)});
+    const QPolygonF mark(
+        {centre + QPointF(-6, 0), centre + QPointF(-2, 4.5), centre + QPointF(6.5, -5)});
     const QColor color = contrastColor(QColor(m_code));
-    QPen pen(color == Qt::black ? Qt::white : Qt::black, 5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    QPen pen(color == Qt::black ? Qt::white : Qt::black, 5, Qt::SolidLine, Qt::RoundCap,
+             Qt::RoundJoin);
     if (m_code == transparentText()) {
         painter->setPen(pen);
         painter->drawPolyline(mark);

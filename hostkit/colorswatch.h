@@ -5,7 +5,8 @@
 
 namespace HostKit {
 
-/** One entry of a ColorMenu: a button that paints its colour and cannot be unchecked by the user. */
+/** One entry of a ColorMenu: a button that paints its colour and cannot be unchecked by the user.
+ */
 class ColorSwatch : public DragScrollButton
 {
     Q_OBJECT

@@ -19,19 +19,24 @@ void fillChequered(QPainter* painter, const QRectF& rect)
 }
 } // namespace
 
-QString transparentText() { return QStringLiteral("transparent"); }
+QString transparentText()
+{
+    return QStringLiteral("transparent");
+}
 
-QString blankText() { return QStringLiteral("blank"); }
+QString blankText()
+{
+    return QStringLiteral("blank");
+}
 
 bool isColorText(const QString& text)
 {
-    return text == transparentText() || QColor::isValidColor(text);
+    return QColor::isValidColor(text);
 }
 
 QColor contrastColor(const QColor& color)
 {
-    const double luminance =
-        0.299 * color.redF() + 0.587 * color.greenF() + 0.114 * color.blueF();
+    const double luminance = 0.299 * color.redF() + 0.587 * color.greenF() + 0.114 * color.blueF();
     return luminance * color.alphaF() + (1 - color.alphaF()) > 0.55 ? Qt::black : Qt::white;
 }
 

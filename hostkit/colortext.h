@@ -15,7 +15,7 @@ QString transparentText();
 /** The text that stands for a place without anything in it. */
 QString blankText();
 
-/** True if @p text names a colour or is transparentText(). */
+/** True if QColor takes @p text for a colour, as it does transparentText(). */
 bool isColorText(const QString& text);
 
 /** Black or white, whichever stands out on @p color. */
@@ -23,7 +23,8 @@ QColor contrastColor(const QColor& color);
 
 /**
  * Fills @p rect with the colour named by @p text: see-through colours on a chequered ground, and
- * transparentText() as that ground with a slash through it. Texts that name no colour paint nothing.
+ * transparentText() as that ground with a slash through it. Texts that name no colour paint
+ * nothing.
  */
 void fillWithColorText(QPainter* painter, const QRectF& rect, const QString& text);
 

@@ -10,10 +10,10 @@
 #include <QtWidgets/QToolTip>
 
 ContainerTitleBar::ContainerTitleBar(QWidget* parent, const QString& title,
-                                     const QString& closeToolTip, int titlePixelSize) :
-    QWidget(parent),
-    m_label(new HostKit::TitleBarLabel(title, this)),
-    m_closeButton(new HostKit::TitleBarButton(this))
+                                     const QString& closeToolTip, int titlePixelSize)
+    : QWidget(parent),
+      m_label(new HostKit::TitleBarLabel(title, this)),
+      m_closeButton(new HostKit::TitleBarButton(this))
 {
     if (titlePixelSize > 0) {
         QFont titleFont = font();
@@ -35,9 +35,15 @@ ContainerTitleBar::ContainerTitleBar(QWidget* parent, const QString& title,
 
 ContainerTitleBar::~ContainerTitleBar() = default;
 
-QString ContainerTitleBar::title() const { return m_label->text(); }
+QString ContainerTitleBar::title() const
+{
+    return m_label->text();
+}
 
-void ContainerTitleBar::setTitle(const QString& title) { m_label->setText(title); }
+void ContainerTitleBar::setTitle(const QString& title)
+{
+    m_label->setText(title);
+}
 
 bool ContainerTitleBar::event(QEvent* event)
 {

@@ -11,11 +11,12 @@
 namespace HostKit {
 class TitleBarButton;
 class TitleBarLabel;
-}
+} // namespace HostKit
 
 /**
- * The title bar of a frameless window: a title, a close button, and a surface by which the user drags
- * the window. The bar moves and closes nothing itself; its signals say what the window should do.
+ * The title bar of a frameless window: a title, a close button, and a surface by which the user
+ * drags the window. The bar moves and closes nothing itself; its signals say what the window should
+ * do.
  */
 class HOSTKIT_EXPORT ContainerTitleBar : public QWidget
 {
@@ -23,10 +24,10 @@ class HOSTKIT_EXPORT ContainerTitleBar : public QWidget
 
 public:
     /**
-     * Creates a bar with the text @p title, shown as plain text and elided when it is too long, in a
-     * font of @p titlePixelSize pixels (kept as it is when that is not positive). @p closeToolTip is
-     * the tool tip of the close button; empty for none. @p parent (may be null) owns the bar. A later
-     * setFont() changes the title's font.
+     * Creates a bar with the text @p title, shown as plain text and elided when it is too long, in
+     * a font of @p titlePixelSize pixels (kept as it is when that is not positive). @p closeToolTip
+     * is the tool tip of the close button; empty for none. @p parent (may be null) owns the bar. A
+     * later setFont() changes the title's font.
      */
     ContainerTitleBar(QWidget* parent, const QString& title, const QString& closeToolTip,
                       int titlePixelSize);
@@ -43,8 +44,9 @@ Q_SIGNALS:
     void closeButtonClicked();
 
     /**
-     * The user drags the bar with the left mouse button: the window that holds the bar should have its
-     * top left corner at (@p x, @p y) of the screen, in device-independent pixels, for QWidget::move().
+     * The user drags the bar with the left mouse button: the window that holds the bar should have
+     * its top left corner at (@p x, @p y) of the screen, in device-independent pixels, for
+     * QWidget::move().
      */
     void signalMove(int x, int y);
 

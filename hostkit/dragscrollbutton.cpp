@@ -6,9 +6,8 @@
 
 DragScrollButton::DragScrollButton(QWidget* parent) : DragScrollButton(QString(), parent) {}
 
-DragScrollButton::DragScrollButton(const QString& text, QWidget* parent) :
-    QPushButton(text, parent),
-    m_scroller(std::make_unique<HostKit::DragScroller>(this))
+DragScrollButton::DragScrollButton(const QString& text, QWidget* parent)
+    : QPushButton(text, parent), m_scroller(std::make_unique<HostKit::DragScroller>(this))
 {
 }
 

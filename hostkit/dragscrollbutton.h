@@ -13,9 +13,9 @@ class DragScroller;
 
 /**
  * A push button for panels that lie in a scroll area: a press that turns into a drag (beyond
- * QApplication::startDragDistance()) scrolls the nearest enclosing QScrollArea that has something to
- * scroll. Such a press ends in released() without clicked(), and auto-repeat stops. Outside a scroll
- * area it is a plain QPushButton.
+ * QApplication::startDragDistance()) scrolls the nearest enclosing QScrollArea that has something
+ * to scroll. Such a press ends in released() without clicked(), and auto-repeat stops. Outside a
+ * scroll area it is a plain QPushButton.
  */
 class HOSTKIT_EXPORT DragScrollButton : public QPushButton
 {

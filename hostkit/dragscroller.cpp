@@ -8,7 +8,10 @@
 namespace HostKit {
 
 namespace {
-bool hasRange(const QScrollBar* bar) { return bar->maximum() > bar->minimum(); }
+bool hasRange(const QScrollBar* bar)
+{
+    return bar->maximum() > bar->minimum();
+}
 } // namespace
 
 DragScroller::DragScroller(QWidget* widget) : m_widget(widget) {}
@@ -51,7 +54,10 @@ void DragScroller::end()
     m_dragging = false;
 }
 
-bool DragScroller::isDragging() const { return m_dragging; }
+bool DragScroller::isDragging() const
+{
+    return m_dragging;
+}
 
 QScrollArea* DragScroller::enclosingScrollArea() const
 {

@@ -11,8 +11,8 @@ class QWidget;
 namespace HostKit {
 
 /**
- * Turns a press and drag on a widget into scrolling of the scroll area around it. The widget forwards
- * its mouse events and asks what they have become.
+ * Turns a press and drag on a widget into scrolling of the scroll area around it. The widget
+ * forwards its mouse events and asks what they have become.
  */
 class DragScroller
 {

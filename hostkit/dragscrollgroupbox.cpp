@@ -4,9 +4,8 @@
 
 #include <QtGui/QMouseEvent>
 
-DragScrollGroupBox::DragScrollGroupBox(QWidget* parent) :
-    QWidget(parent),
-    m_scroller(std::make_unique<HostKit::DragScroller>(this))
+DragScrollGroupBox::DragScrollGroupBox(QWidget* parent)
+    : QWidget(parent), m_scroller(std::make_unique<HostKit::DragScroller>(this))
 {
     setAttribute(Qt::WA_StyledBackground);
 }

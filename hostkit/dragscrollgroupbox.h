@@ -13,8 +13,8 @@ class DragScroller;
 
 /**
  * A plain container. A drag that starts on it, or on a child that does not use the mouse itself,
- * scrolls the nearest enclosing QScrollArea that has something to scroll. It paints the background and
- * border that a style sheet gives it.
+ * scrolls the nearest enclosing QScrollArea that has something to scroll. It paints the background
+ * and border that a style sheet gives it.
  */
 class HOSTKIT_EXPORT DragScrollGroupBox : public QWidget
 {

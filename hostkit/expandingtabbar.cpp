@@ -35,7 +35,10 @@ void paintColorRect(QPainter* painter, const QRectF& rect, const QString& color)
 }
 } // namespace
 
-ExpandingTabBar::ExpandingTabBar(QWidget* parent) : QTabBar(parent) { setExpanding(true); }
+ExpandingTabBar::ExpandingTabBar(QWidget* parent) : QTabBar(parent)
+{
+    setExpanding(true);
+}
 
 ExpandingTabBar::~ExpandingTabBar() = default;
 
@@ -51,7 +54,10 @@ void ExpandingTabBar::setTabColorRect(int index, const QString& color)
     update();
 }
 
-QString ExpandingTabBar::tabColorRect(int index) const { return tabData(index).toString(); }
+QString ExpandingTabBar::tabColorRect(int index) const
+{
+    return tabData(index).toString();
+}
 
 void ExpandingTabBar::setTabToolTip(int index, const QString& toolTip)
 {
@@ -68,8 +74,8 @@ void ExpandingTabBar::tabLayoutChange()
 
 QSize ExpandingTabBar::tabSizeHint(int index) const
 {
-    // The base counts the text and the tab's own icon; where the icon became part of the contents it
-    // has been counted twice, which only adds some air.
+    // The base counts the text and the tab's own icon; where the icon became part of the contents
+    // it has been counted twice, which only adds some air.
     const QSize hint = QTabBar::tabSizeHint(index);
     const QSize extra = contentsSize(index);
     if (extra.isEmpty())
@@ -89,8 +95,8 @@ void ExpandingTabBar::initStyleOption(QStyleOptionTab* option, int tabIndex) con
     option->icon = QIcon(contents(tabIndex));
     option->iconSize = size;
     if (!pictureFile(tabText(tabIndex)).isEmpty()) {
-        // Without a text to fill the tab the style would keep the icon at its left end. It centres an
-        // icon in the size it is promised, so promise the whole tab.
+        // Without a text to fill the tab the style would keep the icon at its left end. It centres
+        // an icon in the size it is promised, so promise the whole tab.
         option->text.clear();
         const int padding = style()->pixelMetric(QStyle::PM_TabBarTabHSpace, option, this);
         const int length = isVertical() ? option->rect.height() : option->rect.width();
@@ -105,8 +111,8 @@ void ExpandingTabBar::initStyleOption(QStyleOptionTab* option, int tabIndex) con
 bool ExpandingTabBar::isVertical() const
 {
     const Shape side = shape();
-    return side == RoundedWest || side == RoundedEast || side == TriangularWest
-           || side == TriangularEast;
+    return side == RoundedWest || side == RoundedEast || side == TriangularWest ||
+           side == TriangularEast;
 }
 
 QSize ExpandingTabBar::contentsSize(int index) const
@@ -117,8 +123,8 @@ QSize ExpandingTabBar::contentsSize(int index) const
         return QSize();
     const bool hasIcon = hasPicture || !tabIcon(index).isNull();
     const QSize icon = iconSize();
-    const int width = (hasIcon ? icon.width() : 0) + (hasColorRect ? icon.width() : 0)
-                      + (hasIcon && hasColorRect ? spacing : 0) + (hasPicture ? 0 : spacing);
+    const int width = (hasIcon ? icon.width() : 0) + (hasColorRect ? icon.width() : 0) +
+                      (hasIcon && hasColorRect ? spacing : 0) + (hasPicture ? 0 : spacing);
     return QSize(width, icon.height());
 }
 
@@ -132,7 +138,8 @@ QPixmap ExpandingTabBar::contents(int index) const
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     const QString picture = pictureFile(tabText(index));
     // In front of a text, a little way off the tab's edge.
-    QRect place(QPoint(picture.isEmpty() ? spacing : 0, 0), iconSize());
+    const bool indented = picture.isEmpty() && !isRightToLeft();
+    QRect place(QPoint(indented ? spacing : 0, 0), iconSize());
     const QIcon icon = picture.isEmpty() ? tabIcon(index) : QIcon(picture);
     if (!icon.isNull()) {
         icon.paint(&painter, place);
@@ -146,8 +153,9 @@ QPixmap ExpandingTabBar::contents(int index) const
 
 void ExpandingTabBar::updateAccessibleName(int index)
 {
-    const QString name =
-        pictureFile(tabText(index)).isEmpty() ? QString() : tabToolTip(index);
-    if (accessibleTabName(index) != name)
-        setAccessibleTabName(index, name);
+    const QString toolTip = tabToolTip(index);
+    if (!pictureFile(tabText(index)).isEmpty())
+        setAccessibleTabName(index, toolTip);
+    else if (accessibleTabName(index) == toolTip)
+        setAccessibleTabName(index, QString());
 }

@@ -22,7 +22,8 @@ public:
     ~ExpandingTabBar() override;
 
     /**
-     * Shows a rectangle of the colour @p color on tab @p index (zero-based). The text is a colour code
+     * Shows a rectangle of the colour @p color on tab @p index (zero-based). The text is a colour
+     * code
      * ("#" and hexadecimal digits) or a colour name that QColor knows; "transparent" shows a
      * see-through rectangle, "blank" a dashed empty outline, and an empty text takes the rectangle
      * away. Any other text, and an index without a tab, changes nothing.

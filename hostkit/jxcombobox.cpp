@@ -5,8 +5,8 @@
 #include <QtGui/QHelpEvent>
 #include <QtGui/QWheelEvent>
 #include <QtWidgets/QAbstractItemView>
-#include <QtWidgets/QStyledItemDelegate>
 #include <QtWidgets/QStylePainter>
+#include <QtWidgets/QStyledItemDelegate>
 #include <QtWidgets/QToolTip>
 
 namespace {
@@ -31,7 +31,12 @@ JxComboBox::JxComboBox(QWidget* parent) : QComboBox(parent)
     // The delegates that QComboBox chooses itself do not know the row height of a style sheet.
     setItemDelegate(new QStyledItemDelegate(this));
     view()->setTextElideMode(Qt::ElideRight);
-    connect(this, &QComboBox::textActivated, this, qOverload<const QString&>(&JxComboBox::activated));
+    QPalette colors = view()->palette();
+    colors.setColor(QPalette::Highlight, QColor(0xfd, 0x78, 0x00));
+    colors.setColor(QPalette::HighlightedText, QColor(0x06, 0x06, 0x06));
+    view()->setPalette(colors);
+    connect(this, &QComboBox::textActivated, this,
+            qOverload<const QString&>(&JxComboBox::activated));
 }
 
 JxComboBox::~JxComboBox() = default;
@@ -76,14 +81,15 @@ bool JxComboBox::eventFilter(QObject* watched, QEvent* event)
 bool JxComboBox::showItemToolTip(const QPoint& position, const QPoint& globalPosition)
 {
     const QModelIndex index = view()->indexAt(position);
-    const QRect itemRect = view()->visualRect(index);
+    const QWidget* viewport = view()->viewport();
     QString text = index.data(Qt::ToolTipRole).toString();
-    if (text.isEmpty() && view()->sizeHintForIndex(index).width() > itemRect.width())
+    if (text.isEmpty() && view()->sizeHintForIndex(index).width() > viewport->width())
         text = index.data(Qt::DisplayRole).toString();
     if (text.isEmpty())
         QToolTip::hideText();
     else
-        QToolTip::showText(globalPosition, HostKit::plainToolTip(text), view()->viewport(), itemRect);
+        QToolTip::showText(globalPosition, HostKit::plainToolTip(text), view()->viewport(),
+                           view()->visualRect(index));
     return true;
 }
 
@@ -98,9 +104,10 @@ void JxComboBox::paintEvent(QPaintEvent*)
         option.palette.setBrush(QPalette::ButtonText, option.palette.placeholderText());
         option.currentText = placeholderText();
     }
-    int room = style()
-                   ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this)
-                   .width();
+    int room =
+        style()
+            ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this)
+            .width();
     if (!option.currentIcon.isNull())
         room -= option.iconSize.width() + 4;
     option.currentText =

@@ -10,11 +10,11 @@
  * passes over it changes nothing unless the box has the focus.
  *
  * Texts are data, never markup: item texts, tool tips of items and the box's own tool tip are shown
- * letter for letter, while toolTip() and the item data keep what was set. An item without a tool tip
- * whose text does not fit shows its text as one.
+ * letter for letter, while toolTip() and the item data keep what was set. An item without a tool
+ * tip whose text does not fit shows its text as one.
  *
- * The focus policy starts as Qt::StrongFocus, so that the wheel does not give the focus either; with
- * Qt::NoFocus the box is still operated by mouse.
+ * The focus policy starts as Qt::StrongFocus, so that the wheel does not give the focus either;
+ * with Qt::NoFocus the box is still operated by mouse.
  */
 class HOSTKIT_EXPORT JxComboBox : public QComboBox
 {
@@ -38,8 +38,8 @@ public:
 
 Q_SIGNALS:
     /**
-     * The user picked the item with the text @p text, also when it was the current one. Changes made
-     * by the program do not emit it.
+     * The user picked the item with the text @p text, also when it was the current one. Changes
+     * made by the program do not emit it.
      */
     void activated(const QString& text);
 

@@ -1,6 +1,11 @@
 #include "jxpushbuttonstyleproxy.h"
 
-JxPushButtonStyleProxy::JxPushButtonStyleProxy(QStyle* baseStyle) : QProxyStyle(baseStyle) {}
+#include <QtWidgets/QApplication>
+
+JxPushButtonStyleProxy::JxPushButtonStyleProxy(QStyle* baseStyle)
+    : QProxyStyle(baseStyle == QApplication::style() ? nullptr : baseStyle)
+{
+}
 
 JxPushButtonStyleProxy::~JxPushButtonStyleProxy() = default;
 

@@ -9,8 +9,8 @@
  * A style for push buttons of the host's look: no frame inside the button that has the focus, and a
  * text that stays in its place while the button is pressed.
  *
- * QWidget::setStyle() does not take a style over: whoever creates the proxy keeps it alive as long as
- * the widget uses it, best by QObject::setParent() with that widget.
+ * QWidget::setStyle() does not take a style over: whoever creates the proxy keeps it alive as long
+ * as the widget uses it, best by QObject::setParent() with that widget.
  */
 class HOSTKIT_EXPORT JxPushButtonStyleProxy : public QProxyStyle
 {
@@ -18,8 +18,9 @@ class HOSTKIT_EXPORT JxPushButtonStyleProxy : public QProxyStyle
 
 public:
     /**
-     * Creates a proxy of @p baseStyle, which it takes over; so never give it a style that is in use
-     * elsewhere, such as QApplication::style(). Null: a style of the application's kind.
+     * Creates a proxy of @p baseStyle, which it takes over; so never give it a style that another
+     * widget uses. With null, or QApplication::style(), it works on a style of its own of the
+     * application's kind.
      */
     explicit JxPushButtonStyleProxy(QStyle* baseStyle = nullptr);
     ~JxPushButtonStyleProxy() override;

@@ -2,7 +2,10 @@
 
 #include <QtGui/QWheelEvent>
 
-JxSpinBox::JxSpinBox(QWidget* parent) : QSpinBox(parent) { setFocusPolicy(Qt::StrongFocus); }
+JxSpinBox::JxSpinBox(QWidget* parent) : QSpinBox(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+}
 
 JxSpinBox::~JxSpinBox() = default;
 

@@ -7,8 +7,8 @@
 
 /**
  * A spin box whose value does not change when the wheel passes over it without the focus; the wheel
- * then scrolls whatever the box lies in. The focus policy starts as Qt::StrongFocus, so that the wheel
- * does not give the focus either.
+ * then scrolls whatever the box lies in. The focus policy starts as Qt::StrongFocus, so that the
+ * wheel does not give the focus either.
  */
 class HOSTKIT_EXPORT JxSpinBox : public QSpinBox
 {

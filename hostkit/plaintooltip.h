@@ -10,8 +10,8 @@ class QWidget;
 namespace HostKit {
 
 /**
- * The text to hand to QToolTip so that @p text is shown letter for letter, where QToolTip would take
- * some texts for markup.
+ * The text to hand to QToolTip so that @p text is shown letter for letter, where QToolTip would
+ * take some texts for markup.
  */
 QString plainToolTip(const QString& text);
 

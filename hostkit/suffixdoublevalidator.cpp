@@ -3,9 +3,6 @@
 #include <QtCore/QLocale>
 
 namespace {
-// No double has more digits in front of the point than this.
-constexpr qsizetype mostIntegerDigits = 309;
-
 bool isDigit(QChar character)
 {
     return character >= QLatin1Char('0') && character <= QLatin1Char('9');
@@ -37,17 +34,17 @@ qsizetype numberLength(QStringView text, const QString& suffix)
 } // namespace
 
 SuffixDoubleValidator::SuffixDoubleValidator(double bottom, double top, int decimals,
-                                             QWidget* parent) :
-    QValidator(parent),
-    m_bottom(bottom),
-    m_top(top),
-    m_decimals(qMax(0, decimals))
+                                             QWidget* parent)
+    : QValidator(parent), m_bottom(bottom), m_top(top), m_decimals(qMax(0, decimals))
 {
 }
 
 SuffixDoubleValidator::~SuffixDoubleValidator() = default;
 
-QString SuffixDoubleValidator::suffix() const { return m_suffix; }
+QString SuffixDoubleValidator::suffix() const
+{
+    return m_suffix;
+}
 
 void SuffixDoubleValidator::setSuffix(const QString& suffix)
 {
@@ -62,7 +59,7 @@ QValidator::State SuffixDoubleValidator::validate(QString& text, int&) const
     const QStringView whole(text);
     const qsizetype length = numberLength(whole, m_suffix);
     const QStringView rest = whole.mid(length);
-    if (!QStringView(m_suffix).startsWith(rest))
+    if (!rest.isEmpty() && !QStringView(m_suffix).startsWith(rest))
         return Invalid;
     const State number = validateNumber(whole.left(length));
     const bool complete = rest.isEmpty() || rest.size() == m_suffix.size();
@@ -96,21 +93,14 @@ QValidator::State SuffixDoubleValidator::validateNumber(QStringView number) cons
 
 QValidator::State SuffixDoubleValidator::validateValue(QStringView number) const
 {
-    const bool negative = number.startsWith(QLatin1Char('-'));
-    QStringView magnitude = number.mid(negative ? 1 : 0);
-    while (magnitude.startsWith(QLatin1Char('0')))
-        magnitude = magnitude.mid(1);
-    if (countDigits(magnitude) > mostIntegerDigits)
-        return Invalid;
-    // Without its leading zeros the text is ".5" or even empty where it was "0.5" or "0".
     bool ok = false;
-    const double size = QLocale::c().toDouble(QLatin1Char('0') + magnitude.toString(), &ok);
+    const double value = QLocale::c().toDouble(number, &ok);
     if (!ok)
         return Invalid;
-    const double value = negative ? -size : size;
     if (value >= m_bottom && value <= m_top)
         return Acceptable;
     // More digits lead away from zero, never towards it.
+    const bool negative = number.startsWith(QLatin1Char('-'));
     const bool tooCloseToZero = negative ? value > m_top : value < m_bottom;
     return tooCloseToZero ? Intermediate : Invalid;
 }

@@ -7,20 +7,20 @@
 #include <QtWidgets/QWidget>
 
 /**
- * Validates a decimal number that a suffix such as " in" may follow, the C locale's way whatever the
- * application's locale is:
+ * Validates a decimal number that a suffix such as " in" may follow, the C locale's way whatever
+ * the application's locale is:
  *
  *     text   = number [ suffix ]
  *     number = [ "-" ] ( digits [ "." digits ] | "." digits )
  *     digits = ( "0" | ... | "9" ) { "0" | ... | "9" }
  *
- * The minus sign is allowed only when the lower bound is negative, the point only when decimals are.
- * There are no plus sign, exponent, group separators or blanks other than the suffix's own; the suffix
- * counts letter for letter.
+ * The minus sign is allowed only when the lower bound is negative, the point only when decimals
+ * are. There are no plus sign, exponent, group separators or blanks other than the suffix's own;
+ * the suffix counts letter for letter.
  *
  * Acceptable: such a text whose number lies in the range.
- * Intermediate: what typing on can still make acceptable: nothing at all, a number cut off behind its
- * sign or point, a suffix cut off or without a number, and a number that is too close to zero.
+ * Intermediate: what typing on can still make acceptable: nothing at all, a number cut off behind
+ * its sign or point, a suffix cut off or without a number, and a number that is too close to zero.
  * Invalid: everything else, also a number that is too far from zero or has too many decimals.
  *
  * A suffix is expected not to begin with a digit, a point or a minus sign.
@@ -32,9 +32,9 @@ class HOSTKIT_EXPORT SuffixDoubleValidator : public QValidator
 public:
     /**
      * Creates a validator for numbers from @p bottom to @p top, both included, with at most
-     * @p decimals digits behind the point (none if negative), and without a suffix. With bounds that no
-     * number satisfies (@p bottom above @p top, or not a number) nothing is acceptable. @p parent (may
-     * be null) owns the validator.
+     * @p decimals digits behind the point (none if negative), and without a suffix. With bounds
+     * that no number satisfies (@p bottom above @p top, or not a number) nothing is acceptable. @p
+     * parent (may be null) owns the validator.
      */
     SuffixDoubleValidator(double bottom, double top, int decimals, QWidget* parent = nullptr);
     ~SuffixDoubleValidator() override;

@@ -9,13 +9,17 @@ TitleBarLabel::TitleBarLabel(const QString& text, QWidget* parent) : QLabel(text
 {
     setTextFormat(Qt::PlainText);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    // The bar drags the window, also by its title.
-    setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
-bool TitleBarLabel::isElided() const { return fontMetrics().horizontalAdvance(text()) > width(); }
+bool TitleBarLabel::isElided() const
+{
+    return fontMetrics().horizontalAdvance(text()) > width();
+}
 
-QSize TitleBarLabel::minimumSizeHint() const { return QSize(0, fontMetrics().height()); }
+QSize TitleBarLabel::minimumSizeHint() const
+{
+    return QSize(0, fontMetrics().height());
+}
 
 void TitleBarLabel::paintEvent(QPaintEvent*)
 {
@@ -33,7 +37,10 @@ TitleBarButton::TitleBarButton(QWidget* parent) : QAbstractButton(parent)
     setFixedSize(sizeHint());
 }
 
-QSize TitleBarButton::sizeHint() const { return QSize(35, 35); }
+QSize TitleBarButton::sizeHint() const
+{
+    return QSize(35, 35);
+}
 
 void TitleBarButton::paintEvent(QPaintEvent*)
 {

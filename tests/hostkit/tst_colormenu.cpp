@@ -1,0 +1,588 @@
+#include "inputevents.h"
+#include "support/stricttest.h"
+
+#include <colormenu.h>
+
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QPointer>
+#include <QtTest/QSignalSpy>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QDialog>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QStackedWidget>
+#include <QtWidgets/QVBoxLayout>
+
+class TestColorMenu : public StrictTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void emptyListsGiveNoEntries();
+    void firstListAloneFillsTheMenu();
+    void secondListAloneFillsTheMenu();
+    void namesAndCodesAreIndexAligned();
+    void surplusEntriesAreIgnored_data();
+    void surplusEntriesAreIgnored();
+    void invalidCodesAreLeftOut();
+    void knownCodesGetNames_data();
+    void knownCodesGetNames();
+    void toolTipIsShownLetterForLetter();
+    void transparentEntryIsHiddenUntilItIsAskedFor();
+    void transparentChoiceOutlivesThePalette();
+    void transparentEntryInTheMiddleLeavesNoHole();
+    void paletteWithoutTransparentGetsNone();
+    void updateSelectedColorChecksExactlyOneEntry();
+    void updateSelectedColorComparesLetterForLetter();
+    void selectionOutlivesThePalette();
+    void onlyTheFirstOfEqualCodesIsChecked();
+    void pickingWithTheMouseTellsTheCode();
+    void pickingTheCheckedEntryTellsItAgain();
+    void keyboardMovesAndPicks();
+    void enterDoesNotReachTheDialog();
+    void arrowKeysStayInTheMenu_data();
+    void arrowKeysStayInTheMenu();
+    void paletteMayChangeWhileTheSignalIsDelivered();
+    void menuMayBeDeletedWhileTheSignalIsDelivered_data();
+    void menuMayBeDeletedWhileTheSignalIsDelivered();
+    void hugePaletteIsCutOff();
+    void longPaletteScrolls();
+    void shortPaletteIsShownWhole();
+    void swatchesAreOfTouchSize();
+    void checkedStateIsVisibleOnEveryColor_data();
+    void checkedStateIsVisibleOnEveryColor();
+    void connectsByText();
+};
+
+namespace {
+const QList<QString> defaults = {QStringLiteral("#ffffff"), QStringLiteral("#000000"),
+                                 QStringLiteral("#dc0b0b"), QStringLiteral("#f28000"),
+                                 QStringLiteral("#fedb00"), QStringLiteral("#248d4f"),
+                                 QStringLiteral("#0018a8"), QStringLiteral("#00FFFF"),
+                                 QStringLiteral("#473333"), QStringLiteral("transparent")};
+
+struct Menu : ColorMenu
+{
+    explicit Menu(const QList<QString>& first = {}, const QList<QString>& second = {})
+        : ColorMenu(nullptr)
+    {
+        setColorPalette(first, second);
+    }
+
+    QList<QAbstractButton*> shown() const
+    {
+        QList<QAbstractButton*> buttons;
+        for (QAbstractButton* button : findChildren<QAbstractButton*>()) {
+            if (!button->isHidden() && !button->parentWidget()->isHidden())
+                buttons.append(button);
+        }
+        return buttons;
+    }
+
+    QList<QString> codes() const
+    {
+        QList<QString> codes;
+        for (const QAbstractButton* button : shown())
+            codes.append(button->objectName());
+        return codes;
+    }
+
+    QList<QString> checkedCodes() const
+    {
+        QList<QString> codes;
+        for (const QAbstractButton* button : shown()) {
+            if (button->isChecked())
+                codes.append(button->objectName());
+        }
+        return codes;
+    }
+
+    QAbstractButton* swatch(const QString& code) const { return findChild<QAbstractButton*>(code); }
+
+    void click(const QString& code) { QTest::mouseClick(swatch(code), Qt::LeftButton); }
+};
+
+QList<QString> manyCodes(int count)
+{
+    QList<QString> codes;
+    for (int i = 0; i < count; ++i)
+        codes.append(QColor(i % 256, (i / 256) % 256, 77).name());
+    return codes;
+}
+} // namespace
+
+void TestColorMenu::emptyListsGiveNoEntries()
+{
+    Menu menu;
+    QSignalSpy picked(&menu, SIGNAL(colorSignal(QString)));
+    menu.setTransparentColorVisible(true);
+    QCOMPARE(menu.codes(), QList<QString>());
+    menu.setColorPalette(defaults, {});
+    menu.setColorPalette({}, {});
+    QCOMPARE(menu.codes(), QList<QString>());
+    menu.updateSelectedColor(QStringLiteral("#ffffff"));
+    menu.show();
+    QTest::mouseClick(&menu, Qt::LeftButton);
+    QTest::keyClick(&menu, Qt::Key_Space);
+    QVERIFY(!menu.grab().isNull());
+    QCOMPARE(picked.count(), 0);
+}
+
+void TestColorMenu::firstListAloneFillsTheMenu()
+{
+    Menu menu(defaults);
+    menu.setTransparentColorVisible(true);
+    QCOMPARE(menu.codes(), defaults);
+}
+
+void TestColorMenu::secondListAloneFillsTheMenu()
+{
+    Menu menu({}, {QStringLiteral("#dc0b0b"), QStringLiteral("#0018a8")});
+    QCOMPARE(menu.codes(), QList<QString>({QStringLiteral("#dc0b0b"), QStringLiteral("#0018a8")}));
+}
+
+void TestColorMenu::namesAndCodesAreIndexAligned()
+{
+    Menu menu({QStringLiteral("Cherry"), QStringLiteral("Ink")},
+              {QStringLiteral("#dc0b0b"), QStringLiteral("#0018a8")});
+    QCOMPARE(menu.codes(), QList<QString>({QStringLiteral("#dc0b0b"), QStringLiteral("#0018a8")}));
+    QCOMPARE(menu.swatch(QStringLiteral("#dc0b0b"))->toolTip(), QStringLiteral("Cherry"));
+    QCOMPARE(menu.swatch(QStringLiteral("#0018a8"))->toolTip(), QStringLiteral("Ink"));
+    QCOMPARE(menu.swatch(QStringLiteral("#0018a8"))->accessibleName(), QStringLiteral("Ink"));
+}
+
+void TestColorMenu::surplusEntriesAreIgnored_data()
+{
+    QTest::addColumn<QList<QString>>("names");
+    QTest::addColumn<QList<QString>>("codes");
+    const QString name = QStringLiteral("Cherry");
+    const QString code = QStringLiteral("#dc0b0b");
+    QTest::newRow("more names") << QList<QString>{name, name, name} << QList<QString>{code};
+    QTest::newRow("more codes") << QList<QString>{name}
+                                << QList<QString>{code, QStringLiteral("#0018a8")};
+}
+
+void TestColorMenu::surplusEntriesAreIgnored()
+{
+    QFETCH(QList<QString>, names);
+    QFETCH(QList<QString>, codes);
+    Menu menu(names, codes);
+    QCOMPARE(menu.codes(), QList<QString>({QStringLiteral("#dc0b0b")}));
+}
+
+void TestColorMenu::invalidCodesAreLeftOut()
+{
+    Menu menu({QString(), QStringLiteral("blank"), QStringLiteral("#12"), QStringLiteral("#12345g"),
+               QStringLiteral("#dc0b0b"), QStringLiteral("no colour"),
+               QString(1000000, QLatin1Char('x'))});
+    QCOMPARE(menu.codes(), QList<QString>({QStringLiteral("#dc0b0b")}));
+
+    // The names of entries that are left out go with them.
+    menu.setColorPalette({QStringLiteral("Wrong"), QStringLiteral("Right")},
+                         {QStringLiteral("wrong"), QStringLiteral("#0018a8")});
+    QCOMPARE(menu.swatch(QStringLiteral("#0018a8"))->toolTip(), QStringLiteral("Right"));
+}
+
+void TestColorMenu::knownCodesGetNames_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<QString>("name");
+    const auto row = [](const char* code, const char* name) {
+        QTest::newRow(code) << QString::fromLatin1(code) << QString::fromLatin1(name);
+    };
+    row("#ffffff", "White");
+    row("#000000", "Black");
+    row("#dc0b0b", "Red");
+    row("#f28000", "Orange");
+    row("#fedb00", "Yellow");
+    row("#248d4f", "Green");
+    row("#0018a8", "Blue");
+    row("#00FFFF", "Cyan");
+    row("#473333", "Brown");
+    row("#41b6e6", "Sky Blue");
+    row("#7238ab", "Purple");
+    row("#a0a0a0", "Gray");
+    row("#fffffe", "Clear");
+    row("transparent", "Transparent");
+    row("#123456", "#123456");
+}
+
+void TestColorMenu::knownCodesGetNames()
+{
+    QFETCH(QString, code);
+    QFETCH(QString, name);
+    Menu menu({code});
+    QCOMPARE(menu.swatch(code)->toolTip(), name);
+    QCOMPARE(menu.swatch(code)->accessibleName(), name);
+}
+
+void TestColorMenu::toolTipIsShownLetterForLetter()
+{
+    const QString name = QStringLiteral("<b>Cherry</b>");
+    Menu menu({name}, {QStringLiteral("#dc0b0b")});
+    menu.show();
+    QAbstractButton* swatch = menu.swatch(QStringLiteral("#dc0b0b"));
+    askForToolTip(swatch, QPoint(5, 5));
+    QCOMPARE(visibleToolTip(), name);
+    QCOMPARE(swatch->toolTip(), name);
+}
+
+void TestColorMenu::transparentEntryIsHiddenUntilItIsAskedFor()
+{
+    Menu menu(defaults);
+    const QList<QString> withoutIt = defaults.first(9);
+    QCOMPARE(menu.codes(), withoutIt);
+    menu.setTransparentColorVisible(true);
+    QCOMPARE(menu.codes(), defaults);
+    menu.setTransparentColorVisible(true);
+    QCOMPARE(menu.codes(), defaults);
+    menu.setTransparentColorVisible(false);
+    QCOMPARE(menu.codes(), withoutIt);
+}
+
+void TestColorMenu::transparentChoiceOutlivesThePalette()
+{
+    Menu menu;
+    menu.setTransparentColorVisible(true);
+    const QList<QString> codes = {QStringLiteral("#dc0b0b"), QStringLiteral("transparent")};
+    menu.setColorPalette(codes, {});
+    QCOMPARE(menu.codes(), codes);
+    menu.setTransparentColorVisible(false);
+    menu.setColorPalette(codes, {});
+    QCOMPARE(menu.codes(), QList<QString>({QStringLiteral("#dc0b0b")}));
+}
+
+void TestColorMenu::transparentEntryInTheMiddleLeavesNoHole()
+{
+    Menu menu(
+        {QStringLiteral("#dc0b0b"), QStringLiteral("transparent"), QStringLiteral("#0018a8")});
+    menu.show();
+    const QAbstractButton* red = menu.swatch(QStringLiteral("#dc0b0b"));
+    const QAbstractButton* blue = menu.swatch(QStringLiteral("#0018a8"));
+    const auto gap = [&] { return blue->geometry().left() - red->geometry().right(); };
+    QTRY_VERIFY(gap() > 0 && gap() < 20);
+    menu.setTransparentColorVisible(true);
+    QTRY_VERIFY(gap() > 35);
+    const QAbstractButton* see = menu.swatch(QStringLiteral("transparent"));
+    QVERIFY(see->geometry().left() > red->geometry().right());
+    QVERIFY(see->geometry().right() < blue->geometry().left());
+}
+
+void TestColorMenu::paletteWithoutTransparentGetsNone()
+{
+    Menu menu({QStringLiteral("#dc0b0b")});
+    menu.setTransparentColorVisible(true);
+    QCOMPARE(menu.codes(), QList<QString>({QStringLiteral("#dc0b0b")}));
+}
+
+void TestColorMenu::updateSelectedColorChecksExactlyOneEntry()
+{
+    Menu menu(defaults);
+    menu.setTransparentColorVisible(true);
+    QSignalSpy picked(&menu, SIGNAL(colorSignal(QString)));
+    QCOMPARE(menu.checkedCodes(), QList<QString>());
+    for (const QString& code : defaults) {
+        menu.updateSelectedColor(code);
+        QCOMPARE(menu.checkedCodes(), QList<QString>({code}));
+    }
+    for (const char* text : {"blank", "", "#fffffe", "#010101"}) {
+        menu.updateSelectedColor(QStringLiteral("#dc0b0b"));
+        menu.updateSelectedColor(QString::fromLatin1(text));
+        QCOMPARE(menu.checkedCodes(), QList<QString>());
+    }
+    QCOMPARE(picked.count(), 0);
+}
+
+void TestColorMenu::updateSelectedColorComparesLetterForLetter()
+{
+    Menu menu(defaults);
+    menu.updateSelectedColor(QStringLiteral("#00ffff"));
+    QCOMPARE(menu.checkedCodes(), QList<QString>());
+    menu.updateSelectedColor(QStringLiteral("#00FFFF"));
+    QCOMPARE(menu.checkedCodes(), QList<QString>({QStringLiteral("#00FFFF")}));
+}
+
+void TestColorMenu::selectionOutlivesThePalette()
+{
+    Menu menu;
+    menu.updateSelectedColor(QStringLiteral("#dc0b0b"));
+    menu.setColorPalette(defaults, {});
+    QCOMPARE(menu.checkedCodes(), QList<QString>({QStringLiteral("#dc0b0b")}));
+    menu.setColorPalette({QStringLiteral("#0018a8")}, {});
+    QCOMPARE(menu.checkedCodes(), QList<QString>());
+    menu.setColorPalette(defaults, {});
+    QCOMPARE(menu.checkedCodes(), QList<QString>({QStringLiteral("#dc0b0b")}));
+}
+
+void TestColorMenu::onlyTheFirstOfEqualCodesIsChecked()
+{
+    Menu menu({QStringLiteral("#dc0b0b"), QStringLiteral("#dc0b0b")});
+    menu.updateSelectedColor(QStringLiteral("#dc0b0b"));
+    QCOMPARE(menu.codes().size(), 2);
+    QCOMPARE(menu.checkedCodes().size(), 1);
+    QVERIFY(menu.shown().first()->isChecked());
+    // The user sees that the other one was picked.
+    menu.shown().last()->click();
+    QVERIFY(menu.shown().last()->isChecked());
+    QCOMPARE(menu.checkedCodes().size(), 1);
+}
+
+void TestColorMenu::pickingWithTheMouseTellsTheCode()
+{
+    Menu menu(defaults);
+    menu.setTransparentColorVisible(true);
+    menu.show();
+    for (const QString& code : defaults) {
+        QSignalSpy picked(&menu, SIGNAL(colorSignal(QString)));
+        QString checked;
+        connect(&menu, &ColorMenu::colorSignal, &menu,
+                [&] { checked = menu.checkedCodes().value(0); });
+        menu.click(code);
+        QCOMPARE(picked.count(), 1);
+        QCOMPARE(picked.at(0).at(0).toString(), code);
+        QCOMPARE(menu.checkedCodes(), QList<QString>({code}));
+        QCOMPARE(checked, code);
+        disconnect(&menu, &ColorMenu::colorSignal, &menu, nullptr);
+    }
+}
+
+void TestColorMenu::pickingTheCheckedEntryTellsItAgain()
+{
+    Menu menu(defaults);
+    menu.show();
+    menu.updateSelectedColor(QStringLiteral("#dc0b0b"));
+    QSignalSpy picked(&menu, SIGNAL(colorSignal(QString)));
+    menu.click(QStringLiteral("#dc0b0b"));
+    menu.click(QStringLiteral("#dc0b0b"));
+    QCOMPARE(picked.count(), 2);
+    QCOMPARE(menu.checkedCodes(), QList<QString>({QStringLiteral("#dc0b0b")}));
+}
+
+void TestColorMenu::keyboardMovesAndPicks()
+{
+    Menu menu(defaults);
+    menu.show();
+    menu.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&menu));
+    QSignalSpy picked(&menu, SIGNAL(colorSignal(QString)));
+    menu.swatch(defaults.at(0))->setFocus();
+    const auto press = [](Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); };
+    press(Qt::Key_Right);
+    press(Qt::Key_Right);
+    press(Qt::Key_Left);
+    press(Qt::Key_Down);
+    QCOMPARE(QApplication::focusWidget(), menu.swatch(defaults.at(7)));
+    QCOMPARE(picked.count(), 0);
+    press(Qt::Key_Space);
+    QCOMPARE(picked.count(), 1);
+    QCOMPARE(picked.at(0).at(0).toString(), QStringLiteral("#00FFFF"));
+    press(Qt::Key_Up);
+    press(Qt::Key_Return);
+    QCOMPARE(picked.count(), 2);
+    QCOMPARE(picked.at(1).at(0).toString(), QStringLiteral("#000000"));
+    press(Qt::Key_Enter);
+    QCOMPARE(picked.count(), 3);
+}
+
+void TestColorMenu::enterDoesNotReachTheDialog()
+{
+    QDialog dialog;
+    auto* layout = new QVBoxLayout(&dialog);
+    auto* menu = new Menu(defaults);
+    auto* button = new QPushButton(QStringLiteral("OK"));
+    button->setDefault(true);
+    layout->addWidget(menu);
+    layout->addWidget(button);
+    QSignalSpy clicked(button, SIGNAL(clicked()));
+    dialog.show();
+    QTest::keyClick(menu->swatch(QStringLiteral("#dc0b0b")), Qt::Key_Return);
+    QCOMPARE(menu->checkedCodes(), QList<QString>({QStringLiteral("#dc0b0b")}));
+    QCOMPARE(clicked.count(), 0);
+}
+
+void TestColorMenu::arrowKeysStayInTheMenu_data()
+{
+    QTest::addColumn<int>("start");
+    QTest::addColumn<int>("key");
+    QTest::newRow("left of the first") << 0 << int(Qt::Key_Left);
+    QTest::newRow("above the first row") << 3 << int(Qt::Key_Up);
+    QTest::newRow("right of the last") << 8 << int(Qt::Key_Right);
+    QTest::newRow("below the last row") << 8 << int(Qt::Key_Down);
+    QTest::newRow("below a short last row") << 5 << int(Qt::Key_Down);
+}
+
+void TestColorMenu::arrowKeysStayInTheMenu()
+{
+    QFETCH(int, start);
+    QFETCH(int, key);
+    Menu menu(defaults);
+    menu.show();
+    menu.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&menu));
+    QAbstractButton* swatch = menu.swatch(defaults.at(start));
+    swatch->setFocus();
+    QTest::keyClick(swatch, Qt::Key(key));
+    QCOMPARE(QApplication::focusWidget(), swatch);
+}
+
+void TestColorMenu::paletteMayChangeWhileTheSignalIsDelivered()
+{
+    Menu menu(defaults);
+    menu.show();
+    connect(&menu, &ColorMenu::colorSignal, &menu, [&](const QString& code) {
+        menu.setColorPalette({code, QStringLiteral("#123456")}, {});
+    });
+    menu.click(QStringLiteral("#dc0b0b"));
+    QCOMPARE(menu.codes(), QList<QString>({QStringLiteral("#dc0b0b"), QStringLiteral("#123456")}));
+    QCOMPARE(menu.checkedCodes(), QList<QString>({QStringLiteral("#dc0b0b")}));
+    QCOMPARE(menu.findChildren<QAbstractButton*>().size(), 2);
+    menu.swatch(QStringLiteral("#123456"))->click();
+    QCOMPARE(menu.checkedCodes(), QList<QString>({QStringLiteral("#123456")}));
+}
+
+void TestColorMenu::menuMayBeDeletedWhileTheSignalIsDelivered_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("by mouse") << 0;
+    QTest::newRow("by Space") << int(Qt::Key_Space);
+    QTest::newRow("by Enter") << int(Qt::Key_Enter);
+}
+
+void TestColorMenu::menuMayBeDeletedWhileTheSignalIsDelivered()
+{
+    QFETCH(int, key);
+    QWidget window;
+    QPointer<Menu> menu = new Menu(defaults);
+    menu->setParent(&window);
+    window.show();
+    connect(menu, &ColorMenu::colorSignal, this, [&] { delete menu; });
+    QAbstractButton* swatch = menu->swatch(QStringLiteral("#dc0b0b"));
+    if (key == 0) {
+        MouseDrag click(swatch, QPoint(5, 5));
+        click.release();
+    } else {
+        // keyClick() would send the release to a widget that the press may have deleted.
+        QTest::keyPress(swatch, Qt::Key(key));
+        if (menu)
+            QTest::keyRelease(swatch, Qt::Key(key));
+    }
+    QVERIFY(!menu);
+}
+
+void TestColorMenu::hugePaletteIsCutOff()
+{
+    Menu menu;
+    menu.show();
+    QElapsedTimer timer;
+    timer.start();
+    menu.setColorPalette(manyCodes(200000), {});
+    menu.updateSelectedColor(QStringLiteral("#00004d"));
+    QVERIFY(!menu.grab().isNull());
+    QVERIFY(timer.elapsed() < 10000);
+    QCOMPARE(menu.codes().size(), 256);
+    QCOMPARE(menu.checkedCodes(), QList<QString>({QStringLiteral("#00004d")}));
+}
+
+void TestColorMenu::longPaletteScrolls()
+{
+    Menu menu(manyCodes(60));
+    menu.show();
+    const auto* area = menu.findChild<QScrollArea*>();
+    QTRY_VERIFY(area->verticalScrollBar()->isVisible());
+    QCOMPARE(area->horizontalScrollBar()->maximum(), 0);
+    QVERIFY(menu.height() < 300);
+
+    // The keyboard brings what it moves to into view.
+    menu.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&menu));
+    menu.shown().first()->setFocus();
+    for (int i = 0; i < 9; ++i)
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+    QCOMPARE(QApplication::focusWidget(), menu.shown().at(54));
+    QVERIFY(area->verticalScrollBar()->value() > 0);
+    QVERIFY(!menu.shown().at(54)->visibleRegion().isEmpty());
+
+    // A drag on a swatch scrolls and picks nothing.
+    QSignalSpy picked(&menu, SIGNAL(colorSignal(QString)));
+    const int before = area->verticalScrollBar()->value();
+    MouseDrag drag(menu.shown().at(48), QPoint(10, 10));
+    drag.moveBy(0, 20);
+    drag.release();
+    QCOMPARE(area->verticalScrollBar()->value(), before - 20);
+    QCOMPARE(picked.count(), 0);
+}
+
+void TestColorMenu::shortPaletteIsShownWhole()
+{
+    // Under a sheet that makes push buttons larger, like the panels' own.
+    QStackedWidget stack;
+    stack.setStyleSheet(
+        QStringLiteral("QPushButton { border: 1px solid #fd7800; min-height: 35px; }"));
+    auto* menu = new Menu(defaults);
+    stack.addWidget(menu);
+    stack.addWidget(new Menu(manyCodes(24)));
+    stack.show();
+    for (int page = 0; page < 2; ++page) {
+        stack.setCurrentIndex(page);
+        stack.adjustSize();
+        const auto* area = stack.currentWidget()->findChild<QScrollArea*>();
+        QCoreApplication::processEvents();
+        QVERIFY(!area->verticalScrollBar()->isVisible());
+        const auto* current = static_cast<Menu*>(stack.currentWidget());
+        for (const QAbstractButton* button : current->shown())
+            QCOMPARE(button->visibleRegion().boundingRect(), button->rect());
+    }
+}
+
+void TestColorMenu::swatchesAreOfTouchSize()
+{
+    Menu menu(defaults);
+    menu.show();
+    for (const QAbstractButton* swatch : menu.shown()) {
+        QVERIFY(swatch->width() >= 35);
+        QCOMPARE(swatch->height(), 35);
+    }
+}
+
+void TestColorMenu::checkedStateIsVisibleOnEveryColor_data()
+{
+    QTest::addColumn<QString>("code");
+    for (const QString& code : defaults)
+        QTest::newRow(qPrintable(code)) << code;
+    QTest::newRow("accent") << QStringLiteral("#fd7800");
+    QTest::newRow("see-through") << QStringLiteral("#40000000");
+}
+
+void TestColorMenu::checkedStateIsVisibleOnEveryColor()
+{
+    QFETCH(QString, code);
+    Menu menu({code});
+    menu.setTransparentColorVisible(true);
+    menu.show();
+    const QImage unchecked = menu.swatch(code)->grab().toImage();
+    menu.updateSelectedColor(code);
+    const QImage checked = menu.swatch(code)->grab().toImage();
+
+    // The mark in the middle stands out in brightness, whatever the colour beneath it.
+    int different = 0;
+    const QRect middle(unchecked.width() / 2 - 9, unchecked.height() / 2 - 7, 18, 14);
+    for (int y = middle.top(); y <= middle.bottom(); ++y) {
+        for (int x = middle.left(); x <= middle.right(); ++x) {
+            const int before = qGray(unchecked.pixel(x, y));
+            different += qAbs(before - qGray(checked.pixel(x, y))) > 90 ? 1 : 0;
+        }
+    }
+    QVERIFY2(different > 15, qPrintable(QString::number(different)));
+}
+
+void TestColorMenu::connectsByText()
+{
+    ColorMenu menu(nullptr);
+    QVERIFY(menu.parentWidget() == nullptr);
+    QWidget target;
+    QVERIFY(connect(&menu, SIGNAL(colorSignal(QString)), &target, SLOT(setStyleSheet(QString))));
+}
+
+QTEST_MAIN(TestColorMenu)
+#include "tst_colormenu.moc"

@@ -1,0 +1,344 @@
+#include "inputevents.h"
+#include "support/stricttest.h"
+
+#include <containertitlebar.h>
+
+#include <QtTest/QSignalSpy>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QVBoxLayout>
+
+class TestContainerTitleBar : public StrictTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void holdsTitleAndCloseButton();
+    void titleCanBeReplaced();
+    void titleFontIsTheGivenSizeUntilSetFont();
+    void sizeThatIsNotPositiveKeepsTheFont_data();
+    void sizeThatIsNotPositiveKeepsTheFont();
+    void longTitleIsElidedAndStretchesNothing();
+    void titleIsPlainText();
+    void elidedTitleIsTheToolTip();
+    void closeButtonTells();
+    void closeButtonHasItsPicture();
+    void dragTellsTheNewCornerOfTheWindow();
+    void dragOfABarInsideItsWindowTellsTheWindowsCorner();
+    void windowFollowsTheDrag();
+    void pressAloneTellsNothing();
+    void dragOnTheCloseButtonTellsNothing();
+    void rightButtonTellsNothing();
+    void moveAfterTheReleaseTellsNothing();
+    void lostReleaseEndsTheDrag();
+    void hidingDuringTheDragEndsIt();
+    void windowMayBeDeletedByTheSignals();
+    void connectsByText();
+    void barIsDark();
+};
+
+namespace {
+struct Window
+{
+    Window()
+    {
+        widget.setWindowFlag(Qt::FramelessWindowHint);
+        widget.setGeometry(100, 150, 400, 200);
+        bar->setParent(&widget);
+        bar->setGeometry(0, 0, 400, 40);
+        widget.show();
+    }
+
+    QWidget widget;
+    ContainerTitleBar* bar =
+        new ContainerTitleBar(nullptr, QStringLiteral("Preview"), QString(), 14);
+    QSignalSpy moves{bar, SIGNAL(signalMove(int, int))};
+};
+
+QAbstractButton* closeButton(const ContainerTitleBar* bar)
+{
+    return bar->findChild<QAbstractButton*>();
+}
+} // namespace
+
+void TestContainerTitleBar::holdsTitleAndCloseButton()
+{
+    QWidget parent;
+    const auto* bar =
+        new ContainerTitleBar(&parent, QStringLiteral("Preview"), QStringLiteral("Close this"), 14);
+    QCOMPARE(bar->parentWidget(), &parent);
+    QCOMPARE(bar->title(), QStringLiteral("Preview"));
+    QCOMPARE(closeButton(bar)->toolTip(), QStringLiteral("Close this"));
+    QVERIFY(!closeButton(bar)->accessibleName().isEmpty());
+
+    const ContainerTitleBar empty(nullptr, QString(), QString(), 14);
+    QCOMPARE(empty.title(), QString());
+    QCOMPARE(closeButton(&empty)->toolTip(), QString());
+}
+
+void TestContainerTitleBar::titleCanBeReplaced()
+{
+    Window window;
+    const QImage before = window.bar->grab().toImage();
+    window.bar->setTitle(QStringLiteral("Other"));
+    QCOMPARE(window.bar->title(), QStringLiteral("Other"));
+    QVERIFY(window.bar->grab().toImage() != before);
+    window.bar->setTitle(QStringLiteral("Preview"));
+    QCOMPARE(window.bar->grab().toImage(), before);
+}
+
+void TestContainerTitleBar::titleFontIsTheGivenSizeUntilSetFont()
+{
+    ContainerTitleBar bar(nullptr, QStringLiteral("Preview"), QString(), 14);
+    const auto* label = bar.findChild<QLabel*>();
+    QCOMPARE(label->font().pixelSize(), 14);
+    QFont font = bar.font();
+    font.setPixelSize(22);
+    font.setItalic(true);
+    bar.setFont(font);
+    QCOMPARE(label->font().pixelSize(), 22);
+    QVERIFY(label->font().italic());
+}
+
+void TestContainerTitleBar::sizeThatIsNotPositiveKeepsTheFont_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::newRow("zero") << 0;
+    QTest::newRow("negative") << -14;
+}
+
+void TestContainerTitleBar::sizeThatIsNotPositiveKeepsTheFont()
+{
+    QFETCH(int, size);
+    const ContainerTitleBar bar(nullptr, QStringLiteral("Preview"), QString(), size);
+    QCOMPARE(bar.findChild<QLabel*>()->font(), QWidget().font());
+}
+
+void TestContainerTitleBar::longTitleIsElidedAndStretchesNothing()
+{
+    Window window;
+    const int width = window.bar->minimumSizeHint().width();
+    const QString title(5000, QLatin1Char('W'));
+    window.bar->setTitle(title);
+    QCOMPARE(window.bar->title(), title);
+    QCOMPARE(window.bar->minimumSizeHint().width(), width);
+    QVERIFY(width < 100);
+
+    // What is painted is the text with dots, and none of it behind the button.
+    const QLabel* label = window.bar->findChild<QLabel*>();
+    const QString shown = label->fontMetrics().elidedText(title, Qt::ElideRight, label->width());
+    const QImage elided = window.bar->grab().toImage();
+    window.bar->setTitle(shown);
+    QCOMPARE(window.bar->grab().toImage(), elided);
+}
+
+void TestContainerTitleBar::titleIsPlainText()
+{
+    Window window;
+    window.bar->setTitle(QStringLiteral("<b>x</b>"));
+    const QImage marked = window.bar->grab().toImage();
+    window.bar->setTitle(QStringLiteral("x"));
+    const QImage plain = window.bar->grab().toImage();
+    // White pixels, roughly: eight characters paint more of them than one.
+    const auto ink = [](const QImage& image) {
+        int count = 0;
+        for (int x = 0; x < 300; ++x) {
+            for (int y = 0; y < image.height(); ++y)
+                count += qGray(image.pixel(x, y)) > 160 ? 1 : 0;
+        }
+        return count;
+    };
+    QVERIFY(ink(plain) > 0);
+    QVERIFY(ink(marked) > 3 * ink(plain));
+}
+
+void TestContainerTitleBar::elidedTitleIsTheToolTip()
+{
+    Window window;
+    askForToolTip(window.bar, QPoint(20, 20));
+    QCOMPARE(visibleToolTip(), QString());
+    const QString title = QStringLiteral("<i>x</i>") + QString(200, QLatin1Char('W'));
+    window.bar->setTitle(title);
+    askForToolTip(window.bar, QPoint(20, 20));
+    QCOMPARE(visibleToolTip(), title);
+}
+
+void TestContainerTitleBar::closeButtonTells()
+{
+    Window window;
+    QSignalSpy closed(window.bar, SIGNAL(closeButtonClicked()));
+    QTest::mouseClick(closeButton(window.bar), Qt::LeftButton);
+    QCOMPARE(closed.count(), 1);
+    QVERIFY(window.widget.isVisible());
+    QTest::mouseClick(window.bar, Qt::LeftButton, {}, QPoint(20, 20));
+    QCOMPARE(closed.count(), 1);
+}
+
+void TestContainerTitleBar::closeButtonHasItsPicture()
+{
+    Window window;
+    QAbstractButton* button = closeButton(window.bar);
+    const QImage picture(QStringLiteral(":/hostkit/close.png"));
+    const QImage pressedPicture(QStringLiteral(":/hostkit/close-pressed.png"));
+    QVERIFY(!picture.isNull());
+    QVERIFY(!pressedPicture.isNull());
+    const QImage released = button->grab().toImage();
+    button->setDown(true);
+    QVERIFY(button->grab().toImage() != released);
+    QVERIFY(button->width() >= 35);
+    QVERIFY(button->height() >= 35);
+}
+
+void TestContainerTitleBar::dragTellsTheNewCornerOfTheWindow()
+{
+    Window window;
+    MouseDrag drag(window.bar, QPoint(50, 20));
+    QCOMPARE(window.moves.count(), 0);
+    drag.moveBy(3, 2);
+    QCOMPARE(window.moves.count(), 1);
+    QCOMPARE(window.moves.at(0), QVariantList({103, 152}));
+    drag.moveBy(-20, 10);
+    QCOMPARE(window.moves.at(1), QVariantList({80, 160}));
+    drag.release();
+    QCOMPARE(window.moves.count(), 2);
+    // Nothing moved by itself.
+    QCOMPARE(window.widget.pos(), QPoint(100, 150));
+}
+
+void TestContainerTitleBar::dragOfABarInsideItsWindowTellsTheWindowsCorner()
+{
+    Window window;
+    window.bar->move(0, 60);
+    MouseDrag drag(window.bar, QPoint(50, 20));
+    drag.moveBy(7, -9);
+    drag.release();
+    QCOMPARE(window.moves.count(), 1);
+    QCOMPARE(window.moves.at(0), QVariantList({107, 141}));
+}
+
+void TestContainerTitleBar::windowFollowsTheDrag()
+{
+    Window window;
+    connect(window.bar, &ContainerTitleBar::signalMove, &window.widget,
+            qOverload<int, int>(&QWidget::move));
+    const auto send = [&](QEvent::Type type, const QPoint& global) {
+        const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+        QMouseEvent event(type, window.bar->mapFromGlobal(QPointF(global)), QPointF(global), button,
+                          Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(window.bar, &event);
+    };
+    // Though the window moves under the pointer, it stays with it.
+    send(QEvent::MouseButtonPress, QPoint(150, 170));
+    for (int step = 1; step <= 50; ++step) {
+        send(QEvent::MouseMove, QPoint(150 + step, 170 + 2 * step));
+        QCOMPARE(window.widget.pos(), QPoint(100 + step, 150 + 2 * step));
+    }
+    QCOMPARE(window.moves.count(), 50);
+}
+
+void TestContainerTitleBar::pressAloneTellsNothing()
+{
+    Window window;
+    MouseDrag drag(window.bar, QPoint(50, 20));
+    moveMouse(window.bar, QPoint(50, 20), Qt::LeftButton);
+    drag.release();
+    QCOMPARE(window.moves.count(), 0);
+}
+
+void TestContainerTitleBar::dragOnTheCloseButtonTellsNothing()
+{
+    Window window;
+    MouseDrag drag(closeButton(window.bar), QPoint(10, 10));
+    drag.moveBy(0, 30);
+    drag.release();
+    QCOMPARE(window.moves.count(), 0);
+}
+
+void TestContainerTitleBar::rightButtonTellsNothing()
+{
+    Window window;
+    QWindow* handle = window.widget.windowHandle();
+    QTest::mousePress(handle, Qt::RightButton, {}, QPoint(50, 20));
+    QTest::mouseMove(handle, QPoint(60, 25));
+    QTest::mouseRelease(handle, Qt::RightButton, {}, QPoint(60, 25));
+    QCOMPARE(window.moves.count(), 0);
+}
+
+void TestContainerTitleBar::moveAfterTheReleaseTellsNothing()
+{
+    Window window;
+    MouseDrag drag(window.bar, QPoint(50, 20));
+    drag.moveBy(5, 5);
+    drag.release();
+    QCOMPARE(window.moves.count(), 1);
+    moveMouse(window.bar, QPoint(90, 25), Qt::LeftButton);
+    QCOMPARE(window.moves.count(), 1);
+}
+
+void TestContainerTitleBar::lostReleaseEndsTheDrag()
+{
+    Window window;
+    MouseDrag drag(window.bar, QPoint(50, 20));
+    moveMouse(window.bar, QPoint(80, 25), Qt::RightButton);
+    moveMouse(window.bar, QPoint(90, 25), Qt::LeftButton);
+    QCOMPARE(window.moves.count(), 0);
+    drag.release();
+}
+
+void TestContainerTitleBar::hidingDuringTheDragEndsIt()
+{
+    Window window;
+    MouseDrag drag(window.bar, QPoint(50, 20));
+    drag.moveBy(5, 5);
+    window.bar->hide();
+    window.bar->show();
+    moveMouse(window.bar, QPoint(90, 20), Qt::LeftButton);
+    QCOMPARE(window.moves.count(), 1);
+    drag.release();
+}
+
+void TestContainerTitleBar::windowMayBeDeletedByTheSignals()
+{
+    for (const bool byDrag : {true, false}) {
+        auto* window = new QWidget;
+        window->setGeometry(100, 150, 400, 200);
+        auto* bar = new ContainerTitleBar(window, QString(), QString(), 14);
+        bar->setGeometry(0, 0, 400, 40);
+        bool deleted = false;
+        const auto end = [&] {
+            delete window;
+            deleted = true;
+        };
+        connect(bar, &ContainerTitleBar::signalMove, this, end);
+        connect(bar, &ContainerTitleBar::closeButtonClicked, this, end);
+        window->show();
+        const QPoint press = byDrag ? QPoint(50, 20) : closeButton(bar)->geometry().center();
+        MouseDrag drag(bar, press);
+        if (byDrag)
+            drag.moveBy(5, 5);
+        else
+            drag.release();
+        QVERIFY(deleted);
+    }
+}
+
+void TestContainerTitleBar::connectsByText()
+{
+    ContainerTitleBar bar(nullptr, QString(), QString(), 14);
+    QWidget target;
+    QVERIFY(connect(&bar, SIGNAL(closeButtonClicked()), &target, SLOT(close())));
+    QVERIFY(connect(&bar, SIGNAL(signalMove(int, int)), &bar, SIGNAL(signalMove(int, int))));
+    disconnect(&bar, SIGNAL(signalMove(int, int)), nullptr, nullptr);
+}
+
+void TestContainerTitleBar::barIsDark()
+{
+    Window window;
+    window.bar->setTitle(QString());
+    const QImage image = window.bar->grab().toImage();
+    QVERIFY(qGray(image.pixel(5, 0)) < 0x60);
+    QVERIFY(qGray(image.pixel(5, image.height() - 3)) < qGray(image.pixel(5, 0)));
+}
+
+QTEST_MAIN(TestContainerTitleBar)
+#include "tst_containertitlebar.moc"
