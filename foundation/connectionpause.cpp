@@ -6,15 +6,18 @@ namespace PrintPanels {
 
 ConnectionPause::ConnectionPause(QObject* sender, const char* signal, QObject* receiver,
                                  const char* slot)
-    : m_sender(sender), m_receiver(receiver), m_signal(signal), m_slot(slot)
+    : m_sender(sender),
+      m_receiver(receiver),
+      m_signal(signal),
+      m_slot(slot),
+      m_wasConnected(QObject::disconnect(sender, signal, receiver, slot))
 {
-    QObject::disconnect(sender, signal, receiver, slot);
 }
 
 ConnectionPause::~ConnectionPause()
 {
     // The change itself may have run a listener that deleted one of the two.
-    if (m_sender && m_receiver)
+    if (m_wasConnected && m_sender && m_receiver)
         QObject::connect(m_sender, m_signal, m_receiver, m_slot);
 }
 

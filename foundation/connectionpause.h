@@ -9,7 +9,8 @@ namespace PrintPanels {
  * Change without telling the host: takes one string-based connection away for its lifetime.
  *
  * Only the named connection pauses; other listeners of the same signal still hear of the change,
- * which is why the signal is not blocked. After the scope the connection stands exactly once.
+ * which is why the signal is not blocked. After the scope the connection stands exactly once, also
+ * when a listener pauses it again meanwhile.
  */
 class ConnectionPause
 {
@@ -25,6 +26,7 @@ private:
     QPointer<QObject> m_receiver;
     const char* m_signal;
     const char* m_slot;
+    bool m_wasConnected;
 };
 
 } // namespace PrintPanels

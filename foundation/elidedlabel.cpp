@@ -20,20 +20,29 @@ ElidedLabel::ElidedLabel()
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 }
 
+QString ElidedLabel::measuredText() const
+{
+    return text().left(longestLine);
+}
+
 QString ElidedLabel::shownText() const
 {
-    const QString line = text().left(longestLine).simplified();
-    return fontMetrics().elidedText(line, Qt::ElideRight, contentsRect().width());
+    return fontMetrics().elidedText(measuredText().simplified(), Qt::ElideRight,
+                                    contentsRect().width());
+}
+
+bool ElidedLabel::isElided() const
+{
+    return shownText() != measuredText().simplified();
 }
 
 bool ElidedLabel::event(QEvent* event)
 {
     if (event->type() != QEvent::ToolTip || !toolTip().isEmpty())
         return QLabel::event(event);
-    const QString whole = text().left(longestLine);
-    const bool elided = shownText() != whole.simplified();
     // Escaped inside a paragraph, so that the tool tip shows markup instead of following it.
-    const QString tip = elided ? QStringLiteral("<p>%1</p>").arg(whole.toHtmlEscaped()) : QString();
+    const QString tip =
+        isElided() ? QStringLiteral("<p>%1</p>").arg(measuredText().toHtmlEscaped()) : QString();
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, this);
     return true;
 }

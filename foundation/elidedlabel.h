@@ -19,6 +19,11 @@ protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
+    /** As much of the text as a label can show at all, so that a megabyte is measured quickly. */
+    QString measuredText() const;
+    /** Whether the label shows less than its text. */
+    virtual bool isElided() const;
+
 private:
     QString shownText() const;
 };

@@ -3,6 +3,7 @@
 #include "printpanel/printwidget.h"
 
 #include "foundation/hostkit.h"
+#include "foundation/panelparts.h"
 #include "foundation/stylesheets.h"
 
 #include <QtWidgets/QGridLayout>
@@ -20,9 +21,7 @@ DragScrollButton* createStepButton(const QString& name, const QString& styleShee
 {
     auto* button = new DragScrollButton(nullptr);
     button->setObjectName(name);
-    button->setStyleSheet(styleSheet);
-    button->setFixedSize(rowHeight, rowHeight);
-    button->setAutoRepeat(true);
+    PrintPanels::setUpStepButton(button, styleSheet);
     return button;
 }
 

@@ -5,7 +5,7 @@
 #include "foundation/connectionpause.h"
 #include "foundation/elidedlabel.h"
 #include "foundation/hostkit.h"
-#include "foundation/stylesheets.h"
+#include "foundation/panelparts.h"
 
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
@@ -55,9 +55,7 @@ DragScrollButton* createPreferencesButton()
 {
     auto* button = new DragScrollButton(nullptr);
     button->setObjectName(QStringLiteral("PreferencesButton"));
-    button->setStyleSheet(StyleSheets::printerSettingsButton());
-    button->setFixedSize(rowHeight, rowHeight);
-    button->setIconSize(QSize(rowHeight, rowHeight));
+    PrintPanels::setUpPrinterSettingsButton(button);
     return button;
 }
 

@@ -3,26 +3,20 @@
 #include "printpanel/printwidget.h"
 
 #include "foundation/hostkit.h"
+#include "foundation/panelparts.h"
 #include "foundation/recordlist.h"
 
-#include <QtGui/QRegularExpressionValidator>
 #include <QtWidgets/QButtonGroup>
 #include <QtWidgets/QFrame>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QRadioButton>
 #include <QtWidgets/QVBoxLayout>
 
-#include <limits>
+using PrintPanels::numberFromIndex;
 
 namespace {
 
 constexpr int rowHeight = 35;
-
-/** A host's 0-based index as a 1-based number; the highest index has no number above it. */
-int numberOf(int index)
-{
-    return index == std::numeric_limits<int>::max() ? index : index + 1;
-}
 
 QRadioButton* createRadio(const QString& name, const QString& text)
 {
@@ -84,36 +78,28 @@ void PrintWidget::createRecordsRadios()
 
 void PrintWidget::createRecordListEdit()
 {
-    const QString example =
-        tr("Example:", "An example of a possible entry") + QStringLiteral("  1,4-5,11-20,33");
-
     recordListEdit = new JxLineEdit(nullptr);
     recordListEdit->setObjectName(QStringLiteral("recordListEdit"));
     recordListEdit->setFont(ApplicationFont::getWidgetFont(true));
-    recordListEdit->setValidator(
-        new QRegularExpressionValidator(RecordList::expression(), recordListEdit));
-    recordListEdit->setContextMenuPolicy(Qt::NoContextMenu);
-    recordListEdit->setFixedHeight(36);
-    recordListEdit->setToolTip(
+    PrintPanels::setUpRecordListEdit(
+        recordListEdit,
         tr("Enter a list of record numbers and/or ranges, separated by comma.",
-           "Tool tip text for record list entry.") +
-        u'\n' + example);
-    recordListEdit->setPlaceholderText(QStringLiteral("   ") + example);
-    recordListEdit->setEnabled(false);
+           "Tool tip text for record list entry."),
+        tr("Example:", "An example of a possible entry"));
 }
 
 void PrintWidget::setRangeValues(int currentIndex, int lastIndex, bool enabled)
 {
     recordsFrame->setEnabled(enabled);
-    currentRecord = numberOf(currentIndex);
-    numberOfRecords = numberOf(lastIndex);
+    currentRecord = numberFromIndex(currentIndex);
+    numberOfRecords = numberFromIndex(lastIndex);
     recordsRadioChangedSlot();
 }
 
 // Leaves the N-up choice as it was: the host moves to another record, the user has chosen nothing.
 void PrintWidget::updateCurrentRangeIndex(int sequenceCurrent)
 {
-    currentRecord = numberOf(sequenceCurrent);
+    currentRecord = numberFromIndex(sequenceCurrent);
     classifyRecords();
 }
 
