@@ -46,7 +46,8 @@ int main(int argc, char** argv)
 
     check(start == 3 && end == -1, "Print asks for the current record");
     check(panel->getSelectedPrinter() == "Second", "the selected printer is the one given");
-    check(widget->findChild<JxComboBox*>("PrinterListCombo") != nullptr, "the kit's class is found");
+    check(widget->findChild<JxComboBox*>("PrinterListCombo") != nullptr,
+          "the kit's class is found");
     check(RecordList::expand(u"1,4-5", 4) == QList<RecordList::Range>({{1, 1}, {4, 4}}),
           "a list is expanded");
     check(SharedConstants::supplyColorCodes.size() == 13, "the palette has 13 colours");

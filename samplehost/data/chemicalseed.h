@@ -1,0 +1,31 @@
+#ifndef SAMPLEHOST_CHEMICALSEED_H
+#define SAMPLEHOST_CHEMICALSEED_H
+
+#include "samplehost/data/chemical.h"
+
+#include <QtCore/QByteArray>
+#include <QtCore/QList>
+
+namespace SampleHost {
+
+/** The chemicals that a new database starts with, compiled into the program. */
+class ChemicalSeed
+{
+public:
+    /** All chemicals, in alphabetical order of their names; prefixes as in "1-Butanol" do not
+     * count. */
+    static QList<Chemical> load();
+
+    /**
+     * Reads a table of chemicals: UTF-8, one line each, eight columns separated by tabs (name, CAS
+     * number, formula, UN number, signal word, hazard codes, precaution codes, pictograms), codes
+     * separated by blanks, "-" for a column without a value, the first line for the titles. Lines
+     * without exactly eight columns are left out; their 1-based numbers are appended to badLines
+     * unless that is null.
+     */
+    static QList<Chemical> parse(const QByteArray& table, QList<int>* badLines = nullptr);
+};
+
+} // namespace SampleHost
+
+#endif

@@ -1,0 +1,256 @@
+#include "samplehost/data/recordsource.h"
+
+#include "samplehost/data/chemicalseed.h"
+#include "samplehost/data/seeddatabase.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QStandardPaths>
+#include <QtSql/QSqlDriver>
+#include <QtSql/QSqlError>
+#include <QtSql/QSqlQuery>
+#include <QtSql/QSqlRecord>
+
+#include <algorithm>
+#include <limits>
+
+namespace SampleHost {
+
+namespace {
+
+// Long enough for another program's short write, short enough that the window does not seem dead.
+const QString sqliteOptions = QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=1000");
+
+bool report(QString* error, const QString& text)
+{
+    if (error) {
+        *error = text;
+    }
+    return false;
+}
+
+bool isSqlite(const DataSourceOptions& options)
+{
+    return options.driver == QLatin1String("QSQLITE");
+}
+
+// The options with every default filled in that depends on the system.
+DataSourceOptions resolved(DataSourceOptions options)
+{
+    if (isSqlite(options)) {
+        const QString path = options.databaseName.isEmpty() ? RecordSource::defaultDatabasePath()
+                                                            : options.databaseName;
+        options.databaseName = QFileInfo(path).absoluteFilePath();
+    }
+    return options;
+}
+
+// Databases that can be asked for one row by its number. The way to do so is not standard SQL.
+bool hasLimitClause(const QString& driver)
+{
+    static const QStringList drivers{QStringLiteral("QSQLITE"), QStringLiteral("QPSQL"),
+                                     QStringLiteral("QMYSQL"), QStringLiteral("QMARIADB")};
+    return drivers.contains(driver);
+}
+
+QSqlDatabase makeConnection(const DataSourceOptions& options)
+{
+    QSqlDatabase database = QSqlDatabase::addDatabase(options.driver, uniqueConnectionName());
+    database.setDatabaseName(options.databaseName);
+    if (isSqlite(options)) {
+        database.setConnectOptions(sqliteOptions);
+        return database;
+    }
+    database.setHostName(options.hostName);
+    database.setPort(options.port);
+    database.setUserName(options.userName);
+    database.setPassword(options.password);
+    return database;
+}
+
+QString escaped(const QSqlDatabase& database, const QString& table)
+{
+    return database.driver()->escapeIdentifier(table, QSqlDriver::TableName);
+}
+
+QStringList splitCodes(const QString& text)
+{
+    static const QRegularExpression separators(QStringLiteral("[\\s,;]+"));
+    return text.split(separators, Qt::SkipEmptyParts);
+}
+
+Chemical chemicalFrom(const QSqlQuery& query)
+{
+    const auto text = [&query](int column) { return query.value(column).toString().trimmed(); };
+    return {text(0),
+            text(1),
+            text(2),
+            text(3),
+            text(4),
+            splitCodes(text(5)),
+            splitCodes(text(6)),
+            splitCodes(text(7))};
+}
+
+} // namespace
+
+RecordSource::RecordSource(const DataSourceOptions& options)
+    : m_options(options), m_database(makeConnection(options))
+{
+}
+
+RecordSource::~RecordSource()
+{
+    const QString connection = m_database.connectionName();
+    // The last handle must be gone before the connection is removed.
+    m_database = QSqlDatabase();
+    QSqlDatabase::removeDatabase(connection);
+}
+
+std::unique_ptr<RecordSource> RecordSource::open(const DataSourceOptions& options, QString* error)
+{
+    if (!QSqlDatabase::isDriverAvailable(options.driver)) {
+        report(error, QStringLiteral("There is no database driver \"%1\". Available: %2.")
+                          .arg(options.driver, QSqlDatabase::drivers().join(QLatin1String(", "))));
+        return nullptr;
+    }
+    const DataSourceOptions complete = resolved(options);
+    if (isSqlite(complete) && !QFileInfo::exists(complete.databaseName) &&
+        !createSeedDatabase(complete.databaseName, complete.table, ChemicalSeed::load(), error)) {
+        return nullptr;
+    }
+    std::unique_ptr<RecordSource> source(new RecordSource(complete));
+    if (!source->ensureOpen(error) || !source->checkTable(error)) {
+        return nullptr;
+    }
+    return source;
+}
+
+QString RecordSource::defaultDatabasePath()
+{
+    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    return folder.absoluteFilePath(QStringLiteral("chemicals.sqlite"));
+}
+
+QString RecordSource::description() const
+{
+    QString place = m_options.databaseName;
+    if (isSqlite(m_options)) {
+        place = QDir::toNativeSeparators(place);
+    } else if (place.contains(QLatin1Char('='))) {
+        // A connection string, in which a password may stand.
+        place = m_options.driver;
+    }
+    if (!isSqlite(m_options) && !m_options.hostName.isEmpty()) {
+        place += QStringLiteral(" on ") + m_options.hostName;
+    }
+    return QStringLiteral("%1, table %2").arg(place, m_options.table);
+}
+
+QString RecordSource::explain(const QString& reason) const
+{
+    return QStringLiteral("The data source (%1) cannot be read: %2")
+        .arg(description(), reason.simplified());
+}
+
+// Opens the connection again after it was lost. An open SQLite file that was deleted would go on
+// answering from the deleted file, so its path is looked at each time.
+bool RecordSource::ensureOpen(QString* error) const
+{
+    const QFileInfo file(m_options.databaseName);
+    if (isSqlite(m_options) && !file.isFile()) {
+        m_database.close();
+        return report(error, explain(file.exists() ? QStringLiteral("it is not a file.")
+                                                   : QStringLiteral("the file does not exist.")));
+    }
+    if (!m_database.isOpen() && !m_database.open()) {
+        return report(error, explain(m_database.lastError().text()));
+    }
+    return true;
+}
+
+bool RecordSource::checkTable(QString* error) const
+{
+    QSqlQuery query(m_database);
+    // Asks for the columns alone; a server need not send a row for this.
+    const QString statement =
+        QStringLiteral("SELECT * FROM %1 WHERE 1 = 0").arg(escaped(m_database, m_options.table));
+    if (!run(query, statement, error)) {
+        return false;
+    }
+    const QStringList wanted = QStringList(QStringLiteral("id")) + chemicalColumns();
+    const QSqlRecord columns = query.record();
+    for (const QString& column : wanted) {
+        if (!columns.contains(column)) {
+            return report(error, explain(QStringLiteral("it has no column \"%1\".").arg(column)));
+        }
+    }
+    return true;
+}
+
+bool RecordSource::run(QSqlQuery& query, const QString& statement, QString* error) const
+{
+    if (query.exec(statement)) {
+        return true;
+    }
+    report(error, explain(query.lastError().text()));
+    // The next call starts over with a new connection: a server that went away may be back by then.
+    query.finish();
+    m_database.close();
+    return false;
+}
+
+int RecordSource::count(QString* error) const
+{
+    if (!ensureOpen(error)) {
+        return 0;
+    }
+    QSqlQuery query(m_database);
+    const QString statement =
+        QStringLiteral("SELECT COUNT(*) FROM %1").arg(escaped(m_database, m_options.table));
+    if (!run(query, statement, error)) {
+        return 0;
+    }
+    const qint64 rows = query.next() ? query.value(0).toLongLong() : 0;
+    return static_cast<int>(std::clamp<qint64>(rows, 0, std::numeric_limits<int>::max()));
+}
+
+std::optional<Chemical> RecordSource::record(int index, QString* error) const
+{
+    if (!ensureOpen(error)) {
+        return std::nullopt;
+    }
+    QSqlQuery query(m_database);
+    if (!seekRecord(query, index, error)) {
+        return std::nullopt;
+    }
+    return chemicalFrom(query);
+}
+
+bool RecordSource::seekRecord(QSqlQuery& query, int index, QString* error) const
+{
+    const bool skipsRows = hasLimitClause(m_options.driver);
+    QString statement =
+        QStringLiteral("SELECT %1 FROM %2 ORDER BY id")
+            .arg(chemicalColumns().join(QLatin1String(", ")), escaped(m_database, m_options.table));
+    if (skipsRows) {
+        statement += QStringLiteral(" LIMIT 1 OFFSET %1").arg(std::max(0, index));
+    }
+    query.setForwardOnly(true);
+    if (!run(query, statement, error)) {
+        return false;
+    }
+    // One step leads to the first row of the answer. (QSqlQuery::seek() would do for the rows to be
+    // skipped, but crashes on the largest index.)
+    bool found = index >= 0 && query.next();
+    for (int row = 0; found && !skipsRows && row < index; ++row) {
+        found = query.next();
+    }
+    if (!found && query.lastError().isValid()) {
+        return report(error, explain(query.lastError().text()));
+    }
+    return found || report(error, QStringLiteral("There is no record %1.").arg(qint64(index) + 1));
+}
+
+} // namespace SampleHost

@@ -1,0 +1,94 @@
+#ifndef SAMPLEHOST_RECORDSOURCE_H
+#define SAMPLEHOST_RECORDSOURCE_H
+
+#include "samplehost/data/chemical.h"
+
+#include <QtCore/QString>
+#include <QtSql/QSqlDatabase>
+
+#include <memory>
+#include <optional>
+
+QT_BEGIN_NAMESPACE
+class QSqlQuery;
+QT_END_NAMESPACE
+
+namespace SampleHost {
+
+/** Where the records come from. The defaults name the embedded database. */
+struct DataSourceOptions
+{
+    /** Name of the Qt SQL driver, for example "QSQLITE" or "QPSQL". */
+    QString driver = QStringLiteral("QSQLITE");
+    /** The database server; not used with SQLite. */
+    QString hostName;
+    /** The server's port; -1 for the driver's own. */
+    int port = -1;
+    /** Path of the SQLite file (empty: RecordSource::defaultDatabasePath()), or the server's
+     * database. */
+    QString databaseName;
+    /** User at the server; not used with SQLite. */
+    QString userName;
+    /** The user's password; not used with SQLite. */
+    QString password;
+    /**
+     * The table with the records. Columns: id (sets the order), name, cas_number, formula,
+     * un_number, signal_word, hazard_codes, precaution_codes, pictograms; codes separated by
+     * blanks, commas or semicolons.
+     */
+    QString table = QStringLiteral("chemicals");
+};
+
+/**
+ * The records of a database, read afresh at each call. The source never writes to a database that
+ * it finds; a SQLite file that does not exist is created from the seed. Needs a QCoreApplication,
+ * and is used in the thread that opened it.
+ */
+class RecordSource
+{
+public:
+    /**
+     * Opens a data source, creating the SQLite file first if it does not exist. Null if that fails
+     * (unknown driver, unreadable or corrupt file, no such table or column, server not reached),
+     * with the reason for the user in error unless that is null.
+     */
+    static std::unique_ptr<RecordSource> open(const DataSourceOptions& options,
+                                              QString* error = nullptr);
+
+    /** Where the embedded database lies when no path is given: in the application's data folder. */
+    static QString defaultDatabasePath();
+
+    /** Closes the connection. */
+    ~RecordSource();
+
+    RecordSource(const RecordSource&) = delete;
+    RecordSource& operator=(const RecordSource&) = delete;
+
+    /** The number of records now; 0, with the reason in error, when the database cannot be read. */
+    int count(QString* error = nullptr) const;
+
+    /**
+     * The record at a 0-based index in the order of the ids. Empty, with the reason in error, when
+     * there is no such record or the database cannot be read.
+     */
+    std::optional<Chemical> record(int index, QString* error = nullptr) const;
+
+    /** The source as a text for the user: file or server, and table. Never the password. */
+    QString description() const;
+
+private:
+    explicit RecordSource(const DataSourceOptions& options);
+
+    bool ensureOpen(QString* error) const;
+    bool checkTable(QString* error) const;
+    bool run(QSqlQuery& query, const QString& statement, QString* error) const;
+    bool seekRecord(QSqlQuery& query, int index, QString* error) const;
+    QString explain(const QString& reason) const;
+
+    DataSourceOptions m_options;
+    mutable QSqlDatabase m_database;
+};
+
+} // namespace SampleHost
+
+#endif

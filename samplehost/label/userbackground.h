@@ -1,0 +1,20 @@
+#ifndef SAMPLEHOST_USERBACKGROUND_H
+#define SAMPLEHOST_USERBACKGROUND_H
+
+#include <QtCore/QRectF>
+
+QT_BEGIN_NAMESPACE
+class QPainter;
+QT_END_NAMESPACE
+
+namespace SampleHost {
+
+/**
+ * Paints what a user keeps under every label, here a pale company watermark from corner to corner
+ * of area. It is painted as shapes, so that it never mixes with the label's text in a PDF file.
+ */
+void paintUserBackground(QPainter& painter, const QRectF& area);
+
+} // namespace SampleHost
+
+#endif

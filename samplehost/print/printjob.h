@@ -1,0 +1,105 @@
+#ifndef SAMPLEHOST_PRINTJOB_H
+#define SAMPLEHOST_PRINTJOB_H
+
+#include "samplehost/print/pageplan.h"
+#include "samplehost/print/printtarget.h"
+#include "samplehost/print/sheetgeometry.h"
+
+#include <QtCore/QObject>
+#include <QtCore/QTimer>
+#include <QtGui/QPainter>
+
+#include <functional>
+#include <memory>
+
+namespace SampleHost {
+
+/**
+ * Paints the label of one 1-based record into area, a rectangle in the painter's coordinates.
+ * Returns false with the reason in problem when the record cannot be painted; the job then fails.
+ */
+using LabelPainter =
+    std::function<bool(QPainter& painter, const QRectF& area, int record, QString& problem)>;
+
+/**
+ * Paints the labels of one page where the sheet has them, on a painter whose coordinates are
+ * dotsPerMm to the millimetre. False with the reason in problem as soon as a label fails.
+ */
+bool paintPage(QPainter& painter, qreal dotsPerMm, const SheetGeometry& sheet,
+               const QList<int>& records, const LabelPainter& paintLabel, QString& problem);
+
+/**
+ * Prints a page plan, some pages at a time between the events of the GUI thread, so that progress
+ * is seen and cancel() heard. It runs once.
+ */
+class PrintJob : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** How a job ended. */
+    enum class Outcome {
+        Completed, ///< Every page arrived at the target.
+        Cancelled, ///< Stopped by cancel(); the target was discarded.
+        Failed     ///< Stopped by an error; the target was discarded.
+    };
+    Q_ENUM(Outcome)
+
+    /** Prepares a job; nothing is opened before start(). */
+    PrintJob(const PagePlan& plan, const SheetGeometry& sheet, LabelPainter paintLabel,
+             std::unique_ptr<PrintTarget> target, QObject* parent = nullptr);
+
+    /** A job that is still running is given up and its target discarded, without a signal. */
+    ~PrintJob() override;
+
+    /** Whether the job was started and has not ended. */
+    bool isRunning() const { return m_state == State::Running; }
+
+    /** The number of pages that the job has to print. */
+    qint64 pageCount() const { return m_plan.pageCount(); }
+
+    /** Where the output goes, as a text for the user. */
+    QString targetDescription() const;
+
+public Q_SLOTS:
+    /** Starts printing when control returns to the event loop. A second call does nothing. */
+    void start();
+
+    /** Stops before the next page. Does nothing unless the job is running. */
+    void cancel();
+
+Q_SIGNALS:
+    /** Some pages were painted: pagesDone of pageCount. */
+    void progressChanged(qint64 pagesDone, qint64 pageCount);
+
+    /**
+     * The job ended; sent once. message says why a job failed, or warns that a printer may still
+     * put out pages of a cancelled job; it is empty otherwise.
+     */
+    void finished(SampleHost::PrintJob::Outcome outcome, const QString& message);
+
+private:
+    enum class State { Ready, Running, Ended };
+
+    void runSlice();
+    bool openTarget(QString& problem);
+    bool paintNextPage(QString& problem);
+    void complete();
+    bool closeUnfinished();
+    void fail(const QString& problem);
+    void end(Outcome outcome, const QString& message);
+
+    PagePlan m_plan;
+    SheetGeometry m_sheet;
+    LabelPainter m_paintLabel;
+    std::unique_ptr<PrintTarget> m_target;
+    QPainter m_painter;
+    QPagedPaintDevice* m_device = nullptr;
+    QTimer m_timer;
+    qint64 m_pagesDone = 0;
+    State m_state = State::Ready;
+};
+
+} // namespace SampleHost
+
+#endif
