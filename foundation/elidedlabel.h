@@ -21,11 +21,10 @@ protected:
 
     /** As much of the text as a label can show at all, so that a megabyte is measured quickly. */
     QString measuredText() const;
+    /** What the label paints at its present width. */
+    virtual QString shownText() const;
     /** Whether the label shows less than its text. */
     virtual bool isElided() const;
-
-private:
-    QString shownText() const;
 };
 
 } // namespace PrintPanels

@@ -60,12 +60,6 @@ bool ColorSwatch::event(QEvent* event)
     return DragScrollButton::event(event);
 }
 
-// Picking the checked swatch again leaves it checked.
-void ColorSwatch::nextCheckState()
-{
-    setChecked(true);
-}
-
 void ColorSwatch::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);

@@ -5,8 +5,7 @@
 
 namespace HostKit {
 
-/** One entry of a ColorMenu: a button that paints its colour and cannot be unchecked by the user.
- */
+/** One entry of a ColorMenu: a checkable button that paints its colour. */
 class ColorSwatch : public DragScrollButton
 {
     Q_OBJECT
@@ -27,7 +26,6 @@ public:
 
 protected:
     bool event(QEvent* event) override;
-    void nextCheckState() override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

@@ -23,8 +23,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-/** The close button, painted by itself so that a style sheet for push buttons does not change it.
- */
+/** The close button. It paints itself, so a style sheet for push buttons does not change it. */
 class TitleBarButton : public QAbstractButton
 {
     Q_OBJECT
