@@ -11,3 +11,24 @@ printpanels_add_test(tst_sheetgeometry
 printpanels_add_test(tst_printjob
     SOURCES tst_printjob.cpp "${stricttest}"
     LIBRARIES samplehost_print Qt6::Pdf)
+
+# Tests that drive the sample host's own widgets.
+foreach(name IN ITEMS
+        commandline
+        eventlog
+        hostpages
+        hostprinters
+        hostsettings
+        printing
+        supplysimulator)
+    printpanels_add_test(tst_${name}
+        SOURCES tst_${name}.cpp hostfixture.h "${stricttest}"
+        LIBRARIES samplehost_app Qt6::Pdf)
+endforeach()
+
+# Runs the program itself.
+printpanels_add_test(tst_samplehost
+    SOURCES tst_samplehost.cpp hostfixture.h "${stricttest}"
+    LIBRARIES samplehost_app Qt6::Pdf
+    DEFINITIONS "SAMPLEHOST_PROGRAM=\"$<TARGET_FILE:samplehost>\"")
+add_dependencies(tst_samplehost samplehost)

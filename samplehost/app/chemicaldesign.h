@@ -1,0 +1,51 @@
+#ifndef SAMPLEHOST_CHEMICALDESIGN_H
+#define SAMPLEHOST_CHEMICALDESIGN_H
+
+#include "samplehost/app/labeldesign.h"
+#include "samplehost/data/recordsource.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <memory>
+
+namespace SampleHost {
+
+/** A GHS label bound to a data source of chemicals, one label for each record. */
+class ChemicalDesign : public LabelDesign
+{
+    Q_DECLARE_TR_FUNCTIONS(ChemicalDesign)
+
+public:
+    /** A design over a source, which may be null: then there are no records. */
+    explicit ChemicalDesign(std::unique_ptr<RecordSource> source);
+    ~ChemicalDesign() override;
+
+    /** The record that the host shows, 0-based; clamped to the records there are. */
+    int currentIndex() const { return m_currentIndex; }
+    void setCurrentIndex(int index);
+
+    /**
+     * Whether the label takes its contents from the data source. An unbound label has the contents
+     * that it shows now and no records to choose from.
+     */
+    bool isBound() const { return m_bound; }
+    void setBound(bool bound) { m_bound = bound; }
+
+    /** The data source as a text for the user. */
+    QString sourceDescription() const;
+
+    QString title() const override;
+    int recordCount() const override;
+    void complete(PrintRequest& request) const override;
+    QSizeF labelSizeMm(const PrintRequest& request) const override;
+    LabelPainter painter(const PrintRequest& request) const override;
+
+private:
+    std::unique_ptr<RecordSource> m_source;
+    int m_currentIndex = 0;
+    bool m_bound = true;
+};
+
+} // namespace SampleHost
+
+#endif

@@ -1,0 +1,280 @@
+#include "samplehost/app/commandline.h"
+
+#include "samplehost/app/demostates.h"
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QCoreApplication>
+#include <QtCore/QLatin1String>
+
+#include <cstring>
+#include <limits>
+
+namespace SampleHost {
+
+namespace {
+
+struct Option
+{
+    const char* name;
+    const char* value;
+    const char* description;
+};
+
+// clang-format off
+constexpr Option options[] = {
+    {"print", "list", "Print a list of records such as 1,4-5, without a user."},
+    {"all", nullptr, "Print all records, without a user."},
+    {"current", "record", "Print one record, without a user."},
+    {"output", "file.pdf", "The PDF file to print to."},
+    {"printer", "name", "Print to a printer of the system instead of a PDF file."},
+    {"copies", "number", "The number of copies, 1 to 999."},
+    {"nup", "rows x columns", "The labels on a sheet, for example 2x2."},
+    {"sequence", nullptr, "Fill a sheet with successive records."},
+    {"replicate", nullptr, "Fill a sheet with copies of one record."},
+    {"paper", "name", "The paper: label, a4 or letter."},
+    {"background", nullptr, "Print a user background under the labels."},
+    {"print-to-file", nullptr, "Print to a .prn file below the folder of the output file."},
+    {"test-controls", nullptr, "Show the panels' print-to-file and error-test controls."},
+    {"screenshot", "file.png", "Save a picture of the window and end."},
+    {"state", "name", "Bring the window into a state: plain, list-nup, supply, pipe or test-controls."},
+    {"database", "name", "The SQLite file, or the database of a server."},
+    {"driver", "name", "The Qt SQL driver, for example QPSQL. The password of a server's user is taken "
+                       "from the environment variable SAMPLEHOST_PASSWORD."},
+    {"host", "name", "The database server."},
+    {"port", "number", "The port of the database server."},
+    {"user", "name", "The user at the database server."},
+    {"table", "name", "The table with the records."},
+};
+// clang-format on
+
+// Whoever asks for one of these does not need a display.
+constexpr const char* headlessOptions[] = {"print",   "all",      "current", "screenshot", "help",
+                                           "version", "help-all", "h",       "v"};
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("SampleHost::CommandLine", text);
+}
+
+void addOptions(QCommandLineParser& parser)
+{
+    parser.setApplicationDescription(tr("Prints labels through the print panels."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    for (const Option& option : options) {
+        parser.addOption(QCommandLineOption(QString::fromLatin1(option.name),
+                                            tr(option.description),
+                                            QString::fromLatin1(option.value)));
+    }
+}
+
+/** Takes the values of the options over; the first thing wrong is kept as the problem. */
+class Reader
+{
+public:
+    Reader(const QCommandLineParser& parser, CommandLine& result)
+        : m_parser(parser), m_result(result)
+    {
+    }
+
+    void read()
+    {
+        readRecords();
+        readOutput();
+        readSheet();
+        readWindow();
+        readDataSource();
+        checkTarget();
+    }
+
+private:
+    bool has(const char* name) const { return m_parser.isSet(QString::fromLatin1(name)); }
+
+    QString value(const char* name) const { return m_parser.value(QString::fromLatin1(name)); }
+
+    void complain(const QString& problem)
+    {
+        if (m_result.problem.isEmpty()) {
+            m_result.problem = problem;
+        }
+    }
+
+    int number(const char* name, int least, int most, int otherwise)
+    {
+        if (!has(name)) {
+            return otherwise;
+        }
+        bool read = false;
+        const int given = value(name).toInt(&read);
+        if (!read || given < least || given > most) {
+            complain(tr("--%1 needs a number from %2 to %3, not \"%4\".")
+                         .arg(QString::fromLatin1(name), QString::number(least),
+                              QString::number(most), value(name)));
+            return otherwise;
+        }
+        return given;
+    }
+
+    void readRecords()
+    {
+        using Records = CommandLine::Records;
+        if (int(has("print")) + int(has("all")) + int(has("current")) > 1) {
+            complain(tr("Only one of --print, --all and --current can be used."));
+        }
+        if (has("print")) {
+            m_result.records = Records::List;
+            m_result.list = value("print");
+        } else if (has("all")) {
+            m_result.records = Records::All;
+        } else if (has("current")) {
+            m_result.records = Records::Current;
+            m_result.currentRecord = number("current", 1, std::numeric_limits<int>::max(), 1);
+        }
+        m_result.copies = number("copies", 1, 999, 1);
+    }
+
+    void readOutput()
+    {
+        m_result.output = value("output");
+        m_result.printer = value("printer");
+        m_result.userBackground = has("background");
+        m_result.printToFile = has("print-to-file");
+        if (has("output") && m_result.output.isEmpty()) {
+            complain(tr("--output needs a file name."));
+        }
+    }
+
+    void readSheet()
+    {
+        if (has("nup")) {
+            m_result.nup = NupLayout::fromText(value("nup"));
+            if (!m_result.nup) {
+                complain(
+                    tr("--nup needs rows x columns such as 2x3, not \"%1\".").arg(value("nup")));
+            }
+        }
+        if (has("sequence") && has("replicate")) {
+            complain(tr("Only one of --sequence and --replicate can be used."));
+        }
+        if (has("sequence") || has("replicate")) {
+            m_result.nupMode = has("sequence") ? NupMode::Sequencing : NupMode::Replicating;
+        }
+        if (has("paper")) {
+            readPaper(value("paper").toLower());
+        }
+    }
+
+    void readPaper(const QString& name)
+    {
+        const QStringList names{QStringLiteral("label"), QStringLiteral("a4"),
+                                QStringLiteral("letter")};
+        const qsizetype index = names.indexOf(name);
+        if (index < 0) {
+            complain(tr("--paper needs label, a4 or letter, not \"%1\".").arg(name));
+        } else {
+            m_result.paper = Paper(index);
+        }
+    }
+
+    void readWindow()
+    {
+        m_result.screenshot = value("screenshot");
+        m_result.state = value("state");
+        if (has("screenshot") && m_result.screenshot.isEmpty()) {
+            complain(tr("--screenshot needs a file name."));
+        }
+        if (has("state") && !demoStateNames().contains(m_result.state)) {
+            complain(tr("--state needs one of %1, not \"%2\".")
+                         .arg(demoStateNames().join(QStringLiteral(", ")), m_result.state));
+        }
+        m_result.host.testControls = has("test-controls") || m_result.printToFile ||
+                                     m_result.state == testControlsStateName();
+    }
+
+    void readDataSource()
+    {
+        DataSourceOptions& source = m_result.host.dataSource;
+        if (has("driver")) {
+            source.driver = value("driver");
+        }
+        if (has("table")) {
+            source.table = value("table");
+        }
+        source.databaseName = value("database");
+        source.hostName = value("host");
+        source.userName = value("user");
+        source.password = qEnvironmentVariable("SAMPLEHOST_PASSWORD");
+        source.port = number("port", 1, 65535, source.port);
+    }
+
+    void checkTarget()
+    {
+        const bool prints = m_result.records != CommandLine::Records::None;
+        if (prints && m_result.output.isEmpty() && m_result.printer.isEmpty()) {
+            complain(tr("Where to? Add --output FILE.pdf or --printer NAME."));
+        }
+    }
+
+    const QCommandLineParser& m_parser;
+    CommandLine& m_result;
+};
+
+} // namespace
+
+void CommandLine::applyTo(HostSettings& settings) const
+{
+    settings.setOutputPath(output);
+    if (nup) {
+        settings.setNup(*nup);
+    }
+    if (paper) {
+        settings.setPaper(*paper);
+    }
+}
+
+CommandLine parseCommandLine(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    addOptions(parser);
+    CommandLine result;
+    if (!parser.parse(arguments)) {
+        result.problem = parser.errorText();
+        return result;
+    }
+    result.helpAsked =
+        parser.isSet(QStringLiteral("help")) || parser.isSet(QStringLiteral("help-all"));
+    result.versionAsked = parser.isSet(QStringLiteral("version"));
+    if (!parser.positionalArguments().isEmpty()) {
+        result.problem =
+            tr("\"%1\" is not an option.").arg(parser.positionalArguments().constFirst());
+        return result;
+    }
+    Reader(parser, result).read();
+    return result;
+}
+
+QString commandLineHelp()
+{
+    QCommandLineParser parser;
+    addOptions(parser);
+    return parser.helpText();
+}
+
+bool looksHeadless(int argc, const char* const* argv)
+{
+    for (int i = 1; i < argc; ++i) {
+        const char* argument = argv[i];
+        while (*argument == '-') {
+            ++argument;
+        }
+        const QLatin1String name(argument, qsizetype(std::strcspn(argument, "=")));
+        for (const char* option : headlessOptions) {
+            if (argument != argv[i] && name == QLatin1String(option)) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+} // namespace SampleHost

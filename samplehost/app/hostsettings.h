@@ -1,0 +1,73 @@
+#ifndef SAMPLEHOST_HOSTSETTINGS_H
+#define SAMPLEHOST_HOSTSETTINGS_H
+
+#include "samplehost/print/printrequest.h"
+
+#include <QtCore/QObject>
+#include <QtCore/QSizeF>
+#include <QtCore/QString>
+
+namespace SampleHost {
+
+/** The paper that sheets are laid out on. */
+enum class Paper {
+    LabelSize, ///< As large as the label, or as the labels of an N-up sheet.
+    A4,
+    Letter
+};
+
+/** The name of a paper for the user. */
+QString paperName(Paper paper);
+
+/** The size of a paper in millimetres; empty for Paper::LabelSize. */
+QSizeF paperSizeMm(Paper paper);
+
+/** What the user decided about the output, for all pages of the host. */
+class HostSettings : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** Settings for a PDF file "labels.pdf" in the user's documents folder, one label a page. */
+    explicit HostSettings(QObject* parent = nullptr);
+
+    /** The folder that files are printed into. */
+    QString outputFolder() const { return m_outputFolder; }
+    /** The name of the PDF file in that folder. */
+    QString outputFileName() const { return m_outputFileName; }
+    /** Folder and file name together. */
+    QString outputPath() const;
+    Paper paper() const { return m_paper; }
+    /** How many labels go on a sheet. */
+    NupLayout nup() const { return m_nup; }
+
+    /** Sets the folder; an empty one changes nothing. A relative one counts from the current
+     * folder. */
+    void setOutputFolder(const QString& folder);
+    /** Sets the file name; an empty one, or one with a folder in it, changes nothing. */
+    void setOutputFileName(const QString& fileName);
+    /** Sets folder and file name from one path; an empty one changes nothing. */
+    void setOutputPath(const QString& path);
+    void setPaper(Paper paper);
+    /** Sets the layout of sheets, brought into its bounds. */
+    void setNup(const NupLayout& nup);
+
+    /** Reads what save() wrote for this user; what was never saved stays. */
+    void load();
+    /** Keeps the settings for the next start of the program. */
+    void save() const;
+
+Q_SIGNALS:
+    /** Any of the settings has a new value. */
+    void changed();
+
+private:
+    QString m_outputFolder;
+    QString m_outputFileName;
+    Paper m_paper = Paper::LabelSize;
+    NupLayout m_nup;
+};
+
+} // namespace SampleHost
+
+#endif

@@ -1,0 +1,7 @@
+#include "samplehost/app/labeldesign.h"
+
+namespace SampleHost {
+
+LabelDesign::~LabelDesign() = default;
+
+} // namespace SampleHost

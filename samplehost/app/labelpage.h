@@ -1,0 +1,48 @@
+#ifndef SAMPLEHOST_LABELPAGE_H
+#define SAMPLEHOST_LABELPAGE_H
+
+#include "samplehost/app/chemicaldesign.h"
+#include "samplehost/app/printpage.h"
+
+#include <memory>
+
+namespace SampleHost {
+
+class LabelTypeBar;
+class LabelView;
+class RecordNavigator;
+
+/** The page of GHS labels: the label of the current record, and a panel that prints the records. */
+class LabelPage : public PrintPage
+{
+    Q_OBJECT
+
+public:
+    /** A page over a data source; a null one leaves the page without records. */
+    LabelPage(std::unique_ptr<RecordSource> source, HostSettings& settings, bool testControls,
+              QWidget* parent = nullptr);
+    ~LabelPage() override;
+
+    const ChemicalDesign& design() const override { return m_design; }
+
+    /** Chooses the current record. */
+    RecordNavigator& navigator() const { return *m_navigator; }
+
+private:
+    QWidget* createContents(HostSettings& settings);
+    void showRecord(int index);
+    void applyLabelType();
+    void applyUserBackground();
+    void updateView();
+
+    ChemicalDesign m_design;
+    HostSettings& m_settings;
+    LabelTypeBar* m_typeBar = nullptr;
+    LabelView* m_view = nullptr;
+    RecordNavigator* m_navigator = nullptr;
+    bool m_hadBackground = false;
+};
+
+} // namespace SampleHost
+
+#endif

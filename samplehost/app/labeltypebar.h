@@ -1,0 +1,48 @@
+#ifndef SAMPLEHOST_LABELTYPEBAR_H
+#define SAMPLEHOST_LABELTYPEBAR_H
+
+#include <QtWidgets/QWidget>
+
+class QCheckBox;
+
+namespace SampleHost {
+
+class HostSettings;
+class NupCombo;
+
+/** The properties of a label type that decide what its print panel offers. */
+class LabelTypeBar : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /** A bar bound to the settings, which must outlive it. */
+    explicit LabelTypeBar(HostSettings& settings, QWidget* parent = nullptr);
+
+    /** Whether the length of the label follows its contents. */
+    bool isDynamicLength() const;
+    /** Whether the label takes its contents from the data source. */
+    bool isBound() const;
+    /** Whether the user has put a background layer under the label. */
+    bool hasUserBackground() const;
+
+Q_SIGNALS:
+    /** One of the properties changed; the layout of sheets is HostSettings' to tell. */
+    void changed();
+
+private:
+    void createWidgets();
+    QCheckBox* addCheck(const QString& name, const QString& text, const QString& toolTip,
+                        bool checked);
+    void showSettings();
+
+    HostSettings& m_settings;
+    NupCombo* m_nupCombo = nullptr;
+    QCheckBox* m_dynamicCheck = nullptr;
+    QCheckBox* m_boundCheck = nullptr;
+    QCheckBox* m_backgroundCheck = nullptr;
+};
+
+} // namespace SampleHost
+
+#endif

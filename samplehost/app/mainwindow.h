@@ -1,0 +1,86 @@
+#ifndef SAMPLEHOST_MAINWINDOW_H
+#define SAMPLEHOST_MAINWINDOW_H
+
+#include "samplehost/app/hostsettings.h"
+#include "samplehost/app/printerdirectory.h"
+#include "samplehost/data/recordsource.h"
+#include "samplehost/print/printjob.h"
+
+#include <QtWidgets/QMainWindow>
+
+class QTabWidget;
+
+namespace SampleHost {
+
+class EventLog;
+class LabelPage;
+class PipePage;
+class PrintPage;
+class SupplySimulator;
+
+/** What is decided when the program starts. */
+struct HostOptions
+{
+    DataSourceOptions dataSource;
+    /** Whether the panels have print-to-file and error-test controls. */
+    bool testControls = false;
+};
+
+/** The window of the sample host: its pages, the simulated printer and the event log. */
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /** Opens the data source and builds everything. Without a data source the window works, empty.
+     */
+    explicit MainWindow(const HostOptions& options = HostOptions(), QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    /** Why the data source could not be opened; empty when it could. */
+    QString dataSourceProblem() const { return m_dataSourceProblem; }
+
+    HostSettings& settings() { return m_settings; }
+    LabelPage& labelPage() const { return *m_labelPage; }
+    PipePage& pipePage() const { return *m_pipePage; }
+    SupplySimulator& supply() const { return *m_supply; }
+    EventLog& eventLog() const { return *m_log; }
+
+    /** The page in front. */
+    PrintPage& currentPage() const;
+
+    /** Brings a page of this window to the front. */
+    void setCurrentPage(PrintPage& page);
+
+    /** Makes the window high enough for the whole panel of the current page. */
+    void growToPanel();
+
+private:
+    void createPages(const HostOptions& options);
+    void createDocks();
+    void createMenus();
+    void addPage(PrintPage* page, const QString& title, const QString& logName);
+    void connectPanel(PrintPage& page);
+    void connectController(PrintPage& page);
+    void clickPanelButton(const QString& name);
+    void refreshPrinterStates();
+    void openPreferences();
+    void showJob(PrintJob* job);
+    void showOutcome(PrintJob::Outcome outcome, const QString& message);
+    void showError(const QString& message);
+    void showPrintError(int number);
+    void showAbout();
+
+    HostSettings m_settings;
+    PrinterDirectory m_printers;
+    QString m_dataSourceProblem;
+    QTabWidget* m_pages = nullptr;
+    LabelPage* m_labelPage = nullptr;
+    PipePage* m_pipePage = nullptr;
+    SupplySimulator* m_supply = nullptr;
+    EventLog* m_log = nullptr;
+};
+
+} // namespace SampleHost
+
+#endif

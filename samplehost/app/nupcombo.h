@@ -1,0 +1,35 @@
+#ifndef SAMPLEHOST_NUPCOMBO_H
+#define SAMPLEHOST_NUPCOMBO_H
+
+#include "samplehost/print/printrequest.h"
+
+#include <QtWidgets/QComboBox>
+
+namespace SampleHost {
+
+/** A choice of N-up layouts. */
+class NupCombo : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    /** Offers the usual layouts; one label a page is selected. */
+    explicit NupCombo(QWidget* parent = nullptr);
+
+    /** The selected layout. */
+    NupLayout layoutChoice() const;
+
+    /** Selects a layout without a signal; one that is not on offer is added. */
+    void setLayoutChoice(const NupLayout& layout);
+
+Q_SIGNALS:
+    /** The user selected a layout. */
+    void layoutChosen(const SampleHost::NupLayout& layout);
+
+private:
+    void offer(const NupLayout& layout);
+};
+
+} // namespace SampleHost
+
+#endif

@@ -1,0 +1,38 @@
+#ifndef SAMPLEHOST_PANELSCROLLER_H
+#define SAMPLEHOST_PANELSCROLLER_H
+
+#include <QtWidgets/QScrollArea>
+
+class PrintWidget;
+
+namespace SampleHost {
+
+/**
+ * Holds a print panel at its natural width. A panel that is higher than the window is scrolled,
+ * with room kept for the scroll bar, so that the panel never changes its width.
+ */
+class PanelScroller : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    /** Takes ownership of the panel. */
+    explicit PanelScroller(PrintWidget* panel, QWidget* parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+    /** The height at which nothing has to be scrolled. */
+    int fullHeight() const;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void keepPanelWhole();
+    int panelWidth() const;
+};
+
+} // namespace SampleHost
+
+#endif

@@ -1,0 +1,71 @@
+#include "samplehost/app/printerdirectory.h"
+
+#include "samplehost/app/hostsettings.h"
+
+#include <printpanels/printwidget.h>
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtPrintSupport/QPrinterInfo>
+
+#include <algorithm>
+
+namespace SampleHost {
+
+PrinterDirectory::PrinterDirectory(const HostSettings& settings) : m_settings(settings) {}
+
+QString PrinterDirectory::pdfFileName()
+{
+    return tr("PDF file");
+}
+
+QStringList PrinterDirectory::names() const
+{
+    return QStringList{pdfFileName()} + QPrinterInfo::availablePrinterNames();
+}
+
+PrinterState PrinterDirectory::state(const QString& name) const
+{
+    if (name == pdfFileName()) {
+        return pdfFileState();
+    }
+    PrinterState state;
+    const QPrinterInfo info = QPrinterInfo::printerInfo(name);
+    if (info.isNull()) {
+        state.offline = true;
+        state.unavailable = true;
+        return state;
+    }
+    state.location = info.location();
+    state.remote = info.isRemote();
+    // A stopped printer keeps its jobs. Said twice, since "Remote" takes the place of "Offline".
+    state.offline = info.state() == QPrinter::Error || info.state() == QPrinter::Aborted;
+    state.unavailable = state.offline;
+    return state;
+}
+
+PrinterState PrinterDirectory::pdfFileState() const
+{
+    PrinterState state;
+    state.location = QDir::toNativeSeparators(m_settings.outputPath());
+    state.unavailable = !QFileInfo(m_settings.outputFolder()).isWritable();
+    state.offline = state.unavailable;
+    return state;
+}
+
+void PrinterDirectory::fill(PrintWidget& panel) const
+{
+    const QStringList printers = names();
+    const qsizetype before = printers.indexOf(panel.getSelectedPrinter());
+    panel.updateListOfPrinters(printers, int(std::max<qsizetype>(0, before)));
+    showState(panel);
+}
+
+void PrinterDirectory::showState(PrintWidget& panel) const
+{
+    const PrinterState current = state(panel.getSelectedPrinter());
+    panel.updatePrinterLocation(current.location);
+    panel.updatePrinterStatus(current.offline, current.remote, current.unavailable);
+}
+
+} // namespace SampleHost

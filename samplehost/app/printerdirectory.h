@@ -1,0 +1,58 @@
+#ifndef SAMPLEHOST_PRINTERDIRECTORY_H
+#define SAMPLEHOST_PRINTERDIRECTORY_H
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+class PrintWidget;
+
+namespace SampleHost {
+
+class HostSettings;
+
+/** What a panel shows of a printer. */
+struct PrinterState
+{
+    QString location;
+    bool offline = false;
+    bool remote = false;
+    bool unavailable = false;
+};
+
+/** The printers that the host can print to: a PDF file first, then those of the system. */
+class PrinterDirectory
+{
+    Q_DECLARE_TR_FUNCTIONS(PrinterDirectory)
+
+public:
+    /** The settings must outlive the directory. */
+    explicit PrinterDirectory(const HostSettings& settings);
+
+    /** The name of the entry that prints to a PDF file. */
+    static QString pdfFileName();
+
+    /** The names, as they are now. */
+    QStringList names() const;
+
+    /**
+     * The state of an entry, asked anew each time. A system printer that has gone is offline and
+     * unavailable; so is the PDF file while its folder cannot be written to.
+     */
+    PrinterState state(const QString& name) const;
+
+    /** Fills a panel with all printers; the one it had stays selected, else the PDF file is. */
+    void fill(PrintWidget& panel) const;
+
+    /** Shows location and status of the panel's selected printer in the panel. */
+    void showState(PrintWidget& panel) const;
+
+private:
+    PrinterState pdfFileState() const;
+
+    const HostSettings& m_settings;
+};
+
+} // namespace SampleHost
+
+#endif

@@ -1,0 +1,48 @@
+#ifndef SAMPLEHOST_PRINTPROGRESSDIALOG_H
+#define SAMPLEHOST_PRINTPROGRESSDIALOG_H
+
+#include <QtWidgets/QDialog>
+
+class QLabel;
+class QProgressBar;
+class QPushButton;
+
+namespace SampleHost {
+
+class PrintJob;
+
+/**
+ * Shows how far a job is and lets the user cancel it. It appears only when a job takes a moment,
+ * and deletes itself when the job ends. It does not block the window behind it.
+ */
+class PrintProgressDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /** A job shorter than this many milliseconds ends before its dialog is seen. */
+    static constexpr int showAfter = 400;
+
+    /** Follows a job that has not ended. */
+    explicit PrintProgressDialog(PrintJob& job, QWidget* parent = nullptr);
+
+public Q_SLOTS:
+    /** Closing the dialog cancels the job. */
+    void reject() override;
+
+Q_SIGNALS:
+    /** The user wants the job to stop. */
+    void cancelled();
+
+private:
+    void createWidgets();
+    void showProgress(qint64 pagesDone, qint64 pageCount);
+
+    QLabel* m_label = nullptr;
+    QProgressBar* m_bar = nullptr;
+    QPushButton* m_cancelButton = nullptr;
+};
+
+} // namespace SampleHost
+
+#endif

@@ -1,0 +1,59 @@
+#ifndef SAMPLEHOST_RECORDNAVIGATOR_H
+#define SAMPLEHOST_RECORDNAVIGATOR_H
+
+#include <QtWidgets/QWidget>
+
+class QIcon;
+class QLabel;
+class QSpinBox;
+class QToolButton;
+
+namespace SampleHost {
+
+/** Buttons to the first, previous, next and last record, and the number of the current one. */
+class RecordNavigator : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /** A navigator without records, disabled. */
+    explicit RecordNavigator(QWidget* parent = nullptr);
+
+    /**
+     * Sets the number of records, and the current one to the nearest that exists. The navigator is
+     * disabled while there is none. Tells of a new current record like any other change.
+     */
+    void setCount(int count);
+
+    /** The number of records. */
+    int count() const { return m_count; }
+
+    /** The current record, 0-based; 0 without records. */
+    int currentIndex() const { return m_index; }
+
+public Q_SLOTS:
+    /** Makes a record current; an index beyond the ends means the record at that end. */
+    void setCurrentIndex(int index);
+
+Q_SIGNALS:
+    /** Another record became current, by the user or by the program; 0-based. */
+    void currentIndexChanged(int index);
+
+private:
+    QToolButton* addButton(const QString& name, const QIcon& icon, const QString& toolTip);
+    void createWidgets();
+    void showPosition();
+
+    QToolButton* m_firstButton = nullptr;
+    QToolButton* m_previousButton = nullptr;
+    QToolButton* m_nextButton = nullptr;
+    QToolButton* m_lastButton = nullptr;
+    QSpinBox* m_numberBox = nullptr;
+    QLabel* m_countLabel = nullptr;
+    int m_count = 0;
+    int m_index = 0;
+};
+
+} // namespace SampleHost
+
+#endif

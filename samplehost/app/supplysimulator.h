@@ -1,0 +1,79 @@
+#ifndef SAMPLEHOST_SUPPLYSIMULATOR_H
+#define SAMPLEHOST_SUPPLYSIMULATOR_H
+
+#include <QtCore/QList>
+#include <QtCore/QPointer>
+#include <QtCore/QStringList>
+#include <QtWidgets/QWidget>
+
+class QCheckBox;
+class QComboBox;
+class QDoubleSpinBox;
+class QFormLayout;
+
+class PrintWidget;
+
+namespace SampleHost {
+
+/**
+ * Plays a label printer that reports what is loaded in it. Every change is reported to all
+ * connected panels; what a user corrects in one panel shows here and in the other panels.
+ */
+class SupplySimulator : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /** What the printer reports. */
+    enum class Report {
+        Nothing, ///< The printer tells nothing of its supply.
+        OneRibbon,
+        TwoRibbons
+    };
+
+    /** A printer that reports nothing. */
+    explicit SupplySimulator(QWidget* parent = nullptr);
+
+    /** Reports to a panel from now on. A panel may go before the simulator does. */
+    void connectPanel(PrintWidget& panel);
+
+    /** What is reported now. */
+    Report report() const;
+    /** Changes what is reported, as if the user had selected it. */
+    void setReport(Report report);
+
+    /** The codes that are reported: ribbon 1, ribbon 2 if there are two, supply. */
+    QStringList colors() const;
+    /** The width that is reported, in the chosen unit. */
+    double width() const;
+    /** Whether the width is in millimetres. */
+    bool isMetric() const;
+
+private:
+    void createWidgets();
+    QComboBox* addColorCombo(QFormLayout* form, const QString& label, const QString& name,
+                             const QString& clearName, int colorIndex);
+    QCheckBox* addCheck(QFormLayout* form, const QString& name, const QString& text);
+    void addWidthRow(QFormLayout* form);
+    void reportToAll(const PrintWidget* except = nullptr);
+    void reportTo(PrintWidget& panel) const;
+    void offerPalettes();
+    void offerPalettesTo(PrintWidget& panel) const;
+    void changeUnit();
+    void takeColors(const QStringList& reported, const PrintWidget* from);
+    void takeWidth(double width, const PrintWidget* from);
+
+    QList<QPointer<PrintWidget>> m_panels;
+    QComboBox* m_reportCombo = nullptr;
+    QComboBox* m_ribbon1Combo = nullptr;
+    QComboBox* m_ribbon2Combo = nullptr;
+    QComboBox* m_supplyCombo = nullptr;
+    QDoubleSpinBox* m_widthBox = nullptr;
+    QComboBox* m_unitCombo = nullptr;
+    QCheckBox* m_ladderCheck = nullptr;
+    QCheckBox* m_paletteCheck = nullptr;
+};
+
+} // namespace SampleHost
+
+#endif
