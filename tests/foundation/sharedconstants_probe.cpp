@@ -4,7 +4,7 @@
 extern "C" Q_DECL_EXPORT void translatedConstants(QStringList* texts)
 {
     using namespace SharedConstants;
-    *texts = {pointsSuffix,    inchesSuffix,   inchMarkSuffix,  millimetersSuffix,
-              oshaAuthority,   euAuthority,    customAuthority, oshaLabelType,
-              unLabelType,     customLabelType, orientationToolTip};
+    *texts = {pointsSuffix,  inchesSuffix,    inchMarkSuffix,    millimetersSuffix,
+              oshaAuthority, euAuthority,     customAuthority,   oshaLabelType,
+              unLabelType,   customLabelType, orientationToolTip};
 }

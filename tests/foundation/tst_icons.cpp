@@ -21,20 +21,13 @@ struct IconRow
 };
 
 const IconRow icons[] = {
-    {"printer_settings.png", 45, 45},
-    {"replicating.png", 78, 36},
-    {"replicating_disabled.png", 78, 36},
-    {"sequencing.png", 78, 36},
-    {"sequencing_disabled.png", 78, 36},
-    {"zoom-in.png", 49, 52},
-    {"zoom-in_pressed.png", 49, 52},
-    {"zoom-out.png", 49, 52},
-    {"zoom-out_pressed.png", 49, 52},
-    {"zoom_fit_transparent.png", 62, 57},
-    {"orientation-portrait.png", 52, 52},
-    {"orientation-portrait_pressed.png", 52, 52},
-    {"orientation-landscape.png", 52, 52},
-    {"orientation-landscape_pressed.png", 52, 52},
+    {"printer_settings.png", 45, 45},      {"replicating.png", 78, 36},
+    {"replicating_disabled.png", 78, 36},  {"sequencing.png", 78, 36},
+    {"sequencing_disabled.png", 78, 36},   {"zoom-in.png", 49, 52},
+    {"zoom-in_pressed.png", 49, 52},       {"zoom-out.png", 49, 52},
+    {"zoom-out_pressed.png", 49, 52},      {"zoom_fit_transparent.png", 62, 57},
+    {"orientation-portrait.png", 52, 52},  {"orientation-portrait_pressed.png", 52, 52},
+    {"orientation-landscape.png", 52, 52}, {"orientation-landscape_pressed.png", 52, 52},
 };
 
 QImage icon(const char* name)
@@ -56,11 +49,25 @@ int differingPixels(const QImage& one, const QImage& other)
 QStringList allSheets()
 {
     using namespace StyleSheets;
-    return {panel(),           printSettingsPanel(),  primaryPushButton(),    tallPushButton(),
-            checkBoxIndicator(), radioButtonIndicator(), printerSettingsButton(), plusStepButton(),
-            minusStepButton(), replicatingLabel(),    sequencingLabel(),      zoomInButton(),
-            zoomOutButton(),   fitButton(),           portraitButton(),       landscapeButton(),
-            previewFrame(),    multiPageDialogFrame(), previewDialogFrame()};
+    return {panel(),
+            printSettingsPanel(),
+            primaryPushButton(),
+            tallPushButton(),
+            checkBoxIndicator(),
+            radioButtonIndicator(),
+            printerSettingsButton(),
+            plusStepButton(),
+            minusStepButton(),
+            replicatingLabel(),
+            sequencingLabel(),
+            zoomInButton(),
+            zoomOutButton(),
+            fitButton(),
+            portraitButton(),
+            landscapeButton(),
+            previewFrame(),
+            multiPageDialogFrame(),
+            previewDialogFrame()};
 }
 
 /** Every image that a style sheet names, each once, sorted. */
@@ -206,7 +213,8 @@ void tst_Icons::sheetsNameTheHostsTwentyImages()
           "checkbox_checked_disabled", "checkbox_unchecked_disabled", "radio-button_checked",
           "radio-button_unchecked", "radio-button_checked-disabled",
           "radio-button_unchecked-disabled"})
-        expected.append(QStringLiteral(":/module_icons/ModuleIcons/%1.png").arg(QLatin1String(name)));
+        expected.append(
+            QStringLiteral(":/module_icons/ModuleIcons/%1.png").arg(QLatin1String(name)));
     for (const char* name :
          {"plus", "plus-pressed", "plus-disabled", "minus", "minus-pressed", "minus-disabled"})
         expected.append(QStringLiteral(":/Size/SizeIcons/%1.png").arg(QLatin1String(name)));

@@ -131,8 +131,10 @@ void tst_PrintWidgetInterface::slotsCalledByNameReachTheOverride()
 void tst_PrintWidgetInterface::metaObjectTable()
 {
     const QStringList expected = {
-        QStringLiteral("signal public void widgetPrintSignal(int sequenceStart, int sequenceEnd, QString customRecordsList)"),
-        QStringLiteral("signal public void printPreviewSignal(int sequenceStart, int sequenceEnd, QString customRecordsList)"),
+        QStringLiteral("signal public void widgetPrintSignal(int sequenceStart, int sequenceEnd, "
+                       "QString customRecordsList)"),
+        QStringLiteral("signal public void printPreviewSignal(int sequenceStart, int sequenceEnd, "
+                       "QString customRecordsList)"),
         QStringLiteral("signal public void openPreferencesSignal()"),
         QStringLiteral("signal public void currentPrinterSelectionChanged(QString printerName)"),
         QStringLiteral("signal public void openModuleSignal()"),
@@ -182,9 +184,10 @@ void tst_PrintWidgetInterface::signalsCanBeConnectedByText_data()
 {
     QTest::addColumn<QByteArray>("signal");
     for (const char* signal :
-         {SIGNAL(widgetPrintSignal(int,int,QString)), SIGNAL(printPreviewSignal(int,int,QString)),
-          SIGNAL(openPreferencesSignal()), SIGNAL(currentPrinterSelectionChanged(QString)),
-          SIGNAL(openModuleSignal()), SIGNAL(focusLost()), SIGNAL(printWidgetShowSignal()),
+         {SIGNAL(widgetPrintSignal(int, int, QString)),
+          SIGNAL(printPreviewSignal(int, int, QString)), SIGNAL(openPreferencesSignal()),
+          SIGNAL(currentPrinterSelectionChanged(QString)), SIGNAL(openModuleSignal()),
+          SIGNAL(focusLost()), SIGNAL(printWidgetShowSignal()),
           SIGNAL(supplyWidthChangedSignal(double)), SIGNAL(supplyColorsChangedSignal(QStringList)),
           SIGNAL(tinyLadderSupplyChangedSignal(bool))})
         QTest::newRow(signal) << QByteArray(signal);

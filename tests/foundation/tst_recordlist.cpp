@@ -91,7 +91,8 @@ private Q_SLOTS:
 void tst_RecordList::expressionIsExact()
 {
     QCOMPARE(RecordList::expression().pattern(),
-             QString::fromLatin1(R"((?![0])\d{1,4}(?:-(?![0])\d{1,4})?(?:,(?![0])\d{1,4}(?:-(?![0])\d{1,4})?)*)"));
+             QString::fromLatin1(
+                 R"((?![0])\d{1,4}(?:-(?![0])\d{1,4})?(?:,(?![0])\d{1,4}(?:-(?![0])\d{1,4})?)*)"));
     QCOMPARE(RecordList::expression().patternOptions(), QRegularExpression::NoPatternOption);
     QVERIFY(RecordList::expression().isValid());
 }
@@ -114,9 +115,10 @@ void tst_RecordList::grammar_data()
     for (const char* text : {"1", "4-5", "1,4-5,11-20,33", "20-11", "9999", "1000", "10", "3,3",
                              "4-4", "1-9999", "9999-1", "1,1,1,1"})
         valid(text);
-    for (const char* text : {"", "0", "01", "1,,2", "1 - 3", "12345", "1-2-3", "1,", ",1", "1-", "-1",
-                             "0-3", "3-0", "3-01", "1, 2", " 1", "1 ", "1\n", "a", "1,a", "1.5", "+1",
-                             "1;2", "1--2", "1,2,", "10000", "1-10000", "٣", "１"})
+    for (const char* text :
+         {"",    "0",   "01",  "1,,2", "1 - 3", "12345", "1-2-3",   "1,",  ",1", "1-",
+          "-1",  "0-3", "3-0", "3-01", "1, 2",  " 1",    "1 ",      "1\n", "a",  "1,a",
+          "1.5", "+1",  "1;2", "1--2", "1,2,",  "10000", "1-10000", "٣",   "１"})
         invalid(text);
 }
 
@@ -263,7 +265,8 @@ void tst_RecordList::firstPage_data()
     QTest::addColumn<bool>("hasItem");
     QTest::addColumn<int>("page");
     const auto row = [](const char* text, int pages, int page) {
-        QTest::addRow("'%s' of %d", text, pages) << QString::fromUtf8(text) << pages << true << page;
+        QTest::addRow("'%s' of %d", text, pages)
+            << QString::fromUtf8(text) << pages << true << page;
     };
     const auto empty = [](const char* text) {
         QTest::addRow("no item: '%s'", text) << QString::fromUtf8(text) << 10 << false << 0;

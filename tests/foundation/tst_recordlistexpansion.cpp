@@ -124,11 +124,14 @@ void tst_RecordListExpansion::expand()
 void tst_RecordListExpansion::invalid_data()
 {
     QTest::addColumn<QString>("text");
-    for (const char* text : {"", "0", "01", "1,,2", "1 - 3", "12345", "1-2-3", "1,", ",1", "1-", "-1", "-",
-                             ",", "1,0", "1-0", "0-1", "1,4-05", "1 ", " 1", "1\n", "a", "1,a", "٣",
-                             "1-99999999999999999999", "2147483648", "+1", "1.0"})
+    for (const char* text :
+         {"",           "0",  "01", "1,,2", "1 - 3", "12345", "1-2-3", "1,",
+          ",1",         "1-", "-1", "-",    ",",     "1,0",   "1-0",   "0-1",
+          "1,4-05",     "1 ", " 1", "1\n",  "a",     "1,a",   "٣",     "1-99999999999999999999",
+          "2147483648", "+1", "1.0"})
         QTest::addRow("'%s'", text) << QString::fromUtf8(text);
-    QTest::newRow("null character inside") << QString(QStringLiteral("1,2")).replace(1, 1, QChar(u'\0'));
+    QTest::newRow("null character inside")
+        << QString(QStringLiteral("1,2")).replace(1, 1, QChar(u'\0'));
     QTest::newRow("full-width digit") << QString(QChar(0xff11));
 }
 

@@ -25,11 +25,14 @@ const TranslatedRow translatedRows[] = {
     {" in", "Abbreviation for Inches"},
     {"\"", "Abbreviation for Inches"},
     {" mm", "Abbreviation for Millimeters"},
-    {"OSHA", "OSHA Authority Abbreviaton. OSHA stands for: Occupational Safety and Health Adminstration."},
+    {"OSHA",
+     "OSHA Authority Abbreviaton. OSHA stands for: Occupational Safety and Health Adminstration."},
     {"EU", "EU Authority Abbreviaton"},
     {"CUSTOM", "CUSTOM Authority"},
-    {"US/OSHA HazCom 2012", "Option for selecting label type. OSHA stands for: Occupational Safety and Health Adminstration."},
-    {"UN/GHS Rev. 7", "Option for selecting label type. Stands for: United Nations/Globally Harmonized System."},
+    {"US/OSHA HazCom 2012", "Option for selecting label type. OSHA stands for: Occupational Safety "
+                            "and Health Adminstration."},
+    {"UN/GHS Rev. 7",
+     "Option for selecting label type. Stands for: United Nations/Globally Harmonized System."},
     {"Custom", "Option for selecting label type. The user selects to create a custom GHS label."},
     {"Switch Print Orientation", "The text on the tooltip to switch print orientation."},
 };
@@ -44,12 +47,13 @@ QStringList englishTexts()
 
 QStringList ownTexts()
 {
-    return {pointsSuffix,    inchesSuffix,   inchMarkSuffix,  millimetersSuffix,
-            oshaAuthority,   euAuthority,    customAuthority, oshaLabelType,
-            unLabelType,     customLabelType, orientationToolTip};
+    return {pointsSuffix,  inchesSuffix,    inchMarkSuffix,    millimetersSuffix,
+            oshaAuthority, euAuthority,     customAuthority,   oshaLabelType,
+            unLabelType,   customLabelType, orientationToolTip};
 }
 
-/** The texts of the probe library's copy of the constants; loads the library if it is not loaded yet. */
+/** The texts of the probe library's copy of the constants; loads the library if it is not loaded
+ * yet. */
 QStringList probeTexts()
 {
     static QLibrary probe(QStringLiteral(PROBE_LIBRARY));
@@ -233,11 +237,12 @@ void tst_SharedConstants::namedColours()
 
 void tst_SharedConstants::moduleNamesInOrder()
 {
-    const QStringList expected = {
-        QStringLiteral("Unspecified"),  QStringLiteral("JxLabelEditor"), QStringLiteral("GHS"),
-        QStringLiteral("ArcFlashMain"), QStringLiteral("PipeMarking"),   QStringLiteral("NFPAMain"),
-        QStringLiteral("JxCatalog"),    QStringLiteral("QuickPrint"),    QStringLiteral("PDFViewer"),
-        QStringLiteral("JavaScript"),   QStringLiteral("GraphicsViewer")};
+    const QStringList expected = {QStringLiteral("Unspecified"),   QStringLiteral("JxLabelEditor"),
+                                  QStringLiteral("GHS"),           QStringLiteral("ArcFlashMain"),
+                                  QStringLiteral("PipeMarking"),   QStringLiteral("NFPAMain"),
+                                  QStringLiteral("JxCatalog"),     QStringLiteral("QuickPrint"),
+                                  QStringLiteral("PDFViewer"),     QStringLiteral("JavaScript"),
+                                  QStringLiteral("GraphicsViewer")};
     QCOMPARE(moduleTypeNames, expected);
     QCOMPARE(moduleTypeNames.size(), 11);
 }

@@ -124,11 +124,12 @@ void tst_StyleSheets::everyExpectedTextBelongsToARole()
 void tst_StyleSheets::panelIsComposedOfThreeBlocks()
 {
     QCOMPARE(comboBoxBlock().size(), 1522);
-    QVERIFY(comboBoxBlock().startsWith(QStringLiteral("QComboBox { border: 1px solid #c6c6c6; }\n")));
+    QVERIFY(
+        comboBoxBlock().startsWith(QStringLiteral("QComboBox { border: 1px solid #c6c6c6; }\n")));
     QVERIFY(comboBoxBlock().endsWith(
         QStringLiteral("QSpinBox { min-height: 35px; border: 1px solid #c6c6c6; }\n")));
-    QCOMPARE(StyleSheets::panel(), StyleSheets::primaryPushButton() + comboBoxBlock()
-                                       + StyleSheets::radioButtonIndicator());
+    QCOMPARE(StyleSheets::panel(), StyleSheets::primaryPushButton() + comboBoxBlock() +
+                                       StyleSheets::radioButtonIndicator());
 }
 
 void tst_StyleSheets::printSettingsPanelIsComboCheckRadioAndTabBlocks()
@@ -136,16 +137,16 @@ void tst_StyleSheets::printSettingsPanelIsComboCheckRadioAndTabBlocks()
     QCOMPARE(tabBarBlock().size(), 502);
     QVERIFY(tabBarBlock().startsWith(QStringLiteral("QTabBar {  } \n")));
     QCOMPARE(StyleSheets::printSettingsPanel().first(2496),
-             comboBoxBlock() + StyleSheets::checkBoxIndicator()
-                 + StyleSheets::radioButtonIndicator());
+             comboBoxBlock() + StyleSheets::checkBoxIndicator() +
+                 StyleSheets::radioButtonIndicator());
 }
 
 void tst_StyleSheets::printerSettingsButtonIsPushButtonBlockAndIconRule()
 {
     QCOMPARE(StyleSheets::printerSettingsButton(),
-             StyleSheets::primaryPushButton()
-                 + QStringLiteral("QPushButton { border: 1px solid #fd7800; qproperty-icon: "
-                                  "url(:/printicons/printericons/printer_settings.png); }"));
+             StyleSheets::primaryPushButton() +
+                 QStringLiteral("QPushButton { border: 1px solid #fd7800; qproperty-icon: "
+                                "url(:/printicons/printericons/printer_settings.png); }"));
 }
 
 void tst_StyleSheets::tallButtonDiffersOnlyInItsHeight()

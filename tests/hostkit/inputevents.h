@@ -11,8 +11,7 @@
 #include <QtWidgets/QToolTip>
 #include <QtWidgets/QWidget>
 
-/** Turns the wheel by one notch away from the user over the middle of @p widget, as a device would.
- */
+/** Turns the wheel one notch away from the user over the middle of @p widget, as a device does. */
 inline void turnWheelOver(QWidget* widget)
 {
     const QPointF position = QRectF(widget->rect()).center();

@@ -3,7 +3,6 @@
 #include <printpanels/printwidget.h>
 
 #include <QtTest/QTest>
-#include <QtWidgets/QLabel>
 #include <QtWidgets/QRadioButton>
 #include <QtWidgets/QVBoxLayout>
 
@@ -59,21 +58,19 @@ QStringList stateOf(const QWidget& panel)
     QStringList lines;
     const QList<QWidget*> children = panel.findChildren<QWidget*>();
     for (const QWidget* child : children) {
-        lines.append(QStringLiteral("%1 '%2' hidden:%3 enabled:%4 text:'%5' checked:%6 tip:'%7'")
-                         .arg(QString::fromLatin1(child->metaObject()->className()),
-                              child->objectName())
-                         .arg(child->isHidden())
-                         .arg(child->isEnabled())
-                         .arg(child->property("text").toString(),
-                              child->property("checked").toString(), child->toolTip()));
+        lines.append(
+            QStringLiteral("%1 '%2' hidden:%3 enabled:%4 text:'%5' checked:%6 tip:'%7'")
+                .arg(QString::fromLatin1(child->metaObject()->className()), child->objectName())
+                .arg(child->isHidden())
+                .arg(child->isEnabled())
+                .arg(child->property("text").toString(), child->property("checked").toString(),
+                     child->toolTip()));
     }
     return lines;
 }
 
 char* toString(const Request& request)
 {
-    return qstrdup(qPrintable(QStringLiteral("(%1, %2, \"%3\")")
-                                  .arg(request.start)
-                                  .arg(request.end)
-                                  .arg(request.list)));
+    return qstrdup(qPrintable(
+        QStringLiteral("(%1, %2, \"%3\")").arg(request.start).arg(request.end).arg(request.list)));
 }

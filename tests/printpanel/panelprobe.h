@@ -3,11 +3,10 @@
 
 #include <QtCore/QPair>
 #include <QtCore/QString>
-#include <QtWidgets/QWidget>
+#include <QtWidgets/QLabel>
 
 class PrintWidget;
 class QAbstractButton;
-class QLabel;
 class QVBoxLayout;
 
 /** The part of @p panel with this object name, or null when there is none of this kind. */
@@ -26,7 +25,8 @@ QVBoxLayout* mainLayout(const QWidget& panel);
 /** Shows @p panel and waits until it is on the screen. */
 bool showPanel(QWidget& panel);
 
-/** A user's click on the left end of a button, where a radio button or check box has its indicator. */
+/** A user's click on the left end of a button, where a radio button or check box has its indicator.
+ */
 void clickOn(QAbstractButton* button);
 
 /** The three values of a request. */

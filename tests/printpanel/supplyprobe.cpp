@@ -5,8 +5,6 @@
 #include <printpanels/printwidget.h>
 
 #include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QStackedWidget>
 
 const QString ribbonGlyph = QStringLiteral("!");
 const QString blankGlyph = QString(QChar(0xE92A));
@@ -86,4 +84,9 @@ QStringList colors(std::initializer_list<const char*> codes)
     for (const char* code : codes)
         list.append(QString::fromLatin1(code));
     return list;
+}
+
+void showPlainSupply(PrintWidget& panel)
+{
+    panel.showSupplyInfo(colors({"#000000", "#ffffff"}), false, 4.0, 0, true);
 }

@@ -4,11 +4,11 @@
 #include "panelprobe.h"
 
 #include <QtCore/QStringList>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QStackedWidget>
 
 class ColorMenu;
 class ExpandingTabBar;
-class QLineEdit;
-class QStackedWidget;
 
 ExpandingTabBar* colorTabs(const PrintWidget& panel);
 QStackedWidget* colorStack(const PrintWidget& panel);
@@ -40,5 +40,8 @@ QStringList stackPages(const PrintWidget& panel);
 
 /** A list of colours from texts. */
 QStringList colors(std::initializer_list<const char*> codes);
+
+/** Tells the panel of one black ribbon and a white supply, 4 inches wide. */
+void showPlainSupply(PrintWidget& panel);
 
 #endif

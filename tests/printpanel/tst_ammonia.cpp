@@ -95,18 +95,14 @@ void tst_Ammonia::layoutOfTheSection()
     QVERIFY(grid);
     QCOMPARE(grid->contentsMargins(), QMargins(0, 0, 0, 0));
     QCOMPARE(grid->count(), 2);
-    QCOMPARE(grid->itemAtPosition(0, 0)->widget(), labelWithText(panel, QStringLiteral("Item To Print:")));
+    QCOMPARE(grid->itemAtPosition(0, 0)->widget(),
+             labelWithText(panel, QStringLiteral("Item To Print:")));
     QCOMPARE(grid->itemAtPosition(3, 0)->widget(), combo(panel));
     for (const int row : {0, 3})
         QCOMPARE(grid->itemAtPosition(row, 0)->alignment(), Qt::AlignLeft);
     for (int index = 0; index < 2; ++index) {
-        int row = -1;
-        int column = -1;
-        int rowSpan = -1;
-        int columnSpan = -1;
-        grid->getItemPosition(index, &row, &column, &rowSpan, &columnSpan);
-        QCOMPARE(rowSpan, 1);
-        QCOMPARE(columnSpan, 1);
+        QCOMPARE(gridCell(grid, index).rowSpan, 1);
+        QCOMPARE(gridCell(grid, index).columnSpan, 1);
     }
     QVERIFY(combo(panel)->inherits("JxComboBox"));
     QVERIFY(combo(panel)->minimumHeight() >= 35);

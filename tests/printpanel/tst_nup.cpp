@@ -103,12 +103,11 @@ void tst_Nup::layoutOfTheFrame()
              QStringList({QStringLiteral("QLabel nupTitleLabel"), QStringLiteral("QHBoxLayout")}));
     const QLayout* row = column->itemAt(1)->layout();
     QCOMPARE(row->contentsMargins(), QMargins(0, 10, 0, 0));
-    QCOMPARE(layoutDescription(row),
-             QStringList({QStringLiteral("QRadioButton replicatingRadio"),
-                          QStringLiteral("QLabel replicatingIconLabel"),
-                          QStringLiteral("spacer 10x10 Expanding/Fixed"),
-                          QStringLiteral("QRadioButton sequencingRadio"),
-                          QStringLiteral("QLabel sequencingIconLabel")}));
+    QCOMPARE(layoutDescription(row), QStringList({QStringLiteral("QRadioButton replicatingRadio"),
+                                                  QStringLiteral("QLabel replicatingIconLabel"),
+                                                  QStringLiteral("spacer 10x10 Expanding/Fixed"),
+                                                  QStringLiteral("QRadioButton sequencingRadio"),
+                                                  QStringLiteral("QLabel sequencingIconLabel")}));
 }
 
 void tst_Nup::title()
@@ -147,10 +146,16 @@ void tst_Nup::pictures_data()
     QTest::addColumn<QString>("sheet");
     QTest::newRow("replicatingIconLabel")
         << QByteArray("replicatingRadio")
-        << QStringLiteral("QLabel { width: 78px; height: 36px; }\n QLabel { border-image: url(:/printicons/printericons/replicating.png); }\n QLabel::disabled { border-image: url(:/printicons/printericons/replicating_disabled.png); }");
+        << QStringLiteral(
+               "QLabel { width: 78px; height: 36px; }\n QLabel { border-image: "
+               "url(:/printicons/printericons/replicating.png); }\n QLabel::disabled { "
+               "border-image: url(:/printicons/printericons/replicating_disabled.png); }");
     QTest::newRow("sequencingIconLabel")
         << QByteArray("sequencingRadio")
-        << QStringLiteral("QLabel { width: 78px; height: 36px; }\n QLabel { border-image: url(:/printicons/printericons/sequencing.png); }\n QLabel::disabled { border-image: url(:/printicons/printericons/sequencing_disabled.png); }");
+        << QStringLiteral(
+               "QLabel { width: 78px; height: 36px; }\n QLabel { border-image: "
+               "url(:/printicons/printericons/sequencing.png); }\n QLabel::disabled { "
+               "border-image: url(:/printicons/printericons/sequencing_disabled.png); }");
 }
 
 void tst_Nup::pictures()
@@ -252,7 +257,8 @@ void tst_Nup::rules_data()
     QTest::addColumn<int>("tip");
     constexpr int none = -1;
     QTest::newRow("dynamic, several") << true << 10 << false << false << false << 2;
-    QTest::newRow("dynamic, several, sequencing chosen") << true << 10 << true << false << false << 2;
+    QTest::newRow("dynamic, several, sequencing chosen")
+        << true << 10 << true << false << false << 2;
     QTest::newRow("dynamic, one") << true << 1 << false << false << false << 2;
     QTest::newRow("several") << false << 10 << false << true << false << none;
     QTest::newRow("several, sequencing chosen") << false << 10 << true << true << true << none;

@@ -8,7 +8,6 @@
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QFrame>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QPushButton>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QVBoxLayout>
 
@@ -44,8 +43,9 @@ QList<QRect> geometries(const QWidget& panel)
 QString describe(const QWidget* widget)
 {
     QString text;
-    QDebug(&text).nospace() << widget->metaObject()->className() << ' ' << widget->objectName() << ' '
-                            << widget->property("text").toString() << ' ' << widget->geometry();
+    QDebug(&text).nospace() << widget->metaObject()->className() << ' ' << widget->objectName()
+                            << ' ' << widget->property("text").toString() << ' '
+                            << widget->geometry();
     return text;
 }
 
@@ -137,17 +137,18 @@ void tst_PanelLayout::partsStandInVisualOrder()
 {
     PrintWidget panel(true, nullptr);
     panel.setVisibleAmmoniaTag(1);
-    panel.showSupplyInfo({QStringLiteral("#000000"), QStringLiteral("#ffffff")}, false, 4.0, 0, true);
+    panel.showSupplyInfo({QStringLiteral("#000000"), QStringLiteral("#ffffff")}, false, 4.0, 0,
+                         true);
     panel.setShowUserBackground(true);
     panel.setNupSeqRepVisible(true);
     QVERIFY(showPanel(panel));
     int above = -1;
     for (const char* name :
-         {"AmmoniaPrintCombo", "PrinterListCombo", "locationLabel", "statusLabel", "copiesSpinBox",
-          "supplyWidthEdit", "tinyLadderCheck", "colorTabBar", "stackGroup", "currentRecordRadio",
-          "allRecordsRadio", "recordListRadio", "recordListEdit", "nupTitleLabel", "replicatingRadio",
-          "userBackgroundCheck", "bottomSeparator", "printToFileCheck", "errorNumberSpinBox",
-          "PrintButton"}) {
+         {"AmmoniaPrintCombo", "PrinterListCombo",   "locationLabel",      "statusLabel",
+          "copiesSpinBox",     "supplyWidthEdit",    "tinyLadderCheck",    "colorTabBar",
+          "stackGroup",        "currentRecordRadio", "allRecordsRadio",    "recordListRadio",
+          "recordListEdit",    "nupTitleLabel",      "replicatingRadio",   "userBackgroundCheck",
+          "bottomSeparator",   "printToFileCheck",   "errorNumberSpinBox", "PrintButton"}) {
         const auto* widget = part<QWidget>(panel, name);
         QVERIFY2(widget && widget->isVisible(), name);
         const int top = widget->mapTo(&panel, QPoint()).y();
@@ -163,7 +164,8 @@ void tst_PanelLayout::setUpState(PrintWidget& panel, const QString& state)
         panel.setNupSeqRepVisible(true);
     }
     if (state.contains(QLatin1String("supply")))
-        panel.showSupplyInfo({QStringLiteral("#000000"), QStringLiteral("#ffffff")}, true, 4.0, 0, true);
+        panel.showSupplyInfo({QStringLiteral("#000000"), QStringLiteral("#ffffff")}, true, 4.0, 0,
+                             true);
     if (state.contains(QLatin1String("pipe"))) {
         panel.setModule(JxModuleInfo::PipeMarking);
         panel.setVisibleAmmoniaTag(15);
@@ -202,9 +204,9 @@ void tst_PanelLayout::extraHeightGoesToTheBottomSeparator()
     QTest::qWait(0);
     const QList<QRect> after = geometries(panel);
 
-    const int barTop = before.at(panel.findChildren<QWidget*>().indexOf(
-                                     part<QFrame>(panel, "bottomSeparator")))
-                           .top();
+    const int barTop =
+        before.at(panel.findChildren<QWidget*>().indexOf(part<QFrame>(panel, "bottomSeparator")))
+            .top();
     const QList<QWidget*> children = panel.findChildren<QWidget*>();
     for (qsizetype i = 0; i < children.size(); ++i) {
         if (!isVisiblePart(children.at(i)))
@@ -229,8 +231,8 @@ void tst_PanelLayout::nothingOverlapsAtItsSizeHint()
     QVERIFY(showPanel(panel));
     panel.resize(panel.sizeHint());
     QTest::qWait(0);
-    // Siblings do not cover each other, and every part lies inside the panel. A control that its sheet
-    // makes 37 pixels high may stand out of its 35 pixel row by one pixel on either side.
+    // Siblings do not cover each other, and every part lies inside the panel. A control that its
+    // sheet makes 37 pixels high may stand out of its 35 pixel row by one pixel on either side.
     const QList<QWidget*> children = panel.findChildren<QWidget*>();
     for (const QWidget* one : children) {
         if (!isVisiblePart(one) || qobject_cast<const QScrollBar*>(one))
@@ -238,8 +240,8 @@ void tst_PanelLayout::nothingOverlapsAtItsSizeHint()
         if (one->parentWidget() == &panel)
             QVERIFY2(panel.rect().contains(one->geometry()), qPrintable(one->objectName()));
         for (const QWidget* other : children) {
-            if (other == one || !isVisiblePart(other) || other->parent() != one->parent()
-                || !one->parentWidget()->layout())
+            if (other == one || !isVisiblePart(other) || other->parent() != one->parent() ||
+                !one->parentWidget()->layout())
                 continue;
             const QRect inner = one->geometry().adjusted(1, 1, -1, -1);
             QVERIFY2(!inner.intersects(other->geometry()),

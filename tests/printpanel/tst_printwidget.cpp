@@ -1,7 +1,8 @@
 #include "panelprobe.h"
-#include "support/metamethods.h"
+#include "support/layoutdescription.h"
 #include "support/stricttest.h"
 
+#include <applicationfont.h>
 #include <printpanels/printwidget.h>
 
 #include <QtCore/QFile>
@@ -11,12 +12,9 @@
 #include <QtWidgets/QFrame>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QRadioButton>
-#include <QtWidgets/QSpinBox>
 
-#include <type_traits>
-
-/** Construction, names, style sheet, meta-object, modules, buttons, user background, show signal. */
+/** Construction, names, style sheet, meta-object, modules, buttons, user background, show signal.
+ */
 class tst_PrintWidget : public StrictTest
 {
     Q_OBJECT
@@ -24,13 +22,7 @@ class tst_PrintWidget : public StrictTest
 private Q_SLOTS:
     void constructorNamesThePanelAndTakesTheParent();
     void styleSheetIsExact();
-    void everyPartHasItsName_data();
-    void everyPartHasItsName();
-    void overridesEveryVirtualOperation();
-    void publicOperationsHaveTheirSignatures();
-    void metaObjectTable();
-    void methodOffsets();
-    void publicAndPrivateSlotsCanBeConnectedByText();
+    void everyTextHasThePanelsFont();
 
     void buttonsAtConstruction();
     void buttonsEnabling_data();
@@ -51,7 +43,6 @@ private Q_SLOTS:
     void showSignalComesAfterTheBaseHandling();
     void aHiddenChildPanelEmitsWhenItsHostIsShown();
     void hostOperationsEmitNothing();
-    void theHostMayHoldItThroughTheInterface();
 };
 
 void tst_PrintWidget::constructorNamesThePanelAndTakesTheParent()
@@ -77,152 +68,34 @@ void tst_PrintWidget::styleSheetIsExact()
     QCOMPARE(panel.styleSheet(), QString::fromUtf8(expected.readAll()));
 }
 
-void tst_PrintWidget::everyPartHasItsName_data()
+// The sheets make push buttons bold, so family and size are compared.
+void tst_PrintWidget::everyTextHasThePanelsFont()
 {
-    QTest::addColumn<QByteArray>("className");
-    const auto row = [](const char* name, const char* className) {
-        QTest::newRow(name) << QByteArray(className);
-    };
-    row("recordsFrame", "QFrame");
-    row("currentRecordRadio", "QRadioButton");
-    row("allRecordsRadio", "QRadioButton");
-    row("recordListRadio", "QRadioButton");
-    row("recordListEdit", "JxLineEdit");
-    row("nupFrame", "QFrame");
-    row("nupTitleLabel", "QLabel");
-    row("replicatingRadio", "QRadioButton");
-    row("sequencingRadio", "QRadioButton");
-    row("replicatingIconLabel", "QLabel");
-    row("sequencingIconLabel", "QLabel");
-    row("copiesSpinBox", "JxSpinBox");
-    row("plusButton", "DragScrollButton");
-    row("minusButton", "DragScrollButton");
-    row("locationLabel", "QLabel");
-    row("statusLabel", "QLabel");
-    row("ammoniaWidget", "QFrame");
-    row("ammoniaSeparator", "QFrame");
-    row("supplyInfoWidget", "QFrame");
-    row("colorTabBar", "ExpandingTabBar");
-    row("colorStack", "QStackedWidget");
-    row("ribbon1Menu", "ColorMenu");
-    row("ribbon2Menu", "ColorMenu");
-    row("supplyMenu", "ColorMenu");
-    row("tinyLadderCheck", "QCheckBox");
-    row("supplyWidthEdit", "JxLineEdit");
-    row("userBackgroundCheck", "QCheckBox");
-    row("bottomSeparator", "QFrame");
-    row("printToFileCheck", "QCheckBox");
-    row("errorNumberSpinBox", "JxSpinBox");
-    row("showErrorButton", "DragScrollButton");
-    row("PrinterListCombo", "JxComboBox");
-    row("PreferencesButton", "DragScrollButton");
-    row("PrintButton", "DragScrollButton");
-    row("PreviewButton", "DragScrollButton");
-    row("AmmoniaPrintCombo", "JxComboBox");
-    row("stackGroup", "DragScrollGroupBox");
-}
-
-void tst_PrintWidget::everyPartHasItsName()
-{
-    QFETCH(const QByteArray, className);
     PrintWidget panel(true, nullptr);
     panel.setModule(JxModuleInfo::PipeMarking);
-    panel.showSupplyInfo({QStringLiteral("#000000")}, true, 1.0, 0, true);
-    const QList<QWidget*> found =
-        panel.findChildren<QWidget*>(QLatin1String(QTest::currentDataTag()));
-    QCOMPARE(found.size(), 1);
-    QVERIFY(found.first()->inherits(className.constData()));
-}
-
-void tst_PrintWidget::overridesEveryVirtualOperation()
-{
-    // The class of a member pointer is the class that declares the member.
-    using Types = JxModuleInfo::JxModuleTypes;
-    static_assert(std::is_same_v<decltype(&PrintWidget::setModule), void (PrintWidget::*)(const Types&)>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::disablePrintButtons), void (PrintWidget::*)()>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::disableAllButtons), void (PrintWidget::*)()>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::enablePrintButtons), void (PrintWidget::*)()>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::enableAllButtons), void (PrintWidget::*)()>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::setNumberOfCopies), void (PrintWidget::*)(int)>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::getNumberOfCopies), int (PrintWidget::*)()>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::setNupSeqRepVisible), void (PrintWidget::*)(bool)>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::setNupDynamicLength), void (PrintWidget::*)(bool)>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::getNupSeqRepOption), bool (PrintWidget::*)() const>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::updateListOfPrinters), void (PrintWidget::*)(const QStringList&, int)>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::addPrinterToList), void (PrintWidget::*)(const QString&, bool)>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::getSelectedPrinter), QString (PrintWidget::*)() const>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::setSelectedPrinter), void (PrintWidget::*)(const QString&)>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::isSupplyInfoVisible), bool (PrintWidget::*)() const>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::getPrintToFileEnabled), bool (PrintWidget::*)() const>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::hideSupplyInfo), void (PrintWidget::*)()>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::showSupplyInfo), void (PrintWidget::*)(const QStringList&, bool, double, unsigned char, bool)>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::setColorPalette), void (PrintWidget::*)(const QStringList&, const QStringList&)>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::isTinySupply), bool (PrintWidget::*)() const>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::updateCurrentRangeIndex), void (PrintWidget::*)(int)>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::updatePrinterLocation), void (PrintWidget::*)(const QString&)>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::updatePrinterStatus), void (PrintWidget::*)(bool, bool, bool)>);
-}
-
-void tst_PrintWidget::publicOperationsHaveTheirSignatures()
-{
-    static_assert(std::is_constructible_v<PrintWidget, bool, QWidget*>);
-    static_assert(!std::is_abstract_v<PrintWidget>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::setShowUserBackground), void (PrintWidget::*)(bool)>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::setPrintUserBackground), void (PrintWidget::*)(bool)>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::getPrintUserBackground), bool (PrintWidget::*)() const>);
-    static_assert(std::is_invocable_v<decltype(&PrintWidget::whatToPrint), PrintWidget*, int&, int&, QString&>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::setRangeValues), void (PrintWidget::*)(int, int, bool)>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::listRangeParse), void (PrintWidget::*)()>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::createAmmoniaComboList), void (PrintWidget::*)()>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::createSupplyInfoLayout), void (PrintWidget::*)()>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::addMenuToStack), void (PrintWidget::*)(int, const QString&, const QString&, const QString&, ColorMenu*)>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::updateColorSelection), void (PrintWidget::*)(int, const QString&, ColorMenu*)>);
-    static_assert(std::is_same_v<decltype(&PrintWidget::setVisibleAmmoniaTag), void (PrintWidget::*)(int)>);
-}
-
-void tst_PrintWidget::metaObjectTable()
-{
-    const QStringList expected = {
-        QStringLiteral("signal public void ammoniaPrintTagChanged(int data)"),
-        QStringLiteral("signal public void testPrintError(int errorNumber)"),
-        QStringLiteral("slot public void updateCurrentRangeIndex(int sequenceCurrent)"),
-        QStringLiteral("slot public void setVisibleAmmoniaTag(int tag)"),
-        QStringLiteral("slot public void updatePrinterLocation(QString location)"),
-        QStringLiteral("slot public void updatePrinterStatus(bool offline, bool remote, bool unavailable)"),
-        QStringLiteral("slot private void printSlot()"),
-        QStringLiteral("slot private void printPreviewSlot()"),
-        QStringLiteral("slot private void recordsRadioChangedSlot()"),
-        QStringLiteral("slot private void listRangeChanged()"),
-        QStringLiteral("slot private void checkRange()"),
-        QStringLiteral("slot private void currentPrinterSelectionChangedSlot(int printerIndex)"),
-        QStringLiteral("slot private void ammoniaPrintComboChanged(int index)"),
-        QStringLiteral("slot private void ribbon1ColorSelectionSlot(QString color)"),
-        QStringLiteral("slot private void ribbon2ColorSelectionSlot(QString color)"),
-        QStringLiteral("slot private void supplyColorSelectionSlot(QString color)"),
-        QStringLiteral("slot private void supplyWidthEditedSlot()"),
-        QStringLiteral("slot private void testErrorCodeSlot()")};
-    QCOMPARE(ownMethods(PrintWidget::staticMetaObject), expected);
-}
-
-void tst_PrintWidget::methodOffsets()
-{
-    const QMetaObject& meta = PrintWidget::staticMetaObject;
-    const int offset = PrintWidgetInterface::staticMetaObject.methodCount();
-    QCOMPARE(meta.methodOffset(), offset);
-    QCOMPARE(meta.methodCount() - offset, 18);
-    QCOMPARE(meta.indexOfSignal("ammoniaPrintTagChanged(int)") - offset, 0);
-    QCOMPARE(meta.indexOfSlot("updateCurrentRangeIndex(int)") - offset, 2);
-    QCOMPARE(meta.indexOfSlot("testErrorCodeSlot()") - offset, 17);
-    QCOMPARE(meta.propertyCount() - meta.propertyOffset(), 0);
-}
-
-void tst_PrintWidget::publicAndPrivateSlotsCanBeConnectedByText()
-{
-    PrintWidget panel(true, nullptr);
-    QSpinBox record;
-    QVERIFY(connect(&record, SIGNAL(valueChanged(int)), &panel, SLOT(updateCurrentRangeIndex(int))));
-    record.setValue(6);
-    QCOMPARE(keptRange(panel), qMakePair(7, 7));
+    panel.createSupplyInfoLayout();
+    const QList<QWidget*> children = panel.findChildren<QWidget*>();
+    int compared = 0;
+    for (const QWidget* child : children) {
+        const auto* button = qobject_cast<const QAbstractButton*>(child);
+        const auto* label = qobject_cast<const QLabel*>(child);
+        const bool hasText = (button && !button->text().isEmpty()) ||
+                             (label && !label->text().isEmpty()) ||
+                             qobject_cast<const QComboBox*>(child) || child->inherits("JxLineEdit");
+        if (!hasText)
+            continue;
+        const bool small = label && layoutHolding(panel.layout(), label) &&
+                           layoutHolding(panel.layout(), label) ==
+                               layoutHolding(panel.layout(), part<QLabel>(panel, "statusLabel"));
+        const QFont expected = small ? ApplicationFont::getWidgetFontSmall(false)
+                                     : ApplicationFont::getWidgetFont(true);
+        const QByteArray name = (child->objectName() + child->property("text").toString()).toUtf8();
+        QVERIFY2(child->font().family() == expected.family(), name.constData());
+        QVERIFY2(child->font().pixelSize() == expected.pixelSize(), name.constData());
+        ++compared;
+    }
+    // 11 labels, 9 buttons, 2 combo boxes and 2 line edits.
+    QCOMPARE(compared, 24);
 }
 
 void tst_PrintWidget::buttonsAtConstruction()
@@ -279,7 +152,8 @@ void tst_PrintWidget::modulesThatChangeNothing_data()
     QTest::newRow("JavaScript") << 9;
     QTest::newRow("GraphicsViewer") << 10;
     QTest::newRow("no module of the host: 11") << 11;
-    QTest::newRow("no module of the host: -1") << -1;
+    // The highest value that the enumeration's bits can hold.
+    QTest::newRow("no module of the host: 15") << 15;
 }
 
 void tst_PrintWidget::modulesThatChangeNothing()
@@ -441,8 +315,10 @@ void tst_PrintWidget::hostOperationsEmitNothing()
     panel.setNupDynamicLength(true);
     panel.setVisibleAmmoniaTag(15);
     panel.setVisibleAmmoniaTag(3);
-    panel.showSupplyInfo({QStringLiteral("#dc0b0b"), QStringLiteral("#ffffff")}, false, 4.0, 1, true);
-    panel.showSupplyInfo({QStringLiteral("#dc0b0b"), QStringLiteral("#ffffff")}, true, 4.0, 0, true);
+    panel.showSupplyInfo({QStringLiteral("#dc0b0b"), QStringLiteral("#ffffff")}, false, 4.0, 1,
+                         true);
+    panel.showSupplyInfo({QStringLiteral("#dc0b0b"), QStringLiteral("#ffffff")}, true, 4.0, 0,
+                         true);
     panel.setColorPalette({QStringLiteral("#0018a8")}, {QStringLiteral("#ffffff")});
     panel.hideSupplyInfo();
     panel.setShowUserBackground(true);
@@ -451,19 +327,6 @@ void tst_PrintWidget::hostOperationsEmitNothing()
     panel.disableAllButtons();
     for (const QSharedPointer<QSignalSpy>& spy : std::as_const(spies))
         QVERIFY2(spy->isEmpty(), spy->signal().constData());
-}
-
-void tst_PrintWidget::theHostMayHoldItThroughTheInterface()
-{
-    QWidget host;
-    PrintWidgetInterface* panel = new PrintWidget(true, &host);
-    panel->setNumberOfCopies(7);
-    QCOMPARE(panel->getNumberOfCopies(), 7);
-    panel->addPrinterToList(QStringLiteral("Press"), false);
-    QCOMPARE(panel->getSelectedPrinter(), QStringLiteral("Press"));
-    QCOMPARE(panel->isSupplyInfoVisible(), false);
-    panel->showSupplyInfo({QStringLiteral("#ffffff")}, false, 4.0, 0, false);
-    QCOMPARE(panel->isSupplyInfoVisible(), true);
 }
 
 QTEST_MAIN(tst_PrintWidget)

@@ -6,42 +6,19 @@
 #include <colormenu.h>
 #include <expandingtabbar.h>
 #include <printpanels/printwidget.h>
-#include <suffixdoublevalidator.h>
 
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QFrame>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QStackedWidget>
 #include <QtWidgets/QVBoxLayout>
 
-#include <cmath>
-#include <limits>
-
 namespace {
-
-const char* const widthSignal = SIGNAL(supplyWidthChangedSignal(double));
 
 QFrame* section(const PrintWidget& panel)
 {
     return part<QFrame>(panel, "supplyInfoWidget");
-}
-
-/** One black ribbon and a white supply, 4 inches wide. */
-void showPlainSupply(PrintWidget& panel)
-{
-    panel.showSupplyInfo(colors({"#000000", "#ffffff"}), false, 4.0, 0, true);
-}
-
-/** Tells the section that the user is done with a text, typed or not. */
-QList<QVariantList> widthsAfter(PrintWidget& panel, const QString& text)
-{
-    const QSignalSpy spy(&panel, widthSignal);
-    widthEdit(panel)->setText(text);
-    Q_EMIT widthEdit(panel)->editingFinished();
-    return spy;
 }
 
 } // namespace
@@ -53,9 +30,6 @@ class tst_Supply : public StrictTest
 private Q_SLOTS:
     void atConstructionTheSectionIsEmptyAndHidden();
     void sectionFromTopToBottom();
-    void widthRow();
-    void widthEdit();
-    void widthValidator();
     void tinyLadderCheck();
     void tabBarAndStack();
     void stackGroupPaintsItsSheet();
@@ -78,19 +52,6 @@ private Q_SLOTS:
     void currentTabAndPageStayTogether_data();
     void currentTabAndPageStayTogether();
     void menusMarkTheColours();
-
-    void width_data();
-    void width();
-    void widthSuffix_data();
-    void widthSuffix();
-
-    void editedWidth_data();
-    void editedWidth();
-    void reportedWidthIsNoEdit();
-    void theSameNewWidthIsReportedTwice();
-    void typedWidthIsReported();
-    void suffixInForceIsRemoved();
-    void slotBeforeTheSectionExistsDoesNothing();
 };
 
 void tst_Supply::atConstructionTheSectionIsEmptyAndHidden()
@@ -109,9 +70,10 @@ void tst_Supply::sectionFromTopToBottom()
     auto* layout = qobject_cast<QVBoxLayout*>(section(panel)->layout());
     QVERIFY(layout);
     QCOMPARE(layout->contentsMargins(), QMargins(0, 0, 0, 0));
-    QCOMPARE(layoutDescription(layout),
-             QStringList({QStringLiteral("QLabel"), QStringLiteral("QHBoxLayout"),
-                          QStringLiteral("QCheckBox tinyLadderCheck"), QStringLiteral("QVBoxLayout")}));
+    QCOMPARE(
+        layoutDescription(layout),
+        QStringList({QStringLiteral("QLabel"), QStringLiteral("QHBoxLayout"),
+                     QStringLiteral("QCheckBox tinyLadderCheck"), QStringLiteral("QVBoxLayout")}));
     const auto* title = qobject_cast<QLabel*>(layout->itemAt(0)->widget());
     QCOMPARE(title->text(), QStringLiteral("Loaded Supply:"));
     QCOMPARE(title->font(), ApplicationFont::getWidgetFont(true));
@@ -122,53 +84,6 @@ void tst_Supply::sectionFromTopToBottom()
     QCOMPARE(layoutDescription(tabsAndStack),
              QStringList({QStringLiteral("ExpandingTabBar colorTabBar"),
                           QStringLiteral("DragScrollGroupBox stackGroup")}));
-}
-
-void tst_Supply::widthRow()
-{
-    PrintWidget panel(false, nullptr);
-    showPlainSupply(panel);
-    const QLayout* row = section(panel)->layout()->itemAt(1)->layout();
-    QCOMPARE(row->contentsMargins(), QMargins(5, 5, 5, 5));
-    QCOMPARE(row->count(), 5);
-    for (const int index : {0, 2, 4}) {
-        const QString spacer = itemDescription(row->itemAt(index));
-        QVERIFY2(spacer.startsWith(QStringLiteral("spacer 20x10 Fixed/")), qPrintable(spacer));
-    }
-    QCOMPARE(row->itemAt(1)->widget(), labelWithText(panel, QStringLiteral("Tape Width:")));
-    QCOMPARE(row->itemAt(3)->widget(), ::widthEdit(panel));
-}
-
-void tst_Supply::widthEdit()
-{
-    PrintWidget panel(false, nullptr);
-    showPlainSupply(panel);
-    const QLineEdit* edit = ::widthEdit(panel);
-    QVERIFY(edit->inherits("JxLineEdit"));
-    QCOMPARE(edit->minimumSize(), QSize(80, 35));
-    QCOMPARE(edit->maximumSize(), QSize(80, 35));
-    const auto* validator = qobject_cast<const SuffixDoubleValidator*>(edit->validator());
-    QVERIFY(validator);
-    QCOMPARE(validator->parent(), &panel);
-}
-
-void tst_Supply::widthValidator()
-{
-    PrintWidget panel(false, nullptr);
-    showPlainSupply(panel);
-    const auto acceptable = [&panel](const char* text) {
-        ::widthEdit(panel)->setText(QString::fromLatin1(text));
-        return ::widthEdit(panel)->hasAcceptableInput();
-    };
-    QVERIFY(acceptable("0"));
-    QVERIFY(acceptable("999999"));
-    QVERIFY(acceptable("999999.0 in"));
-    QVERIFY(acceptable("4.125"));
-    QVERIFY(acceptable("4.125 in"));
-    QVERIFY(!acceptable("4.1255"));
-    QVERIFY(!acceptable("-1"));
-    QVERIFY(!acceptable("1000000"));
-    QVERIFY(!acceptable("4 mm"));
 }
 
 void tst_Supply::tinyLadderCheck()
@@ -333,7 +248,8 @@ void tst_Supply::tabs_data()
     const QString blank1 = tabOf(blankGlyph, "blank", "Blank Ribbon1");
     const QString blank2 = tabOf(blankGlyph, "blank", "Blank Ribbon2");
 
-    row("one ribbon", colors({"#dc0b0b", "#fedb00"}), false, {ribbon1("#dc0b0b"), supply("#fedb00")});
+    row("one ribbon", colors({"#dc0b0b", "#fedb00"}), false,
+        {ribbon1("#dc0b0b"), supply("#fedb00")});
     row("one blank ribbon", colors({"#fffffe", "#ffffff"}), false, {blank1, supply("#ffffff")});
     row("one ribbon, clear supply", colors({"#dc0b0b", "#fffffe"}), false,
         {ribbon1("#dc0b0b"), supply("transparent")});
@@ -369,11 +285,13 @@ void tst_Supply::tabs()
     for (const int before : {0, 1, 2}) {
         PrintWidget panel(false, nullptr);
         if (before > 0)
-            panel.showSupplyInfo(colors({"#0018a8", "#0018a8", "#0018a8"}), before == 2, 1.0, 0, false);
+            panel.showSupplyInfo(colors({"#0018a8", "#0018a8", "#0018a8"}), before == 2, 1.0, 0,
+                                 false);
         panel.showSupplyInfo(loaded, twoRibbons, 4.0, 0, false);
         QCOMPARE(::tabs(panel), expected);
-        QCOMPARE(stackPages(panel), twoRibbons ? colors({"ribbon1Menu", "ribbon2Menu", "supplyMenu"})
-                                               : colors({"ribbon1Menu", "supplyMenu"}));
+        QCOMPARE(stackPages(panel), twoRibbons
+                                        ? colors({"ribbon1Menu", "ribbon2Menu", "supplyMenu"})
+                                        : colors({"ribbon1Menu", "supplyMenu"}));
     }
 }
 
@@ -385,7 +303,8 @@ void tst_Supply::ribbonTransitions_data()
     QTest::newRow("one, two") << QList<bool>{false, true};
     QTest::newRow("two, one") << QList<bool>{true, false};
     QTest::newRow("two, one, two") << QList<bool>{true, false, true};
-    QTest::newRow("back and forth") << QList<bool>{false, true, false, true, false, false, true, true};
+    QTest::newRow("back and forth")
+        << QList<bool>{false, true, false, true, false, false, true, true};
 }
 
 void tst_Supply::ribbonTransitions()
@@ -454,7 +373,8 @@ void tst_Supply::currentTabAndPageStayTogether()
         QVERIFY(index >= 0);
         QCOMPARE(colorStack(panel)->currentIndex(), index);
         const bool supply = colorTabs(panel)->tabText(index) == supplyGlyph;
-        QCOMPARE(colorStack(panel)->currentWidget()->objectName() == QStringLiteral("supplyMenu"), supply);
+        QCOMPARE(colorStack(panel)->currentWidget()->objectName() == QStringLiteral("supplyMenu"),
+                 supply);
     }
 }
 
@@ -470,161 +390,6 @@ void tst_Supply::menusMarkTheColours()
     QCOMPARE(selectedColor(colorMenu(panel, "ribbon1Menu")), QString());
     QCOMPARE(selectedColor(colorMenu(panel, "ribbon2Menu")), QString());
     QCOMPARE(selectedColor(colorMenu(panel, "supplyMenu")), QStringLiteral("transparent"));
-}
-
-void tst_Supply::width_data()
-{
-    QTest::addColumn<double>("width");
-    QTest::addColumn<int>("metric");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("12 mm") << 12.0 << 1 << QStringLiteral("12.00");
-    QTest::newRow("4 in") << 4.0 << 0 << QStringLiteral("4.00");
-    QTest::newRow("rounded down") << 4.124 << 0 << QStringLiteral("4.12");
-    QTest::newRow("rounded up") << 4.126 << 0 << QStringLiteral("4.13");
-    QTest::newRow("zero") << 0.0 << 0 << QStringLiteral("0.00");
-    QTest::newRow("large") << 123456.5 << 1 << QStringLiteral("123456.50");
-    QTest::newRow("no exponent") << 1e7 << 1 << QStringLiteral("10000000.00");
-    QTest::newRow("negative") << -1.5 << 0 << QStringLiteral("-1.50");
-    QTest::newRow("not a number") << std::nan("") << 0 << QStringLiteral("nan");
-    QTest::newRow("infinite") << std::numeric_limits<double>::infinity() << 0 << QStringLiteral("inf");
-}
-
-void tst_Supply::width()
-{
-    QFETCH(const double, width);
-    QFETCH(const int, metric);
-    PrintWidget panel(false, nullptr);
-    panel.showSupplyInfo(colors({"#000000"}), false, width, static_cast<unsigned char>(metric), false);
-    QTEST(::widthEdit(panel)->text(), "text");
-    // What showSupplyInfo() wrote is no edit.
-    const QSignalSpy spy(&panel, widthSignal);
-    Q_EMIT::widthEdit(panel)->editingFinished();
-    QCOMPARE(spy.size(), 0);
-}
-
-void tst_Supply::widthSuffix_data()
-{
-    QTest::addColumn<int>("metric");
-    QTest::addColumn<QString>("suffix");
-    QTest::newRow("0 is inches") << 0 << QStringLiteral(" in");
-    QTest::newRow("1 is millimetres") << 1 << QStringLiteral(" mm");
-    QTest::newRow("any other is millimetres") << 255 << QStringLiteral(" mm");
-}
-
-void tst_Supply::widthSuffix()
-{
-    QFETCH(const int, metric);
-    QFETCH(const QString, suffix);
-    PrintWidget panel(false, nullptr);
-    for (const int before : {0, 1}) {
-        panel.showSupplyInfo(colors({"#000000"}), false, 1.0, static_cast<unsigned char>(before), false);
-        panel.showSupplyInfo(colors({"#000000"}), false, 1.0, static_cast<unsigned char>(metric), false);
-        const auto* validator =
-            qobject_cast<const SuffixDoubleValidator*>(::widthEdit(panel)->validator());
-        QCOMPARE(validator->suffix(), suffix);
-    }
-}
-
-void tst_Supply::editedWidth_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QList<QVariantList>>("emitted");
-    const auto emits = [](const char* text, double width) {
-        QTest::addRow("'%s'", text) << QString::fromLatin1(text) << QList<QVariantList>{QVariantList{width}};
-    };
-    const auto silent = [](const char* text) {
-        QTest::addRow("silent: '%s'", text) << QString::fromLatin1(text) << QList<QVariantList>();
-    };
-    emits("2.5", 2.5);
-    emits("2.5 in", 2.5);
-    emits("2 in in", 2.0);
-    emits(" in2", 2.0);
-    emits("0", 0.0);
-    emits("999999", 999999.0);
-    emits("4.0", 4.0);
-    emits("4.00 in", 4.0);
-    emits("1.005", 1.005);
-    silent("");
-    silent("   ");
-    silent("\t");
-    silent(" in");
-    silent(" in  ");
-    silent("4.00");
-    silent("abc");
-    silent("2.5 mm");
-    silent("2.5 IN");
-    silent("2,5");
-    silent("2.5in");
-    silent("1 2");
-}
-
-void tst_Supply::editedWidth()
-{
-    QFETCH(const QString, text);
-    QFETCH(const QList<QVariantList>, emitted);
-    PrintWidget panel(false, nullptr);
-    showPlainSupply(panel);
-    QCOMPARE(widthsAfter(panel, text), emitted);
-    QCOMPARE(::widthEdit(panel)->text(), text);
-}
-
-void tst_Supply::reportedWidthIsNoEdit()
-{
-    PrintWidget panel(false, nullptr);
-    showPlainSupply(panel);
-    QCOMPARE(widthsAfter(panel, QStringLiteral("2.5")).size(), 1);
-    // Going back to what the printer reported tells nothing.
-    QCOMPARE(widthsAfter(panel, QStringLiteral("4.00")).size(), 0);
-    panel.showSupplyInfo(colors({"#000000"}), false, 2.5, 0, false);
-    QCOMPARE(widthsAfter(panel, QStringLiteral("2.50")).size(), 0);
-    QCOMPARE(widthsAfter(panel, QStringLiteral("4.00")).size(), 1);
-}
-
-void tst_Supply::theSameNewWidthIsReportedTwice()
-{
-    PrintWidget panel(false, nullptr);
-    showPlainSupply(panel);
-    const QList<QVariantList> emitted{QVariantList{2.5}};
-    QCOMPARE(widthsAfter(panel, QStringLiteral("2.5")), emitted);
-    QCOMPARE(widthsAfter(panel, QStringLiteral("2.5")), emitted);
-}
-
-void tst_Supply::typedWidthIsReported()
-{
-    PrintWidget panel(false, nullptr);
-    showPlainSupply(panel);
-    QVERIFY(showPanel(panel));
-    const QSignalSpy changed(&panel, widthSignal);
-    ::widthEdit(panel)->setFocus();
-    ::widthEdit(panel)->selectAll();
-    QTest::keyClicks(::widthEdit(panel), QStringLiteral("2.50 in"));
-    QCOMPARE(changed.size(), 0);
-    QTest::keyClick(::widthEdit(panel), Qt::Key_Return);
-    QCOMPARE(changed.size(), 1);
-    QCOMPARE(changed.first(), QVariantList{2.5});
-    // More decimals than three cannot be typed.
-    ::widthEdit(panel)->selectAll();
-    QTest::keyClicks(::widthEdit(panel), QStringLiteral("1.23456"));
-    QCOMPARE(::widthEdit(panel)->text(), QStringLiteral("1.234"));
-}
-
-void tst_Supply::suffixInForceIsRemoved()
-{
-    PrintWidget panel(false, nullptr);
-    panel.showSupplyInfo(colors({"#000000"}), false, 12.0, 1, false);
-    QCOMPARE(widthsAfter(panel, QStringLiteral("24 mm")), QList<QVariantList>{QVariantList{24.0}});
-    QCOMPARE(widthsAfter(panel, QStringLiteral("24 in")), QList<QVariantList>());
-    panel.showSupplyInfo(colors({"#000000"}), false, 12.0, 0, false);
-    QCOMPARE(widthsAfter(panel, QStringLiteral("24 mm")), QList<QVariantList>());
-    QCOMPARE(widthsAfter(panel, QStringLiteral("24 in")), QList<QVariantList>{QVariantList{24.0}});
-}
-
-void tst_Supply::slotBeforeTheSectionExistsDoesNothing()
-{
-    PrintWidget panel(false, nullptr);
-    const QSignalSpy changed(&panel, widthSignal);
-    QVERIFY(QMetaObject::invokeMethod(&panel, "supplyWidthEditedSlot"));
-    QCOMPARE(changed.size(), 0);
 }
 
 QTEST_MAIN(tst_Supply)

@@ -7,10 +7,8 @@
 
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QStackedWidget>
 
 #include <climits>
-#include <memory>
 
 namespace {
 
@@ -33,11 +31,11 @@ QList<QStringList> reportedAfter(PrintWidget& panel, const char* menu, const cha
     return lists;
 }
 
-const QStringList defaultRibbonPalette = {
-    QStringLiteral("#ffffff"), QStringLiteral("#000000"), QStringLiteral("#dc0b0b"),
-    QStringLiteral("#f28000"), QStringLiteral("#fedb00"), QStringLiteral("#248d4f"),
-    QStringLiteral("#0018a8"), QStringLiteral("#00FFFF"), QStringLiteral("#473333"),
-    QStringLiteral("transparent")};
+const QStringList defaultRibbonPalette = {QStringLiteral("#ffffff"), QStringLiteral("#000000"),
+                                          QStringLiteral("#dc0b0b"), QStringLiteral("#f28000"),
+                                          QStringLiteral("#fedb00"), QStringLiteral("#248d4f"),
+                                          QStringLiteral("#0018a8"), QStringLiteral("#00FFFF"),
+                                          QStringLiteral("#473333"), QStringLiteral("transparent")};
 
 const QStringList defaultSupplyPalette = {
     QStringLiteral("#ffffff"), QStringLiteral("#000000"), QStringLiteral("#dc0b0b"),
@@ -168,29 +166,36 @@ void tst_SupplyColors::pick_data()
     QTest::addColumn<QString>("tabAfter");
     const auto row = [](const char* name, const char* menu, const char* color,
                         const QList<QStringList>& reported, int index, const QString& tabAfter) {
-        QTest::newRow(name) << QByteArray(menu) << QByteArray(color) << reported << index << tabAfter;
+        QTest::newRow(name) << QByteArray(menu) << QByteArray(color) << reported << index
+                            << tabAfter;
     };
-    row("ribbon 1, a colour", "ribbon1Menu", "#000000", {colors({"#000000", "#248d4f", "#ffffff"})}, 0,
-        tabOf(ribbonGlyph, "#000000", "Ribbon1"));
-    row("ribbon 2, a colour", "ribbon2Menu", "#000000", {colors({"#dc0b0b", "#000000", "#ffffff"})}, 1,
-        tabOf(ribbonGlyph, "#000000", "Ribbon2"));
+    row("ribbon 1, a colour", "ribbon1Menu", "#000000", {colors({"#000000", "#248d4f", "#ffffff"})},
+        0, tabOf(ribbonGlyph, "#000000", "Ribbon1"));
+    row("ribbon 2, a colour", "ribbon2Menu", "#000000", {colors({"#dc0b0b", "#000000", "#ffffff"})},
+        1, tabOf(ribbonGlyph, "#000000", "Ribbon2"));
     row("supply, a colour", "supplyMenu", "#fedb00", {colors({"#dc0b0b", "#248d4f", "#fedb00"})}, 2,
         tabOf(supplyGlyph, "#fedb00", "Supply"));
-    row("ribbon 1, transparent", "ribbon1Menu", "transparent", {colors({"#fffffe", "#248d4f", "#ffffff"})}, 0,
+    row("ribbon 1, transparent", "ribbon1Menu", "transparent",
+        {colors({"#fffffe", "#248d4f", "#ffffff"})}, 0,
         tabOf(blankGlyph, "blank", "Blank Ribbon1"));
-    row("ribbon 2, transparent", "ribbon2Menu", "transparent", {colors({"#dc0b0b", "#fffffe", "#ffffff"})}, 1,
+    row("ribbon 2, transparent", "ribbon2Menu", "transparent",
+        {colors({"#dc0b0b", "#fffffe", "#ffffff"})}, 1,
         tabOf(blankGlyph, "blank", "Blank Ribbon2"));
-    row("supply, transparent", "supplyMenu", "transparent", {colors({"#dc0b0b", "#248d4f", "#fffffe"})}, 2,
+    row("supply, transparent", "supplyMenu", "transparent",
+        {colors({"#dc0b0b", "#248d4f", "#fffffe"})}, 2,
         tabOf(supplyGlyph, "transparent", "Supply"));
-    row("ribbon 1, the same", "ribbon1Menu", "#dc0b0b", {}, 0, tabOf(ribbonGlyph, "#dc0b0b", "Ribbon1"));
-    row("ribbon 2, the same", "ribbon2Menu", "#248d4f", {}, 1, tabOf(ribbonGlyph, "#248d4f", "Ribbon2"));
-    row("supply, the same", "supplyMenu", "#ffffff", {}, 2, tabOf(supplyGlyph, "#ffffff", "Supply"));
-    row("ribbon 1, other letter case", "ribbon1Menu", "#DC0B0B", {colors({"#DC0B0B", "#248d4f", "#ffffff"})}, 0,
-        tabOf(ribbonGlyph, "#DC0B0B", "Ribbon1"));
-    row("supply, other letter case", "supplyMenu", "#FFFFFF", {colors({"#dc0b0b", "#248d4f", "#FFFFFF"})}, 2,
-        tabOf(supplyGlyph, "#FFFFFF", "Supply"));
-    row("ribbon 1, upper-case off-white", "ribbon1Menu", "#FFFFFE", {colors({"#FFFFFE", "#248d4f", "#ffffff"})}, 0,
-        tabOf(ribbonGlyph, "#FFFFFE", "Ribbon1"));
+    row("ribbon 1, the same", "ribbon1Menu", "#dc0b0b", {}, 0,
+        tabOf(ribbonGlyph, "#dc0b0b", "Ribbon1"));
+    row("ribbon 2, the same", "ribbon2Menu", "#248d4f", {}, 1,
+        tabOf(ribbonGlyph, "#248d4f", "Ribbon2"));
+    row("supply, the same", "supplyMenu", "#ffffff", {}, 2,
+        tabOf(supplyGlyph, "#ffffff", "Supply"));
+    row("ribbon 1, other letter case", "ribbon1Menu", "#DC0B0B",
+        {colors({"#DC0B0B", "#248d4f", "#ffffff"})}, 0, tabOf(ribbonGlyph, "#DC0B0B", "Ribbon1"));
+    row("supply, other letter case", "supplyMenu", "#FFFFFF",
+        {colors({"#dc0b0b", "#248d4f", "#FFFFFF"})}, 2, tabOf(supplyGlyph, "#FFFFFF", "Supply"));
+    row("ribbon 1, upper-case off-white", "ribbon1Menu", "#FFFFFE",
+        {colors({"#FFFFFE", "#248d4f", "#ffffff"})}, 0, tabOf(ribbonGlyph, "#FFFFFE", "Ribbon1"));
 }
 
 void tst_SupplyColors::pick()
@@ -285,7 +290,8 @@ void tst_SupplyColors::clickOnASwatchReachesTheHost()
     QVERIFY(showPanel(panel));
     colorTabs(panel)->setCurrentIndex(2);
     const QSignalSpy spy(&panel, colorsSignal);
-    auto* swatch = colorMenu(panel, "supplyMenu")->findChild<QAbstractButton*>(QStringLiteral("#7238ab"));
+    auto* swatch =
+        colorMenu(panel, "supplyMenu")->findChild<QAbstractButton*>(QStringLiteral("#7238ab"));
     QVERIFY(swatch && swatch->isVisible());
     QTest::mouseClick(swatch, Qt::LeftButton);
     QCOMPARE(spy.size(), 1);
@@ -344,7 +350,8 @@ void tst_SupplyColors::addMenuToStack()
     auto* menu = new ColorMenu(nullptr);
     menu->setObjectName(QStringLiteral("fourth"));
     menu->setColorPalette(colors({"#111111", "#222222"}), {});
-    panel.addMenuToStack(1, QStringLiteral("#222222"), QStringLiteral("T"), QStringLiteral("tip"), menu);
+    panel.addMenuToStack(1, QStringLiteral("#222222"), QStringLiteral("T"), QStringLiteral("tip"),
+                         menu);
     QCOMPARE(tab(panel, 1), tabOf(QStringLiteral("T"), "#222222", "tip"));
     QCOMPARE(stackPages(panel), colors({"ribbon1Menu", "fourth", "ribbon2Menu", "supplyMenu"}));
     QCOMPARE(selectedColor(menu), QStringLiteral("#222222"));

@@ -7,7 +7,6 @@
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QVBoxLayout>
@@ -63,13 +62,15 @@ void tst_TestControls::blockStandsAboveThePrintButtons()
     const PrintWidget panel(true, nullptr);
     const QStringList rows = layoutDescription(panel.layout());
     const qsizetype count = rows.size();
-    QCOMPARE(rows.mid(count - 9),
-             QStringList({QStringLiteral("separator"), QStringLiteral("spacer 15x15 Minimum/Minimum"),
-                          QStringLiteral("separator"), QStringLiteral("spacer 1x15 Minimum/Minimum"),
-                          QStringLiteral("QCheckBox printToFileCheck"),
-                          QStringLiteral("spacer 1x15 Minimum/Minimum"), QStringLiteral("QHBoxLayout"),
-                          QStringLiteral("separator"), QStringLiteral("QGridLayout")}));
-    QCOMPARE(panel.layout()->itemAt(int(count) - 9)->widget(), part<QWidget>(panel, "bottomSeparator"));
+    QCOMPARE(
+        rows.mid(count - 9),
+        QStringList({QStringLiteral("separator"), QStringLiteral("spacer 15x15 Minimum/Minimum"),
+                     QStringLiteral("separator"), QStringLiteral("spacer 1x15 Minimum/Minimum"),
+                     QStringLiteral("QCheckBox printToFileCheck"),
+                     QStringLiteral("spacer 1x15 Minimum/Minimum"), QStringLiteral("QHBoxLayout"),
+                     QStringLiteral("separator"), QStringLiteral("QGridLayout")}));
+    QCOMPARE(panel.layout()->itemAt(int(count) - 9)->widget(),
+             part<QWidget>(panel, "bottomSeparator"));
     QVERIFY(itemHolds(panel.layout()->itemAt(int(count) - 1), part<QWidget>(panel, "PrintButton")));
 }
 

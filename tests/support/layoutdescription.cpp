@@ -2,6 +2,7 @@
 
 #include <QtCore/QMetaEnum>
 #include <QtWidgets/QFrame>
+#include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QSizePolicy>
 
@@ -78,4 +79,11 @@ QLayout* layoutHolding(QLayout* layout, const QWidget* widget)
             return found;
     }
     return nullptr;
+}
+
+GridCell gridCell(const QGridLayout* grid, int index)
+{
+    GridCell cell;
+    grid->getItemPosition(index, &cell.row, &cell.column, &cell.rowSpan, &cell.columnSpan);
+    return cell;
 }

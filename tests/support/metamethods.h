@@ -10,8 +10,8 @@ struct QMetaObject;
  *
  *     signal public void changed(int newValue, QString)
  *
- * that is kind (signal, slot, method, constructor), access, result, name, and the parameters' types with
- * their names, if they have any.
+ * that is kind (signal, slot, method, constructor), access, result, name, and the parameters' types
+ * with their names, if they have any.
  */
 QStringList ownMethods(const QMetaObject& metaObject);
 

@@ -19,9 +19,9 @@ struct TranslationKey
 };
 
 /**
- * A translator that answers every text of one context with marked(), so that a text which a widget shows
- * tells its own translation key, and that keeps the keys in the order in which they were asked for.
- * Installed while it lives.
+ * A translator that answers every text of one context with marked(), so that a text which a widget
+ * shows tells its own translation key, and that keeps the keys in the order in which they were
+ * asked for. Installed while it lives.
  */
 class TranslationRecorder : public QTranslator
 {
