@@ -1,0 +1,62 @@
+#ifndef MULTIPAGEPRINTDIALOG_H
+#define MULTIPAGEPRINTDIALOG_H
+
+#include <printpanels/printpanels_export.h>
+
+#include <QtCore/QPointer>
+#include <QtGui/QImage>
+#include <QtWidgets/QDialog>
+
+class ContainerTitleBar;
+class QFrame;
+
+namespace PrintPanels {
+class PreviewView;
+}
+
+/**
+ * The "Preview and Print" window for documents of several pages: a title bar, a settings panel on
+ * the left and the current page on the right.
+ *
+ * It knows nothing of printing. The host creates the panel, listens to the panel's signals and
+ * pushes page images. The dialog has a fixed size of 1010 x 540 pixels and starts hidden. Closing
+ * only hides it, so that its owner may show it again; the owner deletes it.
+ */
+class PRINTPANELS_EXPORT MultiPagePrintDialog : public QDialog
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(MultiPagePrintDialog)
+
+public:
+    /**
+     * Builds the dialog around a panel.
+     * @param panel the settings panel, usually a MultiPagePrintWidget; the dialog becomes its
+     *        parent and owner. Null leaves its place empty, and the panel may be deleted before the
+     *        dialog
+     * @param parent owner, or null
+     * @param flags window flags, handed on as they are; hosts that want the title bar to be the
+     *        only one add Qt::FramelessWindowHint
+     */
+    MultiPagePrintDialog(QWidget* panel, QWidget* parent, Qt::WindowFlags flags);
+    ~MultiPagePrintDialog() override;
+
+    /** Shows the image of a page, fitted and centred. A null image shows an empty white page. */
+    void setPreviewImage(const QImage& image);
+    /** Replaces the text of the title bar, which starts empty. The window's title stays. */
+    void setTitle(const QString& title);
+
+public Q_SLOTS:
+    /** Moves the dialog's top left corner to (x, y), as the user drags the title bar. */
+    void mouseMoveSlot(int x, int y);
+
+private:
+    QFrame* createPreviewFrame();
+    void createDialogLayout();
+
+    ContainerTitleBar* titleBar = nullptr;
+    QPointer<QWidget> panel;
+    PrintPanels::PreviewView* preview = nullptr;
+    QImage placeholder;
+};
+
+#endif

@@ -1,0 +1,244 @@
+#include "multipageprobe.h"
+#include "support/stricttest.h"
+
+#include <printpanels/multipageprintdialog.h>
+#include <printpanels/multipageprintwidget.h>
+
+#include <QtTest/QSignalSpy>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QButtonGroup>
+#include <QtWidgets/QLineEdit>
+
+#include <functional>
+#include <limits>
+
+using Step = std::function<void(MultiPagePrintWidget&)>;
+Q_DECLARE_METATYPE(Step)
+
+namespace {
+
+constexpr int lowest = std::numeric_limits<int>::min();
+constexpr int highest = std::numeric_limits<int>::max();
+
+void setListQuietly(MultiPagePrintWidget& panel, const QString& list)
+{
+    auto* edit = part<QLineEdit>(panel, "pageListEdit");
+    const QSignalBlocker untold(edit);
+    edit->setText(list);
+}
+
+void choose(MultiPagePrintWidget& panel, const char* radio)
+{
+    part<QAbstractButton>(panel, radio)->setChecked(true);
+}
+
+} // namespace
+
+/** Hosts that delete the panel under its own hands, and values that make no sense. */
+class tst_MultiPageHostileHost : public StrictTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void panelDeletedWhenItReports_data();
+    void panelDeletedWhenItReports();
+    void dialogDeletedFromThePanelsRequest();
+    void panelDeletedLaterFromAnySignal_data();
+    void panelDeletedLaterFromAnySignal();
+    void numbersWithoutSense_data();
+    void numbersWithoutSense();
+    void longTexts();
+    void operationsInAnyOrder();
+    void manyPanelsAndDialogs();
+};
+
+void tst_MultiPageHostileHost::panelDeletedWhenItReports_data()
+{
+    QTest::addColumn<Step>("step");
+    const auto row = [](const char* name, const Step& step) { QTest::newRow(name) << step; };
+    row("page info", [](auto& panel) { panel.setPageInfo(5, 10, true); });
+    row("page info of a changed selection", [](auto& panel) {
+        setListQuietly(panel, QStringLiteral("7"));
+        choose(panel, "selectionRadio");
+        panel.setPageInfo(5, 10, true);
+    });
+    row("current index", [](auto& panel) { panel.updateCurrentRangeIndex(4); });
+    row("current index of an empty selection", [](auto& panel) {
+        choose(panel, "selectionRadio");
+        panel.updateCurrentRangeIndex(4);
+    });
+    row("forced update of a selection", [](auto& panel) {
+        setListQuietly(panel, QStringLiteral("7"));
+        choose(panel, "selectionRadio");
+        panel.checkRangeUpdate(true);
+    });
+    row("parse", [](auto& panel) {
+        setListQuietly(panel, QStringLiteral("7"));
+        panel.listRangeParse();
+    });
+    row("click on a radio", [](auto& panel) {
+        setListQuietly(panel, QStringLiteral("7"));
+        clickOn(part<QAbstractButton>(panel, "selectionRadio"));
+    });
+    row("print", [](auto& panel) { panel.printSlot(); });
+    row("click on print", [](auto& panel) {
+        panel.enablePrintButtons();
+        clickOn(part<QAbstractButton>(panel, "PrintButton"));
+    });
+    row("click on settings",
+        [](auto& panel) { clickOn(part<QAbstractButton>(panel, "PreferencesButton")); });
+    row("printer", [](auto& panel) { panel.currentPrinterSelectionChangedSlot(0); });
+}
+
+void tst_MultiPageHostileHost::panelDeletedWhenItReports()
+{
+    QFETCH(const Step, step);
+    const QPointer<MultiPagePrintWidget> panel(new MultiPagePrintWidget(false, false, nullptr));
+    int reports = 0;
+    const auto die = [&reports, panel] {
+        ++reports;
+        delete panel.data();
+    };
+    connect(panel, &MultiPagePrintWidget::startPageChangedSignal, this, die);
+    connect(panel, &PrintWidgetInterface::widgetPrintSignal, this, die);
+    connect(panel, &PrintWidgetInterface::openPreferencesSignal, this, die);
+    connect(panel, &PrintWidgetInterface::currentPrinterSelectionChanged, this, die);
+    step(*panel);
+    QVERIFY(panel.isNull());
+    QCOMPARE(reports, 1);
+}
+
+void tst_MultiPageHostileHost::dialogDeletedFromThePanelsRequest()
+{
+    auto* panel = new MultiPagePrintWidget(false, false, nullptr);
+    const QPointer<MultiPagePrintDialog> dialog(
+        new MultiPagePrintDialog(panel, nullptr, Qt::FramelessWindowHint));
+    QVERIFY(showActive(*dialog));
+    panel->enableAllButtons();
+    connect(panel, &PrintWidgetInterface::widgetPrintSignal, this,
+            [dialog] { delete dialog.data(); });
+    clickOn(part<QAbstractButton>(*panel, "PrintButton"));
+    QVERIFY(dialog.isNull());
+}
+
+void tst_MultiPageHostileHost::panelDeletedLaterFromAnySignal_data()
+{
+    QTest::addColumn<Step>("step");
+    const auto row = [](const char* name, const Step& step) { QTest::newRow(name) << step; };
+    row("show", [](auto& panel) { panel.show(); });
+    row("list typed",
+        [](auto& panel) { part<QLineEdit>(panel, "pageListEdit")->setText(QStringLiteral("7")); });
+    for (const char* name : {"formFillCheck", "fitToPageCheck", "orientationCheck"})
+        row(name, [name](auto& panel) { clickOn(part<QAbstractButton>(panel, name)); });
+    row("printer chosen", [](auto& panel) {
+        panel.updateListOfPrinters({QStringLiteral("A"), QStringLiteral("B")}, 0);
+        QTest::keyClick(part<QWidget>(panel, "PrinterListCombo"), Qt::Key_Down);
+    });
+}
+
+void tst_MultiPageHostileHost::panelDeletedLaterFromAnySignal()
+{
+    QFETCH(const Step, step);
+    const QPointer<MultiPagePrintWidget> panel(new MultiPagePrintWidget(false, false, nullptr));
+    const QMetaObject* meta = panel->metaObject();
+    for (int i = PrintWidgetInterface::staticMetaObject.methodOffset(); i < meta->methodCount();
+         ++i) {
+        if (meta->method(i).methodType() == QMetaMethod::Signal)
+            connect(panel, QByteArray(1, '2') + meta->method(i).methodSignature(), panel,
+                    SLOT(deleteLater()));
+    }
+    step(*panel);
+    QVERIFY(panel);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(panel.isNull());
+}
+
+void tst_MultiPageHostileHost::numbersWithoutSense_data()
+{
+    QTest::addColumn<int>("number");
+    for (int number : {lowest, -99999, -1, 0, 1, 99999, highest})
+        QTest::addRow("%d", number) << number;
+}
+
+void tst_MultiPageHostileHost::numbersWithoutSense()
+{
+    QFETCH(const int, number);
+    MultiPagePrintWidget panel(false, false, nullptr);
+    QSignalSpy printed(&panel, &PrintWidgetInterface::widgetPrintSignal);
+    for (const char* radio : {"currentPageRadio", "allPagesRadio", "selectionRadio"}) {
+        choose(panel, radio);
+        for (int other : {lowest, -1, 0, 1, highest}) {
+            panel.setPageInfo(number, other, true);
+            panel.setPageInfo(other, number, false);
+            panel.updateCurrentRangeIndex(number);
+            panel.updateListOfPrinters({QStringLiteral("A")}, number);
+            panel.currentPrinterSelectionChangedSlot(number);
+            panel.setNumberOfCopies(number);
+            panel.increaseCopyCount();
+            panel.decreaseCopyCount();
+            panel.printSlot();
+            QVERIFY(panel.getNumberOfCopies() >= 1);
+        }
+    }
+    QCOMPARE(printed.size(), 15);
+}
+
+void tst_MultiPageHostileHost::longTexts()
+{
+    MultiPagePrintWidget panel(false, false, nullptr);
+    QSignalSpy started(&panel, &MultiPagePrintWidget::startPageChangedSignal);
+    panel.setPageInfo(1, 10, true);
+    started.clear();
+    part<QLineEdit>(panel, "pageListEdit")->setText(QStringLiteral("9999,").repeated(200000));
+    QCOMPARE(takeNumbers(started), QList<int>({-1}));
+    const QString name = QStringLiteral("<b>printer</b>\n").repeated(10000);
+    panel.updateListOfPrinters({name}, 0);
+    QCOMPARE(panel.getSelectedPrinter(), name);
+    QVERIFY(!panel.grab().isNull());
+
+    MultiPagePrintDialog dialog(nullptr, nullptr, Qt::FramelessWindowHint);
+    dialog.setTitle(name);
+    QVERIFY(!dialog.grab().isNull());
+    QCOMPARE(dialog.size(), QSize(1010, 540));
+}
+
+void tst_MultiPageHostileHost::operationsInAnyOrder()
+{
+    MultiPagePrintWidget panel(true, true, nullptr);
+    panel.setSelectedPrinter(QString());
+    panel.set180OrientationVisible(false);
+    panel.set180OrientationCheck(true);
+    panel.setFormFillOption(false, false);
+    panel.disableAllButtons();
+    panel.listRangeParse();
+    panel.recordsRadioChangedSlot(true);
+    panel.recordsRadioChangedSlot();
+    panel.enableAllButtons();
+    panel.updateListOfPrinters({QString()}, 0);
+    QCOMPARE(panel.getSelectedPrinter(), QString());
+    QVERIFY(!panel.grab().isNull());
+    // A group without its buttons still answers.
+    for (const char* name : {"currentPageRadio", "allPagesRadio", "selectionRadio"}) {
+        auto* radio = part<QAbstractButton>(panel, name);
+        part<QButtonGroup>(panel, "pageRangeButtonGroup")->removeButton(radio);
+    }
+    panel.recordsRadioChangedSlot(true);
+    QVERIFY(part<QLineEdit>(panel, "pageListEdit")->isEnabled());
+}
+
+void tst_MultiPageHostileHost::manyPanelsAndDialogs()
+{
+    QWidget host;
+    for (int i = 0; i < 20; ++i) {
+        auto* panel = new MultiPagePrintWidget(i % 2 == 0, false, &host);
+        auto* dialog = new MultiPagePrintDialog(panel, &host, Qt::WindowFlags());
+        dialog->show();
+        if (i % 3 == 0)
+            delete dialog;
+    }
+    QCOMPARE(host.findChildren<MultiPagePrintDialog*>().size(), 13);
+    QCOMPARE(host.findChildren<MultiPagePrintWidget*>().size(), 13);
+}
+
+QTEST_MAIN(tst_MultiPageHostileHost)
+#include "tst_multipagehostilehost.moc"

@@ -1,0 +1,544 @@
+#include "multipageprobe.h"
+#include "support/stricttest.h"
+
+#include <printpanels/multipageprintwidget.h>
+
+#include <QtTest/QSignalSpy>
+#include <QtWidgets/QButtonGroup>
+#include <QtWidgets/QFrame>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QRadioButton>
+
+#include <limits>
+
+using Requests = QList<Request>;
+
+namespace {
+
+enum Choice { Current, All, Selection };
+
+constexpr int lowest = std::numeric_limits<int>::min();
+constexpr int highest = std::numeric_limits<int>::max();
+
+QRadioButton* radio(const QWidget& panel, int choice)
+{
+    const char* const names[] = {"currentPageRadio", "allPagesRadio", "selectionRadio"};
+    return part<QRadioButton>(panel, names[choice]);
+}
+
+QLineEdit* pageList(const QWidget& panel)
+{
+    return part<QLineEdit>(panel, "pageListEdit");
+}
+
+/** A panel that shows a page of a document, with a choice made and a list typed. */
+class Document
+{
+public:
+    Document(int choice, const QString& list, int current, int count)
+        : panel(false, false, nullptr),
+          started(&panel, &MultiPagePrintWidget::startPageChangedSignal),
+          printed(&panel, &PrintWidgetInterface::widgetPrintSignal)
+    {
+        pageList(panel)->setText(list);
+        radio(panel, choice)->setChecked(true);
+        panel.setPageInfo(current, count, true);
+        started.clear();
+    }
+
+    MultiPagePrintWidget panel;
+    QSignalSpy started;
+    QSignalSpy printed;
+};
+
+} // namespace
+
+/** Which pages a choice stands for, and when the host hears of the first of them. */
+class tst_MultiPagePages : public StrictTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void freshPanelStandsForTheFirstPage();
+    void freshPanelReckonsWith99999Pages();
+    void radiosAreOneExclusiveGroup();
+
+    void pageInfoForcesOneReport_data();
+    void pageInfoForcesOneReport();
+    void pageInfoReportsTheSamePageAgain_data();
+    void pageInfoReportsTheSamePageAgain();
+    void pageInfoOfASelectionMayReportTwice_data();
+    void pageInfoOfASelectionMayReportTwice();
+    void pageInfoEnablesTheWholeFrame();
+
+    void currentIndexReports_data();
+    void currentIndexReports();
+    void currentIndexByText();
+
+    void clicksOnTheRadios();
+    void listIsEnabledForTheSelectionOnly_data();
+    void listIsEnabledForTheSelectionOnly();
+    void listIsEnabledWhenNoRadioIsChecked();
+    void checkRangeUpdateLeavesTheListAsItIs();
+    void updatesReport_data();
+    void updatesReport();
+
+    void typingReportsEachNewStart();
+    void typingBeyondTheEndReportsNoPage();
+    void typingRefusesWhatIsNoList_data();
+    void typingRefusesWhatIsNoList();
+    void listIsReadWhicheverChoiceIsMade();
+    void parseTellsWhetherTheStartChanged();
+
+    void printRequests_data();
+    void printRequests();
+    void printButtonAsksWhileEnabled();
+    void printReportsNoStartPage();
+    void aHostMayFollowTheStartPage();
+};
+
+void tst_MultiPagePages::freshPanelStandsForTheFirstPage()
+{
+    MultiPagePrintWidget panel(false, false, nullptr);
+    QSignalSpy printed(&panel, &PrintWidgetInterface::widgetPrintSignal);
+    QSignalSpy started(&panel, &MultiPagePrintWidget::startPageChangedSignal);
+    panel.printSlot();
+    QCOMPARE(takeRequests(printed), Requests({{1, 1, QString()}}));
+    panel.updateCurrentRangeIndex(0);
+    panel.checkRangeUpdate(false);
+    QCOMPARE(started.size(), 0);
+}
+
+void tst_MultiPagePages::freshPanelReckonsWith99999Pages()
+{
+    MultiPagePrintWidget panel(false, false, nullptr);
+    QSignalSpy printed(&panel, &PrintWidgetInterface::widgetPrintSignal);
+    QSignalSpy started(&panel, &MultiPagePrintWidget::startPageChangedSignal);
+    clickOn(radio(panel, All));
+    QCOMPARE(started.size(), 0);
+    panel.printSlot();
+    QCOMPARE(takeRequests(printed), Requests({{1, 99999, QString()}}));
+    clickOn(radio(panel, Selection));
+    pageList(panel)->setText(QStringLiteral("99999"));
+    pageList(panel)->setText(QStringLiteral("100000"));
+    QCOMPARE(takeNumbers(started), QList<int>({99999, -1}));
+}
+
+void tst_MultiPagePages::radiosAreOneExclusiveGroup()
+{
+    const MultiPagePrintWidget panel(false, false, nullptr);
+    const auto* group = part<QButtonGroup>(panel, "pageRangeButtonGroup");
+    QCOMPARE(group->parent(), &panel);
+    QVERIFY(group->exclusive());
+    QCOMPARE(group->buttons().size(), 3);
+    for (int id : {0, 1, 2})
+        QCOMPARE(group->button(id), radio(panel, id));
+    QCOMPARE(group->checkedId(), 0);
+}
+
+void tst_MultiPagePages::pageInfoForcesOneReport_data()
+{
+    QTest::addColumn<int>("current");
+    QTest::addColumn<int>("count");
+    QTest::newRow("page 3 of 10") << 3 << 10;
+    QTest::newRow("page 1 of 1, where it was") << 1 << 1;
+    QTest::newRow("page 0") << 0 << 10;
+    QTest::newRow("page beyond the end") << 20 << 10;
+    QTest::newRow("no pages") << 1 << 0;
+    QTest::newRow("lowest") << lowest << lowest;
+    QTest::newRow("highest") << highest << highest;
+}
+
+void tst_MultiPagePages::pageInfoForcesOneReport()
+{
+    QFETCH(const int, current);
+    QFETCH(const int, count);
+    MultiPagePrintWidget panel(false, false, nullptr);
+    QSignalSpy started(&panel, &MultiPagePrintWidget::startPageChangedSignal);
+    QSignalSpy printed(&panel, &PrintWidgetInterface::widgetPrintSignal);
+    panel.setPageInfo(current, count, true);
+    QCOMPARE(takeNumbers(started), QList<int>({current}));
+    panel.printSlot();
+    radio(panel, All)->setChecked(true);
+    panel.printSlot();
+    QCOMPARE(takeRequests(printed),
+             Requests({{current, current, QString()}, {1, count, QString()}}));
+}
+
+void tst_MultiPagePages::pageInfoReportsTheSamePageAgain_data()
+{
+    QTest::addColumn<int>("choice");
+    QTest::addColumn<QString>("list");
+    QTest::addColumn<int>("reported");
+    QTest::newRow("current page") << int(Current) << QString() << 3;
+    QTest::newRow("all pages") << int(All) << QString() << 1;
+    QTest::newRow("empty selection") << int(Selection) << QString() << 3;
+    QTest::newRow("selection") << int(Selection) << QStringLiteral("7-9,2") << 7;
+    QTest::newRow("selection of no page") << int(Selection) << QStringLiteral("12") << -1;
+}
+
+void tst_MultiPagePages::pageInfoReportsTheSamePageAgain()
+{
+    QFETCH(const int, choice);
+    QFETCH(const QString, list);
+    QFETCH(const int, reported);
+    Document document(choice, list, 3, 10);
+    for (int i = 0; i < 2; ++i) {
+        document.panel.setPageInfo(3, 10, true);
+        QCOMPARE(takeNumbers(document.started), QList<int>({reported}));
+    }
+}
+
+void tst_MultiPagePages::pageInfoOfASelectionMayReportTwice_data()
+{
+    QTest::addColumn<QString>("list");
+    QTest::addColumn<int>("current");
+    QTest::addColumn<int>("count");
+    QTest::addColumn<QList<int>>("reported");
+    const auto row = [](const char* name, const QString& list, int current, int count,
+                        const QList<int>& reported) {
+        QTest::newRow(name) << list << current << count << reported;
+    };
+    row("empty list follows the current page", QString(), 4, 10, {4, 4});
+    row("list falls out of the document", QStringLiteral("7-9"), 3, 6, {-1, -1});
+    row("list falls back to a later item", QStringLiteral("7-9,2"), 3, 6, {2, 2});
+    row("list stays", QStringLiteral("7-9,2"), 4, 8, {7});
+}
+
+// The parse reports the change, the forced update says it once more.
+void tst_MultiPagePages::pageInfoOfASelectionMayReportTwice()
+{
+    QFETCH(const QString, list);
+    QFETCH(const int, current);
+    QFETCH(const int, count);
+    Document document(Selection, list, 3, 10);
+    document.panel.setPageInfo(current, count, true);
+    QTEST(takeNumbers(document.started), "reported");
+}
+
+void tst_MultiPagePages::pageInfoEnablesTheWholeFrame()
+{
+    MultiPagePrintWidget panel(false, false, nullptr);
+    const auto* frame = part<QFrame>(panel, "pageRangeFrame");
+    QVERIFY(frame->isEnabled());
+    panel.setPageInfo(1, 1, false);
+    QVERIFY(!frame->isEnabled());
+    for (int choice : {Current, All, Selection})
+        QVERIFY(!radio(panel, choice)->isEnabled());
+    panel.setPageInfo(1, 2, true);
+    QVERIFY(frame->isEnabled());
+    for (int choice : {Current, All, Selection})
+        QVERIFY(radio(panel, choice)->isEnabled());
+    QVERIFY(!pageList(panel)->isEnabled());
+}
+
+void tst_MultiPagePages::currentIndexReports_data()
+{
+    QTest::addColumn<int>("choice");
+    QTest::addColumn<QString>("list");
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QList<int>>("reported");
+    const auto row = [](const char* name, int choice, const QString& list, int index,
+                        const QList<int>& reported) {
+        QTest::newRow(name) << choice << list << index << reported;
+    };
+    // Every document shows page 3 of 10 before.
+    row("current page moves", Current, QString(), 4, {5});
+    row("current page stays", Current, QString(), 2, {});
+    row("to the first page", Current, QString(), 0, {1});
+    row("beyond the end", Current, QString(), 99, {100});
+    row("before the start", Current, QString(), -1, {0});
+    row("lowest index", Current, QString(), lowest, {lowest + 1});
+    row("highest index stays a number", Current, QString(), highest, {highest});
+    row("the index below the highest", Current, QString(), highest - 1, {highest});
+    row("all pages start at 1", All, QString(), 4, {});
+    row("an empty selection follows once", Selection, QString(), 4, {5});
+    row("an empty selection stays", Selection, QString(), 2, {});
+    row("a selection keeps its start", Selection, QStringLiteral("7-9,2"), 4, {});
+    row("a selection of no page", Selection, QStringLiteral("12"), 4, {});
+}
+
+void tst_MultiPagePages::currentIndexReports()
+{
+    QFETCH(const int, choice);
+    QFETCH(const QString, list);
+    QFETCH(const int, index);
+    Document document(choice, list, 3, 10);
+    document.panel.updateCurrentRangeIndex(index);
+    QTEST(takeNumbers(document.started), "reported");
+    document.panel.updateCurrentRangeIndex(index);
+    QCOMPARE(document.started.size(), 0);
+}
+
+void tst_MultiPagePages::currentIndexByText()
+{
+    Document document(Current, QString(), 1, 10);
+    QVERIFY(QMetaObject::invokeMethod(&document.panel, "updateCurrentRangeIndex", Q_ARG(int, 6)));
+    document.panel.printSlot();
+    QCOMPARE(takeRequests(document.printed), Requests({{7, 7, QString()}}));
+}
+
+void tst_MultiPagePages::clicksOnTheRadios()
+{
+    Document document(Current, QString(), 3, 10);
+    const auto click = [&document](int choice) {
+        clickOn(radio(document.panel, choice));
+        return takeNumbers(document.started);
+    };
+    QCOMPARE(click(Current), QList<int>());
+    QCOMPARE(click(All), QList<int>({1}));
+    QCOMPARE(click(All), QList<int>());
+    QCOMPARE(click(Selection), QList<int>({3}));
+    QCOMPARE(click(Current), QList<int>());
+    pageList(document.panel)->setText(QStringLiteral("5"));
+    QCOMPARE(takeNumbers(document.started), QList<int>({5}));
+    QCOMPARE(click(Selection), QList<int>());
+    QCOMPARE(click(All), QList<int>({1}));
+    QCOMPARE(click(Selection), QList<int>({5}));
+    QCOMPARE(click(Current), QList<int>({3}));
+}
+
+void tst_MultiPagePages::listIsEnabledForTheSelectionOnly_data()
+{
+    QTest::addColumn<int>("choice");
+    QTest::addColumn<bool>("enabled");
+    QTest::newRow("current page") << int(Current) << false;
+    QTest::newRow("all pages") << int(All) << false;
+    QTest::newRow("selection") << int(Selection) << true;
+}
+
+void tst_MultiPagePages::listIsEnabledForTheSelectionOnly()
+{
+    QFETCH(const int, choice);
+    QFETCH(const bool, enabled);
+    for (int before : {Current, All, Selection}) {
+        Document document(before, QStringLiteral("4"), 3, 10);
+        clickOn(radio(document.panel, choice));
+        QCOMPARE(pageList(document.panel)->isEnabled(), enabled);
+        QCOMPARE(pageList(document.panel)->text(), QStringLiteral("4"));
+    }
+}
+
+void tst_MultiPagePages::listIsEnabledWhenNoRadioIsChecked()
+{
+    Document document(Current, QString(), 3, 10);
+    part<QButtonGroup>(document.panel, "pageRangeButtonGroup")->setExclusive(false);
+    radio(document.panel, Current)->setChecked(false);
+    document.panel.recordsRadioChangedSlot();
+    QVERIFY(pageList(document.panel)->isEnabled());
+    document.panel.printSlot();
+    QCOMPARE(takeRequests(document.printed), Requests({{3, 3, QString()}}));
+}
+
+void tst_MultiPagePages::checkRangeUpdateLeavesTheListAsItIs()
+{
+    Document document(Current, QString(), 3, 10);
+    radio(document.panel, Selection)->setChecked(true);
+    document.panel.checkRangeUpdate(false);
+    QVERIFY(!pageList(document.panel)->isEnabled());
+    QVERIFY(QMetaObject::invokeMethod(&document.panel, "recordsRadioChangedSlot"));
+    QVERIFY(pageList(document.panel)->isEnabled());
+    QCOMPARE(document.started.size(), 0);
+}
+
+void tst_MultiPagePages::updatesReport_data()
+{
+    QTest::addColumn<int>("choice");
+    QTest::addColumn<QString>("list");
+    QTest::addColumn<QList<int>>("changed");
+    QTest::addColumn<QList<int>>("forced");
+    const auto row = [](const char* name, int choice, const QString& list,
+                        const QList<int>& changed, const QList<int>& forced) {
+        QTest::newRow(name) << choice << list << changed << forced;
+    };
+    // From "Current Page" at page 3 of 10 to another choice.
+    row("current page stays", Current, QString(), {}, {3});
+    row("all pages", All, QString(), {1}, {1});
+    row("empty selection stays", Selection, QString(), {}, {3});
+    row("selection", Selection, QStringLiteral("8"), {8}, {8, 8});
+    row("selection of the same page", Selection, QStringLiteral("3-5"), {}, {3});
+    row("selection of no page", Selection, QStringLiteral("11"), {-1}, {-1, -1});
+}
+
+void tst_MultiPagePages::updatesReport()
+{
+    QFETCH(const int, choice);
+    QFETCH(const QString, list);
+    using Update = void (MultiPagePrintWidget::*)(bool);
+    for (const Update update : {&MultiPagePrintWidget::recordsRadioChangedSlot,
+                                &MultiPagePrintWidget::checkRangeUpdate}) {
+        for (const bool force : {false, true}) {
+            Document document(Current, QString(), 3, 10);
+            {
+                const QSignalBlocker untold(pageList(document.panel));
+                pageList(document.panel)->setText(list);
+            }
+            radio(document.panel, choice)->setChecked(true);
+            (document.panel.*update)(force);
+            QTEST(takeNumbers(document.started), force ? "forced" : "changed");
+            (document.panel.*update)(false);
+            QCOMPARE(document.started.size(), 0);
+            (document.panel.*update)(true);
+            QCOMPARE(document.started.size(), 1);
+        }
+    }
+}
+
+void tst_MultiPagePages::typingReportsEachNewStart()
+{
+    Document document(Current, QString(), 3, 10);
+    QVERIFY(showActive(document.panel));
+    clickOn(radio(document.panel, Selection));
+    pageList(document.panel)->setFocus();
+    const auto type = [&document](const QString& keys) {
+        QTest::keyClicks(pageList(document.panel), keys);
+        return takeNumbers(document.started);
+    };
+    QCOMPARE(type(QStringLiteral("7")), QList<int>({7}));
+    QCOMPARE(type(QStringLiteral("-9,2")), QList<int>());
+    QCOMPARE(pageList(document.panel)->text(), QStringLiteral("7-9,2"));
+    QTest::keyClick(pageList(document.panel), Qt::Key_Home);
+    // 17-9,2: no page 17, so page 2
+    QCOMPARE(type(QStringLiteral("1")), QList<int>({2}));
+    QTest::keyClick(pageList(document.panel), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(pageList(document.panel), Qt::Key_Delete);
+    QCOMPARE(takeNumbers(document.started), QList<int>({3}));
+}
+
+void tst_MultiPagePages::typingBeyondTheEndReportsNoPage()
+{
+    Document document(Current, QString(), 3, 10);
+    QVERIFY(showActive(document.panel));
+    clickOn(radio(document.panel, Selection));
+    QTest::keyClicks(pageList(document.panel), QStringLiteral("12"));
+    QCOMPARE(takeNumbers(document.started), QList<int>({1, -1}));
+    document.panel.printSlot();
+    QCOMPARE(takeRequests(document.printed), Requests({{0, 0, QStringLiteral("12")}}));
+}
+
+void tst_MultiPagePages::typingRefusesWhatIsNoList_data()
+{
+    QTest::addColumn<QString>("kept");
+    QTest::newRow("0") << QString();
+    QTest::newRow("01") << QStringLiteral("1");
+    QTest::newRow("1,,2") << QStringLiteral("1,2");
+    QTest::newRow("1 - 3") << QStringLiteral("1-3");
+    QTest::newRow("12345") << QStringLiteral("1234");
+    QTest::newRow("1-2-3") << QStringLiteral("1-23");
+    QTest::newRow("abc") << QString();
+    QTest::newRow("1,4-5,11-20,33") << QStringLiteral("1,4-5,11-20,33");
+    QTest::newRow("20-11") << QStringLiteral("20-11");
+}
+
+void tst_MultiPagePages::typingRefusesWhatIsNoList()
+{
+    Document document(Current, QString(), 3, 10);
+    QVERIFY(showActive(document.panel));
+    clickOn(radio(document.panel, Selection));
+    QTest::keyClicks(pageList(document.panel), QLatin1String(QTest::currentDataTag()));
+    QTEST(pageList(document.panel)->text(), "kept");
+}
+
+void tst_MultiPagePages::listIsReadWhicheverChoiceIsMade()
+{
+    Document document(Current, QString(), 3, 10);
+    pageList(document.panel)->setText(QStringLiteral("7"));
+    QCOMPARE(takeNumbers(document.started), QList<int>({7}));
+    document.panel.updateCurrentRangeIndex(2);
+    QCOMPARE(takeNumbers(document.started), QList<int>({3}));
+    pageList(document.panel)->setText(QStringLiteral("12"));
+    document.panel.checkRangeUpdate(false);
+    QCOMPARE(takeNumbers(document.started), QList<int>({-1, 3}));
+}
+
+void tst_MultiPagePages::parseTellsWhetherTheStartChanged()
+{
+    Document document(Current, QString(), 3, 10);
+    QVERIFY(!document.panel.listRangeParse());
+    {
+        const QSignalBlocker untold(pageList(document.panel));
+        pageList(document.panel)->setText(QStringLiteral("5-9,2"));
+    }
+    QVERIFY(document.panel.listRangeParse());
+    QVERIFY(!document.panel.listRangeParse());
+    QCOMPARE(takeNumbers(document.started), QList<int>({5}));
+}
+
+void tst_MultiPagePages::printRequests_data()
+{
+    QTest::addColumn<int>("choice");
+    QTest::addColumn<QString>("list");
+    QTest::addColumn<Request>("request");
+    const auto row = [](const char* name, int choice, const QString& list, const Request& request) {
+        QTest::newRow(name) << choice << list << request;
+    };
+    row("current page", Current, QString(), {3, 3, QString()});
+    row("current page beside a list", Current, QStringLiteral("1,3"), {3, 3, QString()});
+    row("all pages", All, QString(), {1, 10, QString()});
+    row("all pages beside a list", All, QStringLiteral("1,3"), {1, 10, QString()});
+    row("selection without a list", Selection, QString(), {3, 3, QString()});
+    row("selection", Selection, QStringLiteral("1,3"), {0, 0, QStringLiteral("1,3")});
+    row("selection of no page", Selection, QStringLiteral("12"), {0, 0, QStringLiteral("12")});
+    row("selection being typed", Selection, QStringLiteral("4-"), {0, 0, QStringLiteral("4-")});
+}
+
+void tst_MultiPagePages::printRequests()
+{
+    QFETCH(const int, choice);
+    QFETCH(const QString, list);
+    QFETCH(const Request, request);
+    Document document(choice, list, 3, 10);
+    document.panel.printSlot();
+    QCOMPARE(takeRequests(document.printed), Requests({request}));
+    QVERIFY(QMetaObject::invokeMethod(&document.panel, "printSlot"));
+    QCOMPARE(takeRequests(document.printed), Requests({request}));
+}
+
+void tst_MultiPagePages::printButtonAsksWhileEnabled()
+{
+    Document document(All, QString(), 3, 10);
+    auto* button = part<QAbstractButton>(document.panel, "PrintButton");
+    clickOn(button);
+    QCOMPARE(document.printed.size(), 0);
+    document.panel.enablePrintButtons();
+    clickOn(button);
+    QCOMPARE(takeRequests(document.printed), Requests({{1, 10, QString()}}));
+    QSignalSpy previewed(&document.panel, &PrintWidgetInterface::printPreviewSignal);
+    clickOn(button);
+    QCOMPARE(previewed.size(), 0);
+}
+
+void tst_MultiPagePages::printReportsNoStartPage()
+{
+    Document document(Current, QString(), 3, 10);
+    radio(document.panel, All)->setChecked(true);
+    document.panel.printSlot();
+    QCOMPARE(document.started.size(), 0);
+    // The request has taken the choice over, so there is no change left to report.
+    document.panel.checkRangeUpdate(false);
+    QCOMPARE(document.started.size(), 0);
+}
+
+void tst_MultiPagePages::aHostMayFollowTheStartPage()
+{
+    Document document(Current, QString(), 3, 10);
+    QList<int> shown;
+    connect(&document.panel, &MultiPagePrintWidget::startPageChangedSignal, &document.panel,
+            [&](int page) {
+                shown.append(page);
+                if (page > 0)
+                    document.panel.updateCurrentRangeIndex(page - 1);
+            });
+    clickOn(radio(document.panel, Selection));
+    pageList(document.panel)->setText(QStringLiteral("8"));
+    QCOMPARE(shown, QList<int>({8}));
+    clickOn(radio(document.panel, All));
+    QCOMPARE(shown, QList<int>({8, 1}));
+    clickOn(radio(document.panel, Current));
+    QCOMPARE(shown, QList<int>({8, 1}));
+    document.panel.setPageInfo(6, 10, true);
+    QCOMPARE(shown, QList<int>({8, 1, 6}));
+}
+
+QTEST_MAIN(tst_MultiPagePages)
+#include "tst_multipagepages.moc"

@@ -1,0 +1,262 @@
+#include "multipageprobe.h"
+#include "support/stricttest.h"
+
+#include <jxcombobox.h>
+#include <printpanels/multipageprintwidget.h>
+
+#include <QtTest/QSignalSpy>
+#include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QPushButton>
+
+namespace {
+
+JxComboBox* printers(const QWidget& panel)
+{
+    return part<JxComboBox>(panel, "PrinterListCombo");
+}
+
+QStringList names()
+{
+    return {QStringLiteral("Alpha"), QStringLiteral("Beta"), QStringLiteral("alpha"),
+            QStringLiteral("Beta"), QStringLiteral("")};
+}
+
+/** The user opens the list and clicks on an item. */
+void pick(JxComboBox* combo, int row)
+{
+    combo->showPopup();
+    QAbstractItemView* view = combo->view();
+    QVERIFY(QTest::qWaitForWindowExposed(view->window()));
+    const QModelIndex index = combo->model()->index(row, 0);
+    view->scrollTo(index);
+    // The list ignores a release that comes too soon after it opened.
+    QTest::qWait(QApplication::doubleClickInterval() + 50);
+    const QPoint place = view->visualRect(index).center();
+    QTest::mouseMove(view->viewport(), place);
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    QTRY_VERIFY(!view->isVisible());
+}
+
+} // namespace
+
+/** Printer list, selection and settings button. */
+class tst_MultiPagePrinter : public StrictTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void listReplacesAndSelects_data();
+    void listReplacesAndSelects();
+    void listEmitsNothing();
+    void noPrinterIsAPlainItem();
+    void selectionByName_data();
+    void selectionByName();
+    void selectionEmitsNothing();
+    void selectionBeforeTheFirstList();
+    void theComboBoxIsNotTouchedBeforeTheFirstList();
+
+    void pickingAnotherPrinterIsReportedByIndexAndByPick();
+    void pickingTheSamePrinterIsReportedOnce();
+    void keyboardChoiceIsReported();
+    void indexChangeIsReportedOnceHoweverOftenTheListWasFilled();
+    void slotReportsTheItemsText_data();
+    void slotReportsTheItemsText();
+    void settingsButtonOpensThePreferences();
+};
+
+void tst_MultiPagePrinter::listReplacesAndSelects_data()
+{
+    QTest::addColumn<QStringList>("list");
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QStringList>("items");
+    QTest::addColumn<int>("current");
+    const QStringList none;
+    const QStringList noPrinter = {QStringLiteral("No printer")};
+    QTest::newRow("first") << names() << 0 << names() << 0;
+    QTest::newRow("last") << names() << 4 << names() << 4;
+    QTest::newRow("none") << names() << -1 << names() << -1;
+    QTest::newRow("index beyond the end") << names() << 5 << names() << -1;
+    QTest::newRow("index far below") << names() << std::numeric_limits<int>::min() << names() << -1;
+    QTest::newRow("index far above") << names() << std::numeric_limits<int>::max() << names() << -1;
+    QTest::newRow("empty, 0") << none << 0 << noPrinter << 0;
+    QTest::newRow("empty, -1") << none << -1 << noPrinter << 0;
+    QTest::newRow("empty, 3") << none << 3 << noPrinter << 0;
+    QTest::newRow("empty, far above") << none << std::numeric_limits<int>::max() << noPrinter << 0;
+}
+
+void tst_MultiPagePrinter::listReplacesAndSelects()
+{
+    QFETCH(const QStringList, list);
+    QFETCH(const int, index);
+    QFETCH(const QStringList, items);
+    QFETCH(const int, current);
+    MultiPagePrintWidget panel(false, false, nullptr);
+    panel.updateListOfPrinters({QStringLiteral("Old")}, 0);
+    panel.updateListOfPrinters(list, index);
+    QStringList shown;
+    for (int i = 0; i < printers(panel)->count(); ++i)
+        shown.append(printers(panel)->itemText(i));
+    QCOMPARE(shown, items);
+    QCOMPARE(printers(panel)->currentIndex(), current);
+    QCOMPARE(panel.getSelectedPrinter(), current < 0 ? QString() : items.at(current));
+}
+
+void tst_MultiPagePrinter::listEmitsNothing()
+{
+    MultiPagePrintWidget panel(false, false, nullptr);
+    QSignalSpy changed(&panel, &PrintWidgetInterface::currentPrinterSelectionChanged);
+    panel.updateListOfPrinters({}, 0);
+    panel.updateListOfPrinters(names(), 1);
+    panel.updateListOfPrinters(names(), 3);
+    panel.updateListOfPrinters(names(), -1);
+    panel.updateListOfPrinters({}, 0);
+    QCOMPARE(changed.size(), 0);
+}
+
+void tst_MultiPagePrinter::noPrinterIsAPlainItem()
+{
+    MultiPagePrintWidget panel(false, false, nullptr);
+    panel.updateListOfPrinters({}, 0);
+    QCOMPARE(printers(panel)->count(), 1);
+    QVERIFY(printers(panel)->itemIcon(0).isNull());
+    QVERIFY(!printers(panel)->itemData(0).isValid());
+    QVERIFY(!printers(panel)->itemData(0, Qt::ToolTipRole).isValid());
+}
+
+void tst_MultiPagePrinter::selectionByName_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("current");
+    QTest::newRow("exact") << QStringLiteral("Beta") << 1;
+    QTest::newRow("the other case") << QStringLiteral("alpha") << 2;
+    QTest::newRow("differs only in case") << QStringLiteral("BETA") << -1;
+    QTest::newRow("part of a name") << QStringLiteral("Bet") << -1;
+    QTest::newRow("pattern") << QStringLiteral("B*") << -1;
+    QTest::newRow("unknown") << QStringLiteral("Gamma") << -1;
+    QTest::newRow("empty name that exists") << QStringLiteral("") << 4;
+}
+
+void tst_MultiPagePrinter::selectionByName()
+{
+    QFETCH(const QString, name);
+    QFETCH(const int, current);
+    MultiPagePrintWidget panel(false, false, nullptr);
+    panel.updateListOfPrinters(names(), 0);
+    panel.setSelectedPrinter(name);
+    QCOMPARE(printers(panel)->currentIndex(), current);
+    QCOMPARE(panel.getSelectedPrinter(), current < 0 ? QString() : name);
+}
+
+void tst_MultiPagePrinter::selectionEmitsNothing()
+{
+    MultiPagePrintWidget panel(false, false, nullptr);
+    panel.updateListOfPrinters(names(), 0);
+    QSignalSpy changed(&panel, &PrintWidgetInterface::currentPrinterSelectionChanged);
+    for (const char* name : {"Beta", "Beta", "unknown", "Alpha"})
+        panel.setSelectedPrinter(QLatin1String(name));
+    QCOMPARE(changed.size(), 0);
+    // The user's next choice is heard again.
+    printers(panel)->setCurrentIndex(1);
+    QCOMPARE(takeTexts(changed), QStringList({QStringLiteral("Beta")}));
+}
+
+void tst_MultiPagePrinter::selectionBeforeTheFirstList()
+{
+    MultiPagePrintWidget panel(false, false, nullptr);
+    QSignalSpy changed(&panel, &PrintWidgetInterface::currentPrinterSelectionChanged);
+    panel.setSelectedPrinter(QStringLiteral("Alpha"));
+    QCOMPARE(panel.getSelectedPrinter(), QString());
+    QCOMPARE(changed.size(), 0);
+}
+
+void tst_MultiPagePrinter::theComboBoxIsNotTouchedBeforeTheFirstList()
+{
+    const MultiPagePrintWidget panel(false, false, nullptr);
+    QCOMPARE(printers(panel)->count(), 0);
+    QVERIFY(!printers(panel)->isEditable());
+    QSignalSpy changed(&panel, &PrintWidgetInterface::currentPrinterSelectionChanged);
+    printers(panel)->addItem(QStringLiteral("by hand"));
+    QCOMPARE(printers(panel)->currentIndex(), 0);
+    QCOMPARE(changed.size(), 0);
+}
+
+void tst_MultiPagePrinter::pickingAnotherPrinterIsReportedByIndexAndByPick()
+{
+    MultiPagePrintWidget panel(false, false, nullptr);
+    panel.updateListOfPrinters(names(), 0);
+    QVERIFY(showActive(panel));
+    QSignalSpy changed(&panel, &PrintWidgetInterface::currentPrinterSelectionChanged);
+    pick(printers(panel), 1);
+    QCOMPARE(panel.getSelectedPrinter(), QStringLiteral("Beta"));
+    QCOMPARE(takeTexts(changed), QStringList({QStringLiteral("Beta"), QStringLiteral("Beta")}));
+}
+
+void tst_MultiPagePrinter::pickingTheSamePrinterIsReportedOnce()
+{
+    MultiPagePrintWidget panel(false, false, nullptr);
+    panel.updateListOfPrinters(names(), 1);
+    QVERIFY(showActive(panel));
+    QSignalSpy changed(&panel, &PrintWidgetInterface::currentPrinterSelectionChanged);
+    pick(printers(panel), 1);
+    QCOMPARE(takeTexts(changed), QStringList({QStringLiteral("Beta")}));
+}
+
+void tst_MultiPagePrinter::keyboardChoiceIsReported()
+{
+    MultiPagePrintWidget panel(false, false, nullptr);
+    panel.updateListOfPrinters(names(), 0);
+    QVERIFY(showActive(panel));
+    QSignalSpy changed(&panel, &PrintWidgetInterface::currentPrinterSelectionChanged);
+    printers(panel)->setFocus();
+    QTest::keyClick(printers(panel), Qt::Key_Down);
+    QCOMPARE(panel.getSelectedPrinter(), QStringLiteral("Beta"));
+    QCOMPARE(takeTexts(changed), QStringList({QStringLiteral("Beta"), QStringLiteral("Beta")}));
+}
+
+void tst_MultiPagePrinter::indexChangeIsReportedOnceHoweverOftenTheListWasFilled()
+{
+    MultiPagePrintWidget panel(false, false, nullptr);
+    for (int i = 0; i < 3; ++i)
+        panel.updateListOfPrinters(names(), 0);
+    QSignalSpy changed(&panel, &PrintWidgetInterface::currentPrinterSelectionChanged);
+    printers(panel)->setCurrentIndex(2);
+    QCOMPARE(takeTexts(changed), QStringList({QStringLiteral("alpha")}));
+}
+
+void tst_MultiPagePrinter::slotReportsTheItemsText_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("first") << 0 << QStringLiteral("Alpha");
+    QTest::newRow("fourth") << 3 << QStringLiteral("Beta");
+    QTest::newRow("none") << -1 << QString();
+    QTest::newRow("beyond the end") << 5 << QString();
+    QTest::newRow("highest") << std::numeric_limits<int>::max() << QString();
+}
+
+void tst_MultiPagePrinter::slotReportsTheItemsText()
+{
+    QFETCH(const int, index);
+    QFETCH(const QString, name);
+    MultiPagePrintWidget panel(false, false, nullptr);
+    panel.updateListOfPrinters(names(), 2);
+    QSignalSpy changed(&panel, &PrintWidgetInterface::currentPrinterSelectionChanged);
+    panel.currentPrinterSelectionChangedSlot(index);
+    QCOMPARE(takeTexts(changed), QStringList({name}));
+    QCOMPARE(panel.getSelectedPrinter(), QStringLiteral("alpha"));
+}
+
+void tst_MultiPagePrinter::settingsButtonOpensThePreferences()
+{
+    MultiPagePrintWidget panel(false, false, nullptr);
+    QSignalSpy opened(&panel, &PrintWidgetInterface::openPreferencesSignal);
+    auto* button = part<QPushButton>(panel, "PreferencesButton");
+    clickOn(button);
+    QCOMPARE(opened.size(), 1);
+    panel.disableAllButtons();
+    clickOn(button);
+    QCOMPARE(opened.size(), 2);
+}
+
+QTEST_MAIN(tst_MultiPagePrinter)
+#include "tst_multipageprinter.moc"

@@ -1,0 +1,7 @@
+// A library that brings the panels with it when it is loaded.
+#include <printpanels/printpreviewdialog.h>
+
+extern "C" Q_DECL_EXPORT void orientationTip(QString* tip)
+{
+    *tip = PrintPreviewDialog::ORIENTATION_TIP;
+}

@@ -1,0 +1,47 @@
+#ifndef POPUP_H
+#define POPUP_H
+
+#include <QtCore/QSizeF>
+#include <QtCore/QString>
+#include <QtGui/QImage>
+
+#include <printpanels/printpreviewdialog.h>
+
+class ContainerTitleBar;
+class QAbstractButton;
+class QPushButton;
+
+/** What a host hands to the popup, with values that suit most tests. */
+struct PopupContent
+{
+    QImage image;
+    QSizeF designSize = QSizeF(4.0, 2.0);
+    QSizeF printedSize = QSizeF(3.5, 1.75);
+    bool printedSizeOnly = false;
+    bool portrait = true;
+    bool metric = false;
+    int sequenceStart = 3;
+    int sequenceEnd = 8;
+    QString recordList;
+};
+
+/** A popup with this content. */
+class Popup : public PrintPreviewDialog
+{
+public:
+    explicit Popup(const PopupContent& content = PopupContent(), QWidget* parent = nullptr,
+                   Qt::WindowFlags flags = Qt::FramelessWindowHint);
+
+    /** updatePreview() with this content. */
+    void update(const PopupContent& content);
+    /** setUpTitleBar() with this content. */
+    void title(const PopupContent& content);
+
+    QPushButton* button(const char* name) const;
+    QWidget* view() const;
+    ContainerTitleBar* bar() const;
+    /** The title bar's own close button. */
+    QAbstractButton* cross() const;
+};
+
+#endif
