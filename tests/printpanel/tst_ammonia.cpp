@@ -5,6 +5,7 @@
 #include <applicationfont.h>
 #include <printpanels/printwidget.h>
 
+#include <QtCore/QPointer>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QFrame>
@@ -74,6 +75,7 @@ private Q_SLOTS:
     void separatorShowsOnlyWithoutSupply();
     void onlyAMaskReevaluatesTheSeparator();
     void secondSetModuleDoublesNoNames();
+    void secondSetModuleTakesTheOldContentsAwayAtOnce();
     void createAmmoniaComboListTwiceDoublesNoNames();
     void setModuleInsideTheTagHandler();
     void setVisibleAmmoniaTagInsideTheTagHandler();
@@ -371,6 +373,31 @@ void tst_Ammonia::secondSetModuleDoublesNoNames()
     const QSignalSpy changed(&panel, tagSignal);
     combo(panel)->setCurrentIndex(4);
     QCOMPARE(changed.size(), 1);
+}
+
+// What is left of the old contents until the event loop deletes it is neither seen nor heard.
+void tst_Ammonia::secondSetModuleTakesTheOldContentsAwayAtOnce()
+{
+    PrintWidget panel(false, nullptr);
+    panel.setModule(JxModuleInfo::PipeMarking);
+    panel.setVisibleAmmoniaTag(15);
+    QVERIFY(showPanel(panel));
+    const QStringList rows = layoutDescription(panel.layout());
+    const QPointer<QComboBox> oldCombo = combo(panel);
+    const QPointer<QFrame> oldSeparator = separator(panel);
+    QVERIFY(oldCombo->isVisible());
+
+    panel.setModule(JxModuleInfo::PipeMarking);
+    panel.setVisibleAmmoniaTag(3);
+    QCOMPARE(layoutDescription(panel.layout()), rows);
+    QVERIFY(panel.layout()->indexOf(separator(panel)) >= 0);
+    QVERIFY(!oldCombo || !oldCombo->isVisible());
+    QVERIFY(!oldSeparator || !oldSeparator->isVisible());
+    const QSignalSpy changed(&panel, tagSignal);
+    if (oldCombo)
+        oldCombo->setCurrentIndex(2);
+    QCOMPARE(changed.size(), 0);
+    QTRY_VERIFY(oldCombo.isNull() && oldSeparator.isNull());
 }
 
 void tst_Ammonia::createAmmoniaComboListTwiceDoublesNoNames()

@@ -1,0 +1,22 @@
+#include "support/stricttest.h"
+
+/**
+ * Fails on purpose: the base class has to turn a connection to a signal that does not exist into a
+ * failure. What CTest expects of this program is that failure.
+ */
+class tst_StrictTest : public StrictTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aConnectionToNoSignalFails();
+};
+
+void tst_StrictTest::aConnectionToNoSignalFails()
+{
+    QObject receiver;
+    QObject::connect(this, SIGNAL(neverDeclared()), &receiver, SLOT(deleteLater()));
+}
+
+QTEST_GUILESS_MAIN(tst_StrictTest)
+#include "tst_stricttest.moc"
