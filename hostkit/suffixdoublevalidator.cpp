@@ -93,10 +93,9 @@ QValidator::State SuffixDoubleValidator::validateNumber(QStringView number) cons
 
 QValidator::State SuffixDoubleValidator::validateValue(QStringView number) const
 {
-    bool ok = false;
-    const double value = QLocale::c().toDouble(number, &ok);
-    if (!ok)
-        return Invalid;
+    // The shape is checked. Beyond a double's reach the answer is still the nearest one: an
+    // infinity or zero.
+    const double value = QLocale::c().toDouble(number);
     if (value >= m_bottom && value <= m_top)
         return Acceptable;
     // More digits lead away from zero, never towards it.

@@ -24,6 +24,8 @@ private Q_SLOTS:
     void leavesTextAndPositionAlone();
     void suffixCanBeReplaced();
     void emptySuffixAllowsNothingBehindTheNumber();
+    void numbersBeyondADoubleAreJudgedByTheirSize_data();
+    void numbersBeyondADoubleAreJudgedByTheirSize();
     void hugeTextsAreJudgedQuickly_data();
     void hugeTextsAreJudgedQuickly();
     void typingIntoALineEdit_data();
@@ -247,6 +249,39 @@ void TestSuffixDoubleValidator::emptySuffixAllowsNothingBehindTheNumber()
     QCOMPARE(judge(validator, QStringLiteral("12 ")), invalid);
     QCOMPARE(judge(validator, QStringLiteral("12 in")), invalid);
     QCOMPARE(judge(validator, QString()), intermediate);
+}
+
+void TestSuffixDoubleValidator::numbersBeyondADoubleAreJudgedByTheirSize_data()
+{
+    QTest::addColumn<double>("bottom");
+    QTest::addColumn<double>("top");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QValidator::State>("state");
+    constexpr double infinite = std::numeric_limits<double>::infinity();
+    const QString large(400, QLatin1Char('9'));
+    const QString small = QStringLiteral("0.") + QString(400, QLatin1Char('0')) + QLatin1Char('1');
+    const QLatin1Char minus('-');
+    QTest::newRow("large, boundless") << -infinite << infinite << large << acceptable;
+    QTest::newRow("large negative, boundless")
+        << -infinite << infinite << minus + large << acceptable;
+    QTest::newRow("large, bounded") << -1e308 << 1e308 << large << invalid;
+    QTest::newRow("large negative, bounded") << -1e308 << 1e308 << minus + large << invalid;
+    QTest::newRow("small") << -1.0 << 1.0 << small + inches << acceptable;
+    QTest::newRow("small negative") << -1.0 << 1.0 << minus + small << acceptable;
+    QTest::newRow("small, zero excluded") << 0.5 << 1.0 << small << intermediate;
+    QTest::newRow("small negative, zero excluded") << -1.0 << -0.5 << minus + small << intermediate;
+    QTest::newRow("small, negative numbers only") << -1.0 << -0.5 << small << invalid;
+}
+
+void TestSuffixDoubleValidator::numbersBeyondADoubleAreJudgedByTheirSize()
+{
+    QFETCH(double, bottom);
+    QFETCH(double, top);
+    QFETCH(QString, text);
+    QFETCH(QValidator::State, state);
+    SuffixDoubleValidator validator(bottom, top, 500, nullptr);
+    validator.setSuffix(inches);
+    QCOMPARE(judge(validator, text), state);
 }
 
 void TestSuffixDoubleValidator::hugeTextsAreJudgedQuickly_data()

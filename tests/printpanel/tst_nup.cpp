@@ -134,6 +134,8 @@ void tst_Nup::radios()
     const QRadioButton* button = radio(panel, QTest::currentDataTag());
     QCOMPARE(button->text(), QString());
     QCOMPARE(button->toolTip(), toolTip(tip));
+    // Without a text, a screen reader has this.
+    QCOMPARE(button->accessibleName(), toolTip(tip));
     QFile sheet(QStringLiteral(EXPECTED_SHEETS "/radioButtonIndicator.qss"));
     QVERIFY(sheet.open(QIODevice::ReadOnly));
     QCOMPARE(button->styleSheet(), QString::fromUtf8(sheet.readAll()));

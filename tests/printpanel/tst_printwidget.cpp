@@ -12,6 +12,7 @@
 #include <QtWidgets/QFrame>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QSpinBox>
 
 /** Construction, names, style sheet, meta-object, modules, buttons, user background, show signal.
  */
@@ -81,7 +82,8 @@ void tst_PrintWidget::everyTextHasThePanelsFont()
         const auto* label = qobject_cast<const QLabel*>(child);
         const bool hasText = (button && !button->text().isEmpty()) ||
                              (label && !label->text().isEmpty()) ||
-                             qobject_cast<const QComboBox*>(child) || child->inherits("JxLineEdit");
+                             qobject_cast<const QComboBox*>(child) ||
+                             qobject_cast<const QSpinBox*>(child) || child->inherits("JxLineEdit");
         if (!hasText)
             continue;
         const bool small = label && layoutHolding(panel.layout(), label) &&
@@ -94,8 +96,8 @@ void tst_PrintWidget::everyTextHasThePanelsFont()
         QVERIFY2(child->font().pixelSize() == expected.pixelSize(), name.constData());
         ++compared;
     }
-    // 11 labels, 9 buttons, 2 combo boxes and 2 line edits.
-    QCOMPARE(compared, 24);
+    // 11 labels, 9 buttons, 2 combo boxes, 2 spin boxes and 2 line edits.
+    QCOMPARE(compared, 26);
 }
 
 void tst_PrintWidget::buttonsAtConstruction()

@@ -84,6 +84,7 @@ void tst_Requests::previewButton()
     const auto* button = part<QPushButton>(panel, "PreviewButton");
     QCOMPARE(button->text(), QStringLiteral("Print Preview"));
     QVERIFY(button->minimumWidth() >= 127);
+    QVERIFY(button->testAttribute(Qt::WA_SetStyle));
     // The style proxy lives as long as the button that uses it.
     const QObjectList styles = button->findChildren<QObject*>();
     bool found = false;
