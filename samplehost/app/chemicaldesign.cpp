@@ -1,5 +1,6 @@
 #include "samplehost/app/chemicaldesign.h"
 
+#include "samplehost/label/catalogpainter.h"
 #include "samplehost/label/labelpainter.h"
 
 #include <algorithm>
@@ -30,6 +31,14 @@ private:
     int m_record = 0;
 };
 
+LabelOptions optionsOf(const PrintRequest& request)
+{
+    LabelOptions options;
+    options.userBackground = request.userBackground;
+    options.landscape = !request.labelTurned;
+    return options;
+}
+
 } // namespace
 
 ChemicalDesign::ChemicalDesign(std::unique_ptr<RecordSource> source) : m_source(std::move(source))
@@ -43,6 +52,21 @@ void ChemicalDesign::setCurrentIndex(int index)
     m_currentIndex = std::clamp(index, 0, std::max(0, recordCount() - 1));
 }
 
+void ChemicalDesign::setBound(bool bound)
+{
+    m_bound = bound;
+    if (bound) {
+        m_item.reset();
+    }
+}
+
+void ChemicalDesign::openItem(const CatalogItem& item, const QSizeF& sizeMm)
+{
+    m_bound = false;
+    m_item = item;
+    m_itemSizeMm = sizeMm;
+}
+
 QString ChemicalDesign::sourceDescription() const
 {
     return m_source ? m_source->description() : tr("no data source");
@@ -50,18 +74,21 @@ QString ChemicalDesign::sourceDescription() const
 
 QString ChemicalDesign::title() const
 {
-    return tr("Chemical labels");
+    return m_item ? tr("Catalogue item") : tr("Chemical labels");
 }
 
 int ChemicalDesign::recordCount() const
 {
+    if (m_item) {
+        return 1;
+    }
     return m_source ? m_source->count() : 0;
 }
 
 void ChemicalDesign::complete(PrintRequest& request) const
 {
     if (!m_bound) {
-        request.sequenceStart = m_currentIndex + 1;
+        request.sequenceStart = m_item ? 1 : m_currentIndex + 1;
         request.sequenceEnd = -1;
         request.customRecordsList.clear();
     }
@@ -69,17 +96,23 @@ void ChemicalDesign::complete(PrintRequest& request) const
 
 QSizeF ChemicalDesign::labelSizeMm(const PrintRequest& request) const
 {
-    LabelOptions options;
-    options.userBackground = request.userBackground;
-    return SampleHost::labelSizeMm(options);
+    if (m_item) {
+        return request.labelTurned ? m_itemSizeMm.transposed() : m_itemSizeMm;
+    }
+    return SampleHost::labelSizeMm(optionsOf(request));
 }
 
 LabelPainter ChemicalDesign::painter(const PrintRequest& request) const
 {
-    LabelOptions options;
-    options.userBackground = request.userBackground;
-    return [options, reader = RecordReader(m_source.get())](QPainter& painter, const QRectF& area,
-                                                            int record, QString& problem) mutable {
+    if (m_item) {
+        return [item = *m_item, size = labelSizeMm(request)](QPainter& painter, const QRectF& area,
+                                                             int, QString&) {
+            paintCatalogItem(painter, area, item, size);
+            return true;
+        };
+    }
+    return [options = optionsOf(request), reader = RecordReader(m_source.get())](
+               QPainter& painter, const QRectF& area, int record, QString& problem) mutable {
         const Chemical* chemical = reader.read(record, problem);
         if (chemical == nullptr) {
             return false;

@@ -3,10 +3,12 @@
 
 #include "samplehost/app/labeldesign.h"
 #include "samplehost/data/recordsource.h"
+#include "samplehost/label/catalogitem.h"
 
 #include <QtCore/QCoreApplication>
 
 #include <memory>
+#include <optional>
 
 namespace SampleHost {
 
@@ -21,7 +23,7 @@ public:
     ~ChemicalDesign() override;
 
     /** The record that the host shows, 0-based; clamped to the records there are. */
-    int currentIndex() const { return m_currentIndex; }
+    int currentIndex() const override { return m_currentIndex; }
     void setCurrentIndex(int index);
 
     /**
@@ -29,7 +31,13 @@ public:
      * that it shows now and no records to choose from.
      */
     bool isBound() const { return m_bound; }
-    void setBound(bool bound) { m_bound = bound; }
+    /** Binds the label, which ends what openItem() began, or keeps what it shows now. */
+    void setBound(bool bound);
+
+    /** Makes an unbound label of a catalogue item, of a size in millimetres. */
+    void openItem(const CatalogItem& item, const QSizeF& sizeMm);
+    /** Whether it is one. */
+    bool hasItem() const { return m_item.has_value(); }
 
     /** The data source as a text for the user. */
     QString sourceDescription() const;
@@ -44,6 +52,9 @@ private:
     std::unique_ptr<RecordSource> m_source;
     int m_currentIndex = 0;
     bool m_bound = true;
+    // What an unbound label shows in place of the current record.
+    std::optional<CatalogItem> m_item;
+    QSizeF m_itemSizeMm;
 };
 
 } // namespace SampleHost

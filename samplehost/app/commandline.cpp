@@ -1,5 +1,6 @@
 #include "samplehost/app/commandline.h"
 
+#include "samplehost/app/commandlineoptions.h"
 #include "samplehost/app/demostates.h"
 
 #include <QtCore/QCommandLineParser>
@@ -13,59 +14,14 @@ namespace SampleHost {
 
 namespace {
 
-struct Option
-{
-    const char* name;
-    const char* value;
-    const char* description;
-};
-
-// clang-format off
-constexpr Option options[] = {
-    {"print", "list", "Print a list of records such as 1,4-5, without a user."},
-    {"all", nullptr, "Print all records, without a user."},
-    {"current", "record", "Print one record, without a user."},
-    {"output", "file.pdf", "The PDF file to print to."},
-    {"printer", "name", "Print to a printer of the system instead of a PDF file."},
-    {"copies", "number", "The number of copies, 1 to 999."},
-    {"nup", "rows x columns", "The labels on a sheet, for example 2x2."},
-    {"sequence", nullptr, "Fill a sheet with successive records."},
-    {"replicate", nullptr, "Fill a sheet with copies of one record."},
-    {"paper", "name", "The paper: label, a4 or letter."},
-    {"background", nullptr, "Print a user background under the labels."},
-    {"print-to-file", nullptr, "Print to a .prn file below the folder of the output file."},
-    {"test-controls", nullptr, "Show the panels' print-to-file and error-test controls."},
-    {"screenshot", "file.png", "Save a picture of the window and end."},
-    {"state", "name", "Bring the window into a state: plain, list-nup, supply, pipe or test-controls."},
-    {"database", "name", "The SQLite file, or the database of a server."},
-    {"driver", "name", "The Qt SQL driver, for example QPSQL. The password of a server's user is taken "
-                       "from the environment variable SAMPLEHOST_PASSWORD."},
-    {"host", "name", "The database server."},
-    {"port", "number", "The port of the database server."},
-    {"user", "name", "The user at the database server."},
-    {"table", "name", "The table with the records."},
-};
-// clang-format on
-
 // Whoever asks for one of these does not need a display.
-constexpr const char* headlessOptions[] = {"print",   "all",      "current", "screenshot", "help",
-                                           "version", "help-all", "h",       "v"};
+constexpr const char* headlessOptions[] = {
+    "print", "all",     "current", "pages",    "all-pages", "page", "screenshot",
+    "help",  "version", "catalog", "help-all", "h",         "v"};
 
 QString tr(const char* text)
 {
     return QCoreApplication::translate("SampleHost::CommandLine", text);
-}
-
-void addOptions(QCommandLineParser& parser)
-{
-    parser.setApplicationDescription(tr("Prints labels through the print panels."));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    for (const Option& option : options) {
-        parser.addOption(QCommandLineOption(QString::fromLatin1(option.name),
-                                            tr(option.description),
-                                            QString::fromLatin1(option.value)));
-    }
 }
 
 /** Takes the values of the options over; the first thing wrong is kept as the problem. */
@@ -80,8 +36,12 @@ public:
     void read()
     {
         readRecords();
+        m_result.catalog = readCatalogCommand(m_parser, m_result.problem);
+        m_result.document = readDocumentCommand(m_parser, m_result.problem);
+        m_result.host.document = m_result.document.file;
         readOutput();
         readSheet();
+        readPreview();
         readWindow();
         readDataSource();
         checkTarget();
@@ -164,6 +124,24 @@ private:
         }
     }
 
+    void readPreview()
+    {
+        m_result.preview = has("preview");
+        m_result.metric = has("metric");
+        if (has("portrait") && has("landscape")) {
+            complain(tr("Only one of --portrait and --landscape can be used."));
+        }
+        if (has("portrait") || has("landscape")) {
+            m_result.portrait = has("portrait");
+            if (!m_result.preview) {
+                complain(tr("--portrait and --landscape need --preview."));
+            }
+        }
+        if (m_result.preview && m_result.records == CommandLine::Records::None) {
+            complain(tr("--preview needs --print, --all or --current."));
+        }
+    }
+
     void readPaper(const QString& name)
     {
         const QStringList names{QStringLiteral("label"), QStringLiteral("a4"),
@@ -209,8 +187,12 @@ private:
 
     void checkTarget()
     {
-        const bool prints = m_result.records != CommandLine::Records::None;
-        if (prints && m_result.output.isEmpty() && m_result.printer.isEmpty()) {
+        const bool prints = m_result.records != CommandLine::Records::None ||
+                            m_result.catalog.isGiven() || m_result.document.prints();
+        // These show what they would print before they print it.
+        const bool looksOnly =
+            (m_result.preview || m_result.catalog.isGiven()) && !m_result.screenshot.isEmpty();
+        if (prints && !looksOnly && !m_result.hasTarget()) {
             complain(tr("Where to? Add --output FILE.pdf or --printer NAME."));
         }
     }
@@ -230,12 +212,15 @@ void CommandLine::applyTo(HostSettings& settings) const
     if (paper) {
         settings.setPaper(*paper);
     }
+    if (metric) {
+        settings.setMetric(true);
+    }
 }
 
 CommandLine parseCommandLine(const QStringList& arguments)
 {
     QCommandLineParser parser;
-    addOptions(parser);
+    addCommandLineOptions(parser);
     CommandLine result;
     if (!parser.parse(arguments)) {
         result.problem = parser.errorText();
@@ -256,7 +241,7 @@ CommandLine parseCommandLine(const QStringList& arguments)
 QString commandLineHelp()
 {
     QCommandLineParser parser;
-    addOptions(parser);
+    addCommandLineOptions(parser);
     return parser.helpText();
 }
 

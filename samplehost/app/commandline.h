@@ -1,6 +1,8 @@
 #ifndef SAMPLEHOST_COMMANDLINE_H
 #define SAMPLEHOST_COMMANDLINE_H
 
+#include "samplehost/app/catalogcommand.h"
+#include "samplehost/app/documentcommand.h"
 #include "samplehost/app/hostsettings.h"
 #include "samplehost/app/mainwindow.h"
 
@@ -34,6 +36,12 @@ struct CommandLine
     std::optional<NupLayout> nup;
     std::optional<Paper> paper;
     bool userBackground = false;
+    /** Whether the records are shown in the preview, and printed from there if at all. */
+    bool preview = false;
+    /** The orientation to choose in the preview; without one it stays as the label is designed. */
+    std::optional<bool> portrait;
+    /** Whether sizes are shown in millimetres. */
+    bool metric = false;
     bool printToFile = false;
     /** The PDF file to print to. */
     QString output;
@@ -43,6 +51,10 @@ struct CommandLine
     QString screenshot;
     /** The name of a state to bring the window into; see demoStateNames(). */
     QString state;
+    /** Which item of the catalogue is printed in place of labels. */
+    CatalogCommand catalog;
+    /** What is to be done with a document in place of labels. */
+    DocumentCommand document;
 
     bool helpAsked = false;
     bool versionAsked = false;
@@ -52,8 +64,15 @@ struct CommandLine
     /** Puts what the command line says about the output in the place of what the settings say. */
     void applyTo(HostSettings& settings) const;
 
+    /** Whether there is somewhere to print to. */
+    bool hasTarget() const { return !output.isEmpty() || !printer.isEmpty(); }
+
     /** Whether the program does its work and ends, instead of waiting for a user. */
-    bool isHeadless() const { return records != Records::None || !screenshot.isEmpty(); }
+    bool isHeadless() const
+    {
+        return records != Records::None || catalog.isGiven() || document.prints() ||
+               !screenshot.isEmpty();
+    }
 };
 
 /** Reads a command line, the program's name first. */

@@ -3,6 +3,10 @@
 
 #include <QtCore/QStringList>
 
+#include <optional>
+
+class QWidget;
+
 namespace SampleHost {
 
 class MainWindow;
@@ -14,6 +18,9 @@ QStringList demoStateNames();
 /** The name of the state that needs panels with test controls. */
 QString testControlsStateName();
 
+/** The name of the state that shows a document, but not the window that prints it. */
+QString documentStateName();
+
 /**
  * Brings a visible window into a state. False for an unknown name, or when the window would not
  * have it.
@@ -22,6 +29,18 @@ bool applyDemoState(MainWindow& window, const QString& name);
 
 /** Checks print-to-file in the panel of a visible page. False if the panel has no such control. */
 bool choosePrintToFile(const PrintPage& page);
+
+/**
+ * Presses Print Preview in a visible page, and the button of an orientation if one is given. False
+ * if that does not bring up the popup.
+ */
+bool openPreview(const PrintPage& page, std::optional<bool> portrait);
+
+/** A widget of a page's popup by its object name; null before the first preview. */
+QWidget* previewWidget(const PrintPage& page, const char* name);
+
+/** The preview or the window of a document that is open over a window, or null. */
+QWidget* openPopup(const MainWindow& window);
 
 } // namespace SampleHost
 

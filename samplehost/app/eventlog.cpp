@@ -1,6 +1,9 @@
 #include "samplehost/app/eventlog.h"
 
+#include <printpanels/multipageprintwidget.h>
+#include <printpanels/printpreviewdialog.h>
 #include <printpanels/printwidget.h>
+#include <printpanels/quickprintwidget.h>
 
 #include <QtCore/QTime>
 #include <QtWidgets/QListWidget>
@@ -29,6 +32,11 @@ QString written(bool value)
 QString written(const QString& text)
 {
     return QLatin1Char('"') + text + QLatin1Char('"');
+}
+
+QString written(const QSizeF& size)
+{
+    return written(size.width()) + QStringLiteral(" x ") + written(size.height());
 }
 
 QString written(const QStringList& texts)
@@ -74,34 +82,67 @@ void EventLog::watch(PrintWidget& panel, const QString& name)
 {
     watchRequests(panel, name);
     watchSupply(panel, name);
-}
-
-void EventLog::watchRequests(PrintWidget& panel, const QString& name)
-{
-    connect(&panel, &PrintWidget::widgetPrintSignal, this, logger(this, name, "widgetPrintSignal"));
-    connect(&panel, &PrintWidget::printPreviewSignal, this,
-            logger(this, name, "printPreviewSignal"));
-    connect(&panel, &PrintWidget::openPreferencesSignal, this,
-            logger(this, name, "openPreferencesSignal"));
-    connect(&panel, &PrintWidget::currentPrinterSelectionChanged, this,
-            logger(this, name, "currentPrinterSelectionChanged"));
-    connect(&panel, &PrintWidget::openModuleSignal, this, logger(this, name, "openModuleSignal"));
-    connect(&panel, &PrintWidget::focusLost, this, logger(this, name, "focusLost"));
-    connect(&panel, &PrintWidget::printWidgetShowSignal, this,
-            logger(this, name, "printWidgetShowSignal"));
-}
-
-void EventLog::watchSupply(PrintWidget& panel, const QString& name)
-{
-    connect(&panel, &PrintWidget::supplyWidthChangedSignal, this,
-            logger(this, name, "supplyWidthChangedSignal"));
-    connect(&panel, &PrintWidget::supplyColorsChangedSignal, this,
-            logger(this, name, "supplyColorsChangedSignal"));
-    connect(&panel, &PrintWidget::tinyLadderSupplyChangedSignal, this,
-            logger(this, name, "tinyLadderSupplyChangedSignal"));
     connect(&panel, &PrintWidget::ammoniaPrintTagChanged, this,
             logger(this, name, "ammoniaPrintTagChanged"));
     connect(&panel, &PrintWidget::testPrintError, this, logger(this, name, "testPrintError"));
+}
+
+void EventLog::watch(MultiPagePrintWidget& panel, const QString& name)
+{
+    using Panel = MultiPagePrintWidget;
+    watchRequests(panel, name);
+    watchSupply(panel, name);
+    connect(&panel, &Panel::printFormFillChangedSignal, this,
+            logger(this, name, "printFormFillChangedSignal"));
+    connect(&panel, &Panel::fitToPageChangedSignal, this,
+            logger(this, name, "fitToPageChangedSignal"));
+    connect(&panel, &Panel::startPageChangedSignal, this,
+            logger(this, name, "startPageChangedSignal"));
+    connect(&panel, &Panel::orientationChangedSignal, this,
+            logger(this, name, "orientationChangedSignal"));
+}
+
+void EventLog::watch(QuickPrintWidget& panel, const QString& name)
+{
+    watchRequests(panel, name);
+    watchSupply(panel, name);
+    connect(&panel, &QuickPrintWidget::resizeSignal, this, logger(this, name, "resizeSignal"));
+}
+
+void EventLog::watch(PrintPreviewDialog& preview, const QString& name)
+{
+    using Preview = PrintPreviewDialog;
+    connect(&preview, &Preview::previewPrintSignal, this, logger(this, name, "previewPrintSignal"));
+    connect(&preview, &Preview::orientationChangedSignal, this,
+            logger(this, name, "orientationChangedSignal"));
+    connect(&preview, &Preview::popupHideSignal, this, logger(this, name, "popupHideSignal"));
+}
+
+void EventLog::watchRequests(PrintWidgetInterface& panel, const QString& name)
+{
+    connect(&panel, &PrintWidgetInterface::widgetPrintSignal, this,
+            logger(this, name, "widgetPrintSignal"));
+    connect(&panel, &PrintWidgetInterface::printPreviewSignal, this,
+            logger(this, name, "printPreviewSignal"));
+    connect(&panel, &PrintWidgetInterface::openPreferencesSignal, this,
+            logger(this, name, "openPreferencesSignal"));
+    connect(&panel, &PrintWidgetInterface::currentPrinterSelectionChanged, this,
+            logger(this, name, "currentPrinterSelectionChanged"));
+    connect(&panel, &PrintWidgetInterface::openModuleSignal, this,
+            logger(this, name, "openModuleSignal"));
+    connect(&panel, &PrintWidgetInterface::focusLost, this, logger(this, name, "focusLost"));
+    connect(&panel, &PrintWidgetInterface::printWidgetShowSignal, this,
+            logger(this, name, "printWidgetShowSignal"));
+}
+
+void EventLog::watchSupply(PrintWidgetInterface& panel, const QString& name)
+{
+    connect(&panel, &PrintWidgetInterface::supplyWidthChangedSignal, this,
+            logger(this, name, "supplyWidthChangedSignal"));
+    connect(&panel, &PrintWidgetInterface::supplyColorsChangedSignal, this,
+            logger(this, name, "supplyColorsChangedSignal"));
+    connect(&panel, &PrintWidgetInterface::tinyLadderSupplyChangedSignal, this,
+            logger(this, name, "tinyLadderSupplyChangedSignal"));
 }
 
 QStringList EventLog::lines() const

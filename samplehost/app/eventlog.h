@@ -6,7 +6,11 @@
 
 class QListWidget;
 
+class MultiPagePrintWidget;
+class PrintPreviewDialog;
 class PrintWidget;
+class PrintWidgetInterface;
+class QuickPrintWidget;
 
 namespace SampleHost {
 
@@ -27,6 +31,12 @@ public:
      * panel, for example: Labels: widgetPrintSignal(0, 0, "1,4-5").
      */
     void watch(PrintWidget& panel, const QString& name);
+    /** Likewise for a panel of documents. */
+    void watch(MultiPagePrintWidget& panel, const QString& name);
+    /** Likewise for a panel that prints one label. */
+    void watch(QuickPrintWidget& panel, const QString& name);
+    /** Likewise for a preview. */
+    void watch(PrintPreviewDialog& preview, const QString& name);
 
     /** The lines, oldest first, without the time that is shown before each. */
     QStringList lines() const;
@@ -39,8 +49,8 @@ public Q_SLOTS:
     void clear();
 
 private:
-    void watchRequests(PrintWidget& panel, const QString& name);
-    void watchSupply(PrintWidget& panel, const QString& name);
+    void watchRequests(PrintWidgetInterface& panel, const QString& name);
+    void watchSupply(PrintWidgetInterface& panel, const QString& name);
 
     QListWidget* m_list = nullptr;
 };

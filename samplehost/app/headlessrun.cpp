@@ -1,7 +1,12 @@
 #include "samplehost/app/headlessrun.h"
 
+#include "samplehost/app/catalogpage.h"
+#include "samplehost/app/catalogrun.h"
 #include "samplehost/app/demostates.h"
+#include "samplehost/app/documentrun.h"
 #include "samplehost/app/labelpage.h"
+#include "samplehost/app/pdfpage.h"
+#include "samplehost/app/pdfprintcontroller.h"
 #include "samplehost/app/printcontroller.h"
 #include "samplehost/app/recordnavigator.h"
 #include "samplehost/app/userhands.h"
@@ -15,6 +20,8 @@
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
 
+#include <type_traits>
+
 namespace SampleHost {
 
 using Records = CommandLine::Records;
@@ -22,10 +29,15 @@ using Records = CommandLine::Records;
 HeadlessRun::HeadlessRun(MainWindow& window, const CommandLine& command, QObject* parent)
     : QObject(parent), m_window(window), m_command(command)
 {
-    const PrintController& controller = window.labelPage().controller();
-    connect(&controller, &PrintController::refused, this,
-            [this](const QString& reason) { fail(NothingToPrint, reason); });
-    connect(&controller, &PrintController::jobEnded, this, &HeadlessRun::endJob);
+    const auto follow = [this](const auto& controller) {
+        using Controller = std::decay_t<decltype(controller)>;
+        connect(&controller, &Controller::refused, this,
+                [this](const QString& reason) { fail(NothingToPrint, reason); });
+        connect(&controller, &Controller::jobEnded, this, &HeadlessRun::endJob);
+    };
+    follow(window.labelPage().controller());
+    follow(window.catalogPage().controller());
+    follow(window.pdfPage().controller());
 }
 
 QWidget* HeadlessRun::panelWidget(const char* name) const
@@ -46,16 +58,24 @@ void HeadlessRun::start()
 {
     arrange();
     m_window.show();
+    if (!m_window.pdfPage().problem().isEmpty()) {
+        fail(RuntimeFailure, m_window.pdfPage().problem());
+        return;
+    }
     if (!m_command.state.isEmpty() && !applyDemoState(m_window, m_command.state)) {
         fail(RuntimeFailure, tr("The state \"%1\" cannot be shown.").arg(m_command.state));
         return;
     }
     UserHands::wait();
     m_window.growToPanel();
-    if (m_command.records == Records::None) {
+    if (!m_command.document.file.isEmpty()) {
+        printDocument();
+    } else if (m_command.catalog.isGiven()) {
+        printCatalogItem();
+    } else if (m_command.records == Records::None) {
         finish();
     } else if (chooseOutput() && chooseRecords() && chooseSheet()) {
-        print();
+        m_command.preview ? printFromPreview() : print();
     }
 }
 
@@ -157,6 +177,39 @@ void HeadlessRun::print()
     }
 }
 
+void HeadlessRun::printDocument()
+{
+    DocumentRun run(m_window, m_command);
+    const bool prints = m_command.document.prints();
+    const bool choosesNothing = !prints && m_command.state == documentStateName();
+    if (!choosesNothing && (!run.choose() || (prints && !run.print()))) {
+        fail(run.exitCode(), run.problem());
+    } else if (!prints) {
+        finish();
+    }
+}
+
+void HeadlessRun::printCatalogItem()
+{
+    CatalogRun run(m_window, m_command);
+    if (!run.choose() || (m_command.hasTarget() && !run.print())) {
+        fail(run.exitCode(), run.problem());
+    } else if (!m_command.hasTarget()) {
+        finish();
+    }
+}
+
+void HeadlessRun::printFromPreview()
+{
+    if (!openPreview(m_window.labelPage(), m_command.portrait)) {
+        fail(RuntimeFailure, tr("The preview cannot be shown."));
+    } else if (!m_command.hasTarget()) {
+        finish();
+    } else if (!UserHands::click(previewWidget(m_window.labelPage(), "printButton"))) {
+        fail(RuntimeFailure, tr("The preview's Print button cannot be pressed."));
+    }
+}
+
 void HeadlessRun::endJob(PrintJob::Outcome outcome, const QString& message)
 {
     if (outcome == PrintJob::Outcome::Completed) {
@@ -178,7 +231,9 @@ void HeadlessRun::finish()
 bool HeadlessRun::saveScreenshot()
 {
     UserHands::wait();
-    if (!m_window.grab().save(m_command.screenshot, "PNG")) {
+    QWidget* popup = openPopup(m_window);
+    QWidget* picture = popup != nullptr ? popup : &m_window;
+    if (!picture->grab().save(m_command.screenshot, "PNG")) {
         return fail(RuntimeFailure, tr("The picture \"%1\" cannot be written.")
                                         .arg(QDir::toNativeSeparators(m_command.screenshot)));
     }

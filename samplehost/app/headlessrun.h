@@ -47,6 +47,9 @@ private:
     bool chooseSheet();
     bool chooseOutput();
     void print();
+    void printCatalogItem();
+    void printDocument();
+    void printFromPreview();
     void endJob(PrintJob::Outcome outcome, const QString& message);
     void finish();
     bool saveScreenshot();

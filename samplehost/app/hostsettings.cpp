@@ -41,6 +41,8 @@ const QString folderKey = QStringLiteral("output/folder");
 const QString fileKey = QStringLiteral("output/file");
 const QString paperKey = QStringLiteral("output/paper");
 const QString nupKey = QStringLiteral("output/nup");
+const QString documentKey = QStringLiteral("documents/recent");
+const QString metricKey = QStringLiteral("view/metric");
 
 } // namespace
 
@@ -111,11 +113,33 @@ void HostSettings::setNup(const NupLayout& nup)
     }
 }
 
+void HostSettings::setMetric(bool metric)
+{
+    if (metric != m_metric) {
+        m_metric = metric;
+        Q_EMIT changed();
+    }
+}
+
+void HostSettings::setPrinter(const QString& printer)
+{
+    if (printer != m_printer) {
+        m_printer = printer;
+        Q_EMIT printerChanged(m_printer);
+    }
+}
+
+void HostSettings::setRecentDocument(const QString& path)
+{
+    m_recentDocument = path.isEmpty() ? QString() : QFileInfo(path).absoluteFilePath();
+}
+
 void HostSettings::load()
 {
     const QSettings stored;
     setOutputFolder(stored.value(folderKey).toString());
     setOutputFileName(stored.value(fileKey).toString());
+    setRecentDocument(stored.value(documentKey, m_recentDocument).toString());
     const int paper = stored.value(paperKey, int(m_paper)).toInt();
     if (paper >= int(Paper::LabelSize) && paper <= int(Paper::Letter)) {
         setPaper(Paper(paper));
@@ -123,6 +147,7 @@ void HostSettings::load()
     if (const auto nup = NupLayout::fromText(stored.value(nupKey).toString())) {
         setNup(*nup);
     }
+    setMetric(stored.value(metricKey, m_metric).toBool());
 }
 
 void HostSettings::save() const
@@ -131,7 +156,9 @@ void HostSettings::save() const
     stored.setValue(folderKey, m_outputFolder);
     stored.setValue(fileKey, m_outputFileName);
     stored.setValue(paperKey, int(m_paper));
+    stored.setValue(documentKey, m_recentDocument);
     stored.setValue(nupKey, m_nup.text());
+    stored.setValue(metricKey, m_metric);
 }
 
 } // namespace SampleHost

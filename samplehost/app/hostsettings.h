@@ -40,6 +40,12 @@ public:
     Paper paper() const { return m_paper; }
     /** How many labels go on a sheet. */
     NupLayout nup() const { return m_nup; }
+    /** Whether sizes are shown in millimetres instead of inches. */
+    bool isMetric() const { return m_metric; }
+    /** The printer that was chosen last, in whichever panel. Not kept for the next start. */
+    QString printer() const { return m_printer; }
+    /** The document that was opened last; empty if none was. */
+    QString recentDocument() const { return m_recentDocument; }
 
     /** Sets the folder; an empty one changes nothing. A relative one counts from the current
      * folder. */
@@ -51,6 +57,10 @@ public:
     void setPaper(Paper paper);
     /** Sets the layout of sheets, brought into its bounds. */
     void setNup(const NupLayout& nup);
+    void setMetric(bool metric);
+    void setPrinter(const QString& printer);
+    /** Keeps an opened document in mind; nobody is told. */
+    void setRecentDocument(const QString& path);
 
     /** Reads what save() wrote for this user; what was never saved stays. */
     void load();
@@ -58,14 +68,19 @@ public:
     void save() const;
 
 Q_SIGNALS:
-    /** Any of the settings has a new value. */
+    /** Any of the settings but the printer has a new value. */
     void changed();
+    /** Another printer is the one chosen last. */
+    void printerChanged(const QString& printer);
 
 private:
     QString m_outputFolder;
     QString m_outputFileName;
     Paper m_paper = Paper::LabelSize;
     NupLayout m_nup;
+    QString m_printer;
+    QString m_recentDocument;
+    bool m_metric = false;
 };
 
 } // namespace SampleHost

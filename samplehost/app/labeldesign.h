@@ -19,13 +19,21 @@ public:
     /** The name of the documents that are printed from this design. */
     virtual QString title() const = 0;
 
+    /** The record that the host shows, 0-based. */
+    virtual int currentIndex() const = 0;
+
     /** The number of records now. */
     virtual int recordCount() const = 0;
 
     /** Fills in what the panel does not know, and overrules what does not apply to this design. */
     virtual void complete(PrintRequest& request) const = 0;
 
-    /** The size of one label, in millimetres. */
+    /** Whether the user designs a label of a size of its own, or the size follows from the
+     * contents.
+     */
+    virtual bool hasDesignSize() const { return true; }
+
+    /** The size of one label, in millimetres; exchanged sides for a turned one. */
     virtual QSizeF labelSizeMm(const PrintRequest& request) const = 0;
 
     /** Paints the records of a request; it may be used as long as the design exists. */
@@ -34,6 +42,9 @@ public:
 private:
     Q_DISABLE_COPY_MOVE(LabelDesign)
 };
+
+/** Paints what another painter paints, turned by 90 degrees so that it reads upwards. */
+LabelPainter turnedPainter(LabelPainter paint);
 
 } // namespace SampleHost
 

@@ -1,8 +1,10 @@
 #include "samplehost/app/labelpage.h"
 
 #include "samplehost/app/hostsettings.h"
+#include "samplehost/app/labelpreview.h"
 #include "samplehost/app/labeltypebar.h"
 #include "samplehost/app/labelview.h"
+#include "samplehost/app/printcontroller.h"
 #include "samplehost/app/recordnavigator.h"
 
 #include <printpanels-hostkit/jxmoduleinfo.h>
@@ -26,9 +28,6 @@ LabelPage::LabelPage(std::unique_ptr<RecordSource> source, HostSettings& setting
     connect(&settings, &HostSettings::changed, this, &LabelPage::applyLabelType);
     m_navigator->setCount(m_design.recordCount());
     applyLabelType();
-    if (m_design.recordCount() > 0) {
-        panel().enableAllButtons();
-    }
 }
 
 LabelPage::~LabelPage() = default;
@@ -55,17 +54,43 @@ void LabelPage::showRecord(int index)
     updateView();
 }
 
+void LabelPage::openItem(const CatalogItem& item, const QSizeF& sizeMm)
+{
+    preview().dismiss();
+    m_design.openItem(item, sizeMm);
+    m_typeBar->setBound(false);
+    applyLabelType();
+}
+
 void LabelPage::applyLabelType()
 {
+    if (m_design.hasItem() && m_typeBar->isBound()) {
+        preview().dismiss();
+    }
     m_design.setBound(m_typeBar->isBound());
     const int count = m_design.recordCount();
+    // A list stands for one record or several; how many there are may be new.
+    panel().listRangeParse();
     const bool choosable = m_design.isBound() && count > 0;
     m_navigator->setEnabled(choosable);
     panel().setRangeValues(m_design.currentIndex(), std::max(0, count - 1), choosable);
     panel().setNupSeqRepVisible(m_settings.nup().labelsPerPage() > 1);
     panel().setNupDynamicLength(m_typeBar->isDynamicLength());
     applyUserBackground();
+    updateButtons();
     updateView();
+}
+
+void LabelPage::updateButtons()
+{
+    if (controller().isPrinting()) {
+        return;
+    }
+    if (m_design.recordCount() > 0) {
+        panel().enableAllButtons();
+    } else {
+        panel().disableAllButtons();
+    }
 }
 
 void LabelPage::applyUserBackground()

@@ -25,6 +25,12 @@ public:
 
     const ChemicalDesign& design() const override { return m_design; }
 
+    /**
+     * Shows a catalogue item of a size in millimetres as the label to edit, in place of the label
+     * of the records, until the user binds the label to the data source again.
+     */
+    void openItem(const CatalogItem& item, const QSizeF& sizeMm);
+
     /** Chooses the current record. */
     RecordNavigator& navigator() const { return *m_navigator; }
 
@@ -33,6 +39,7 @@ private:
     void showRecord(int index);
     void applyLabelType();
     void applyUserBackground();
+    void updateButtons();
     void updateView();
 
     ChemicalDesign m_design;

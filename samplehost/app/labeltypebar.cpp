@@ -65,6 +65,11 @@ bool LabelTypeBar::isBound() const
     return m_boundCheck->isChecked();
 }
 
+void LabelTypeBar::setBound(bool bound)
+{
+    m_boundCheck->setChecked(bound);
+}
+
 bool LabelTypeBar::hasUserBackground() const
 {
     return m_backgroundCheck->isChecked();

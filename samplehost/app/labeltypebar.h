@@ -23,6 +23,7 @@ public:
     bool isDynamicLength() const;
     /** Whether the label takes its contents from the data source. */
     bool isBound() const;
+    void setBound(bool bound);
     /** Whether the user has put a background layer under the label. */
     bool hasUserBackground() const;
 

@@ -25,6 +25,7 @@ void say(std::FILE* stream, const QString& text)
 bool isPlatformNote(const QString& message)
 {
     return message == QLatin1String("This plugin does not support propagateSizeHints()") ||
+           message == QLatin1String("This plugin does not support raise()") ||
            message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set"));
 }
 

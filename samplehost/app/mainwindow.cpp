@@ -1,17 +1,21 @@
 #include "samplehost/app/mainwindow.h"
 
+#include "samplehost/app/catalogpage.h"
 #include "samplehost/app/errormessages.h"
 #include "samplehost/app/eventlog.h"
 #include "samplehost/app/labelpage.h"
+#include "samplehost/app/labelpreview.h"
 #include "samplehost/app/messagebox.h"
+#include "samplehost/app/pdfpage.h"
 #include "samplehost/app/pipepage.h"
 #include "samplehost/app/preferencesdialog.h"
-#include "samplehost/app/previewwindow.h"
 #include "samplehost/app/printcontroller.h"
 #include "samplehost/app/printprogressdialog.h"
 #include "samplehost/app/supplysimulator.h"
 
+#include <printpanels/printpreviewdialog.h>
 #include <printpanels/printwidget.h>
+#include <printpanels/quickprintwidget.h>
 
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QDockWidget>
@@ -35,6 +39,7 @@ MainWindow::MainWindow(const HostOptions& options, QWidget* parent)
     : QMainWindow(parent), m_printers(m_settings)
 {
     setWindowTitle(tr("Sample Host"));
+    m_settings.setPrinter(PrinterDirectory::pdfFileName());
     createDocks();
     createPages(options);
     createMenus();
@@ -57,13 +62,19 @@ void MainWindow::createPages(const HostOptions& options)
     m_pipePage = new PipePage(m_settings, options.testControls);
     addPage(m_labelPage, tr("Chemical Labels"), tr("Labels"));
     addPage(m_pipePage, tr("Pipe Markers"), tr("Pipes"));
+    addCatalogPage();
+    addDocumentPage(options.document);
 }
 
 void MainWindow::addPage(PrintPage* page, const QString& title, const QString& logName)
 {
     m_log->watch(page->panel(), logName);
+    connect(&page->preview(), &LabelPreview::popupCreated, m_log,
+            [this, logName](PrintPreviewDialog* popup) {
+                m_log->watch(*popup, tr("%1 preview").arg(logName));
+            });
     connectPanel(*page);
-    connectController(*page);
+    connectJobs(page->controller());
     m_printers.fill(page->panel());
     m_supply->connectPanel(page->panel());
     m_pages->addTab(page, title);
@@ -89,10 +100,16 @@ void MainWindow::createDocks()
 void MainWindow::createMenus()
 {
     QMenu* file = menuBar()->addMenu(tr("&File"));
+    m_pdfPage->addActions(*file);
+    file->addSeparator();
     file->addAction(tr("&Print"), QKeySequence::Print, this,
                     [this] { clickPanelButton(QStringLiteral("PrintButton")); });
     file->addAction(tr("Print Pre&view"), this,
                     [this] { clickPanelButton(QStringLiteral("PreviewButton")); });
+    file->addAction(tr("&Count Pages"), this, &MainWindow::countPages)
+        ->setObjectName(QStringLiteral("countPagesAction"));
+    file->addAction(tr("&Add Printer..."), this, &MainWindow::askForPrinter)
+        ->setObjectName(QStringLiteral("addPrinterAction"));
     file->addAction(tr("P&references..."), this, &MainWindow::openPreferences);
     file->addSeparator();
     file->addAction(tr("&Quit"), QKeySequence::Quit, this, &QWidget::close);
@@ -101,34 +118,20 @@ void MainWindow::createMenus()
     for (QDockWidget* dock : docks) {
         view->addAction(dock->toggleViewAction());
     }
+    view->addSeparator();
+    addUnitAction(*view);
     QMenu* help = menuBar()->addMenu(tr("&Help"));
     help->addAction(tr("&About Sample Host"), this, &MainWindow::showAbout);
 }
 
-void MainWindow::connectPanel(PrintPage& page)
+void MainWindow::addUnitAction(QMenu& menu)
 {
-    PrintWidget* panel = &page.panel();
-    connect(panel, &PrintWidget::openPreferencesSignal, this, &MainWindow::openPreferences);
-    connect(panel, &PrintWidget::testPrintError, this, &MainWindow::showPrintError);
-    connect(panel, &PrintWidget::currentPrinterSelectionChanged, this,
-            [this, panel] { m_printers.showState(*panel); });
-    // Printers come and go while the panel is out of sight.
-    connect(panel, &PrintWidget::printWidgetShowSignal, this,
-            [this, panel] { m_printers.fill(*panel); });
-}
-
-void MainWindow::connectController(PrintPage& page)
-{
-    PrintController* controller = &page.controller();
-    connect(controller, &PrintController::refused, this, &MainWindow::showError);
-    connect(controller, &PrintController::jobStarted, this, &MainWindow::showJob);
-    connect(controller, &PrintController::jobEnded, this, &MainWindow::showOutcome);
-    connect(controller, &PrintController::previewRequested, this,
-            [this](const PagePlan& plan, const SheetGeometry& sheet, const LabelPainter& paint) {
-                auto* window = new PreviewWindow(plan, sheet, paint, this);
-                window->setAttribute(Qt::WA_DeleteOnClose);
-                window->show();
-            });
+    QAction* metric = menu.addAction(tr("Sizes in &Millimeters"));
+    metric->setObjectName(QStringLiteral("metricAction"));
+    metric->setCheckable(true);
+    connect(metric, &QAction::toggled, &m_settings, &HostSettings::setMetric);
+    connect(&m_settings, &HostSettings::changed, metric,
+            [this, metric] { metric->setChecked(m_settings.isMetric()); });
 }
 
 PrintPage& MainWindow::currentPage() const
@@ -139,33 +142,49 @@ PrintPage& MainWindow::currentPage() const
     return *m_labelPage;
 }
 
-void MainWindow::setCurrentPage(PrintPage& page)
+void MainWindow::setCurrentPage(QWidget& page)
 {
     m_pages->setCurrentWidget(&page);
 }
 
 void MainWindow::growToPanel()
 {
-    const int missing = currentPage().fullHeight() - currentPage().height();
+    const QWidget* page = m_pages->currentWidget();
+    const int fullHeight =
+        page == m_catalogPage ? m_catalogPage->fullHeight() : currentPage().fullHeight();
+    const int missing = fullHeight - page->height();
     resize(width(), height() + std::max(0, missing));
 }
 
 void MainWindow::clickPanelButton(const QString& name)
 {
+    if (m_pages->currentWidget() == m_pdfPage) {
+        m_pdfPage->showPrintWindow();
+        return;
+    }
+    if (m_pages->currentWidget() == m_catalogPage) {
+        m_catalogPage->print();
+        return;
+    }
     if (auto* button = currentPage().panel().findChild<QAbstractButton*>(name)) {
         button->click();
     }
 }
 
-void MainWindow::refreshPrinterStates()
+void MainWindow::countPages()
 {
-    m_printers.showState(m_labelPage->panel());
-    m_printers.showState(m_pipePage->panel());
+    const auto* page = qobject_cast<const PrintPage*>(m_pages->currentWidget());
+    if (page == nullptr) {
+        return;
+    }
+    const qint64 pages = page->pageCount();
+    statusBar()->showMessage(pages == 1 ? tr("1 page would be printed.")
+                                        : tr("%1 pages would be printed.").arg(pages));
 }
 
 void MainWindow::openPreferences()
 {
-    auto* dialog = new PreferencesDialog(m_settings, this);
+    auto* dialog = new PreferencesDialog(m_settings, front());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
 }
@@ -173,7 +192,7 @@ void MainWindow::openPreferences()
 void MainWindow::showJob(PrintJob* job)
 {
     statusBar()->showMessage(tr("Printing to %1").arg(job->targetDescription()));
-    new PrintProgressDialog(*job, this);
+    new PrintProgressDialog(*job, front());
 }
 
 void MainWindow::showOutcome(PrintJob::Outcome outcome, const QString& message)
@@ -188,7 +207,7 @@ void MainWindow::showOutcome(PrintJob::Outcome outcome, const QString& message)
 void MainWindow::showError(const QString& message)
 {
     statusBar()->showMessage(message);
-    showMessage(this, tr("Printing"), message);
+    showMessage(front(), tr("Printing"), message);
 }
 
 void MainWindow::showPrintError(int number)

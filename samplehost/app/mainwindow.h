@@ -8,12 +8,15 @@
 
 #include <QtWidgets/QMainWindow>
 
+class QMenu;
 class QTabWidget;
 
 namespace SampleHost {
 
+class CatalogPage;
 class EventLog;
 class LabelPage;
+class PdfPage;
 class PipePage;
 class PrintPage;
 class SupplySimulator;
@@ -24,6 +27,8 @@ struct HostOptions
     DataSourceOptions dataSource;
     /** Whether the panels have print-to-file and error-test controls. */
     bool testControls = false;
+    /** The PDF document to open at once; empty for none. */
+    QString document;
 };
 
 /** The window of the sample host: its pages, the simulated printer and the event log. */
@@ -43,6 +48,8 @@ public:
     HostSettings& settings() { return m_settings; }
     LabelPage& labelPage() const { return *m_labelPage; }
     PipePage& pipePage() const { return *m_pipePage; }
+    CatalogPage& catalogPage() const { return *m_catalogPage; }
+    PdfPage& pdfPage() const { return *m_pdfPage; }
     SupplySimulator& supply() const { return *m_supply; }
     EventLog& eventLog() const { return *m_log; }
 
@@ -50,7 +57,7 @@ public:
     PrintPage& currentPage() const;
 
     /** Brings a page of this window to the front. */
-    void setCurrentPage(PrintPage& page);
+    void setCurrentPage(QWidget& page);
 
     /** Makes the window high enough for the whole panel of the current page. */
     void growToPanel();
@@ -59,15 +66,28 @@ private:
     void createPages(const HostOptions& options);
     void createDocks();
     void createMenus();
+    void addUnitAction(QMenu& menu);
     void addPage(PrintPage* page, const QString& title, const QString& logName);
     void connectPanel(PrintPage& page);
-    void connectController(PrintPage& page);
+    template <typename Controller>
+    void connectJobs(Controller& controller)
+    {
+        connect(&controller, &Controller::refused, this, &MainWindow::showError);
+        connect(&controller, &Controller::jobStarted, this, &MainWindow::showJob);
+        connect(&controller, &Controller::jobEnded, this, &MainWindow::showOutcome);
+    }
+    void addCatalogPage();
+    void addDocumentPage(const QString& document);
     void clickPanelButton(const QString& name);
     void refreshPrinterStates();
+    void askForPrinter();
+    void addPrinter(const QString& name);
+    void countPages();
     void openPreferences();
     void showJob(PrintJob* job);
     void showOutcome(PrintJob::Outcome outcome, const QString& message);
     void showError(const QString& message);
+    QWidget* front();
     void showPrintError(int number);
     void showAbout();
 
@@ -77,6 +97,8 @@ private:
     QTabWidget* m_pages = nullptr;
     LabelPage* m_labelPage = nullptr;
     PipePage* m_pipePage = nullptr;
+    CatalogPage* m_catalogPage = nullptr;
+    PdfPage* m_pdfPage = nullptr;
     SupplySimulator* m_supply = nullptr;
     EventLog* m_log = nullptr;
 };

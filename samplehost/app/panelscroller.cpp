@@ -1,13 +1,11 @@
 #include "samplehost/app/panelscroller.h"
 
-#include <printpanels/printwidget.h>
-
 #include <QtCore/QEvent>
 #include <QtWidgets/QScrollBar>
 
 namespace SampleHost {
 
-PanelScroller::PanelScroller(PrintWidget* panel, QWidget* parent) : QScrollArea(parent)
+PanelScroller::PanelScroller(QWidget* panel, QWidget* parent) : QScrollArea(parent)
 {
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -3,8 +3,6 @@
 
 #include <QtWidgets/QScrollArea>
 
-class PrintWidget;
-
 namespace SampleHost {
 
 /**
@@ -17,7 +15,7 @@ class PanelScroller : public QScrollArea
 
 public:
     /** Takes ownership of the panel. */
-    explicit PanelScroller(PrintWidget* panel, QWidget* parent = nullptr);
+    explicit PanelScroller(QWidget* panel, QWidget* parent = nullptr);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -52,13 +52,14 @@ QSizeF PipeDesign::labelSizeMm(const PrintRequest& request) const
     if (index < 0 || index >= recordCount()) {
         return {};
     }
-    return pipeMarkerSizeMm(pipeMarkers().at(index), request.ammoniaItem);
+    const QSizeF size = pipeMarkerSizeMm(pipeMarkers().at(index), request.ammoniaItem);
+    return request.labelTurned ? size.transposed() : size;
 }
 
 LabelPainter PipeDesign::painter(const PrintRequest& request) const
 {
-    return [item = request.ammoniaItem](QPainter& painter, const QRectF& area, int record,
-                                        QString& problem) {
+    LabelPainter upright = [item = request.ammoniaItem](QPainter& painter, const QRectF& area,
+                                                        int record, QString& problem) {
         if (record < 1 || record > pipeMarkers().size()) {
             problem = tr("There is no pipe marker %1.").arg(record);
             return false;
@@ -66,6 +67,7 @@ LabelPainter PipeDesign::painter(const PrintRequest& request) const
         paintPipeMarker(painter, area, pipeMarkers().at(record - 1), item);
         return true;
     };
+    return request.labelTurned ? turnedPainter(upright) : upright;
 }
 
 } // namespace SampleHost

@@ -19,7 +19,7 @@ public:
     ~PipeDesign() override;
 
     /** The selected marker, 0-based. */
-    int currentIndex() const { return m_currentIndex; }
+    int currentIndex() const override { return m_currentIndex; }
     /** Selects a marker; an index without a marker changes nothing. */
     void setCurrentIndex(int index);
     /** The selected marker. */
@@ -33,6 +33,7 @@ public:
     QString title() const override;
     int recordCount() const override;
     void complete(PrintRequest& request) const override;
+    bool hasDesignSize() const override { return false; }
     QSizeF labelSizeMm(const PrintRequest& request) const override;
     LabelPainter painter(const PrintRequest& request) const override;
 

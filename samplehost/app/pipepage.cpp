@@ -16,6 +16,8 @@ PipePage::PipePage(const HostSettings& settings, bool testControls, QWidget* par
 {
     setUp(createContents(), m_design, settings);
     panel().setModule(JxModuleInfo::PipeMarking);
+    // The names of the tags, before the first marker with tags needs them.
+    panel().createAmmoniaComboList();
     connect(m_markers, &QListWidget::currentRowChanged, this, &PipePage::showMarker);
     connect(&panel(), &PrintWidget::ammoniaPrintTagChanged, this, &PipePage::showItem);
     panel().enableAllButtons();

@@ -17,6 +17,12 @@
 
 namespace SampleHost {
 
+namespace {
+
+constexpr int metricIndex = 1;
+
+} // namespace
+
 PreferencesDialog::PreferencesDialog(HostSettings& settings, QWidget* parent)
     : QDialog(parent), m_settings(settings)
 {
@@ -27,6 +33,7 @@ PreferencesDialog::PreferencesDialog(HostSettings& settings, QWidget* parent)
     m_fileEdit->setText(settings.outputFileName());
     m_paperCombo->setCurrentIndex(m_paperCombo->findData(int(settings.paper())));
     m_nupCombo->setLayoutChoice(settings.nup());
+    m_unitCombo->setCurrentIndex(settings.isMetric() ? metricIndex : 0);
     connect(m_folderEdit, &QLineEdit::textChanged, this, &PreferencesDialog::checkEntries);
     connect(m_fileEdit, &QLineEdit::textChanged, this, &PreferencesDialog::checkEntries);
     connect(m_buttons, &QDialogButtonBox::accepted, this, &PreferencesDialog::accept);
@@ -51,6 +58,10 @@ void PreferencesDialog::createWidgets()
     m_nupCombo = new NupCombo;
     m_nupCombo->setObjectName(QStringLiteral("preferencesNupCombo"));
     form->addRow(tr("Sheet:"), m_nupCombo);
+    m_unitCombo = new QComboBox;
+    m_unitCombo->setObjectName(QStringLiteral("preferencesUnitCombo"));
+    m_unitCombo->addItems({tr("Inches"), tr("Millimeters")});
+    form->addRow(tr("Sizes in:"), m_unitCombo);
 
     m_problemLabel = new QLabel;
     m_problemLabel->setObjectName(QStringLiteral("problemLabel"));
@@ -107,6 +118,7 @@ void PreferencesDialog::accept()
         m_settings.setOutputFileName(m_fileEdit->text());
         m_settings.setPaper(Paper(m_paperCombo->currentData().toInt()));
         m_settings.setNup(m_nupCombo->layoutChoice());
+        m_settings.setMetric(m_unitCombo->currentIndex() == metricIndex);
         QDialog::accept();
     }
 }

@@ -14,7 +14,10 @@ namespace SampleHost {
 class HostSettings;
 class NupCombo;
 
-/** Lets the user change the settings: where files go, on what paper, how many labels on a sheet. */
+/**
+ * Lets the user change the settings: where files go, on what paper, how many labels on a sheet, in
+ * which unit sizes are shown.
+ */
 class PreferencesDialog : public QDialog
 {
     Q_OBJECT
@@ -37,6 +40,7 @@ private:
     QLineEdit* m_fileEdit = nullptr;
     QComboBox* m_paperCombo = nullptr;
     NupCombo* m_nupCombo = nullptr;
+    QComboBox* m_unitCombo = nullptr;
     QLabel* m_problemLabel = nullptr;
     QDialogButtonBox* m_buttons = nullptr;
 };

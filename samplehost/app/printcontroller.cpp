@@ -1,9 +1,11 @@
 #include "samplehost/app/printcontroller.h"
 
 #include "samplehost/app/hostsettings.h"
+#include "samplehost/app/joboutcome.h"
 #include "samplehost/app/labeldesign.h"
 #include "samplehost/app/printerdirectory.h"
 #include "samplehost/app/printtofile.h"
+#include "samplehost/app/requestsheet.h"
 
 #include <printpanels/printwidget.h>
 
@@ -11,12 +13,22 @@
 
 namespace SampleHost {
 
-PrintController::PrintController(PrintWidget& panel, const LabelDesign& design,
+namespace {
+
+// What a panel shows in place of printers when it has none.
+const QString noPrinter = QStringLiteral("No printer");
+
+} // namespace
+
+PrintController::PrintController(PrintWidgetInterface& panel, const LabelDesign& design,
                                  const HostSettings& settings, QObject* parent)
     : QObject(parent), m_panel(panel), m_design(design), m_settings(settings)
 {
-    connect(&panel, &PrintWidget::widgetPrintSignal, this, &PrintController::print);
-    connect(&panel, &PrintWidget::printPreviewSignal, this, &PrintController::preview);
+    using Panel = PrintWidgetInterface;
+    connect(&panel, &Panel::widgetPrintSignal, this, &PrintController::print);
+    connect(&panel, &Panel::printPreviewSignal, this, &PrintController::preview);
+    connect(&panel, &Panel::currentPrinterSelectionChanged, this,
+            &PrintController::readinessChanged);
 }
 
 PrintController::~PrintController() = default;
@@ -31,15 +43,25 @@ PrintRequest PrintController::request(int sequenceStart, int sequenceEnd,
     request.copies = m_panel.getNumberOfCopies();
     request.nup = m_settings.nup();
     request.nupMode = m_panel.getNupSeqRepOption() ? NupMode::Sequencing : NupMode::Replicating;
-    request.userBackground = m_panel.getPrintUserBackground();
+    if (const auto* panel = qobject_cast<const PrintWidget*>(&m_panel)) {
+        request.userBackground = panel->getPrintUserBackground();
+    }
+    request.paperMm = paperSizeMm(m_settings.paper());
     m_design.complete(request);
     return request;
 }
 
-SheetGeometry PrintController::sheet(const PrintRequest& request) const
+QString PrintController::selectedPrinter() const
 {
-    return SheetGeometry(m_design.labelSizeMm(request), request.nup,
-                         paperSizeMm(m_settings.paper()));
+    // A panel without a list of printers prints to the one that the host uses.
+    const QString printer = m_panel.getSelectedPrinter();
+    return printer.isEmpty() ? m_settings.printer() : printer;
+}
+
+bool PrintController::isReady() const
+{
+    const QString printer = selectedPrinter();
+    return !isPrinting() && !printer.isEmpty() && printer != noPrinter;
 }
 
 bool PrintController::makePlan(const PrintRequest& request, PagePlan& plan)
@@ -68,18 +90,26 @@ void PrintController::preview(int sequenceStart, int sequenceEnd, const QString&
     const PrintRequest wanted = request(sequenceStart, sequenceEnd, customRecordsList);
     PagePlan plan;
     if (makePlan(wanted, plan)) {
-        Q_EMIT previewRequested(plan, sheet(wanted), m_design.painter(wanted));
+        Q_EMIT previewRequested(wanted);
     }
 }
 
 void PrintController::print(int sequenceStart, int sequenceEnd, const QString& customRecordsList)
 {
-    if (isPrinting()) {
-        return;
-    }
-    const PrintRequest wanted = request(sequenceStart, sequenceEnd, customRecordsList);
+    printRequest(request(sequenceStart, sequenceEnd, customRecordsList));
+}
+
+void PrintController::printAgain(const PrintRequest& request)
+{
+    PrintRequest again = request;
+    again.copies = m_panel.getNumberOfCopies();
+    printRequest(again);
+}
+
+void PrintController::printRequest(const PrintRequest& request)
+{
     PagePlan plan;
-    if (!makePlan(wanted, plan)) {
+    if (isPrinting() || !makePlan(request, plan)) {
         return;
     }
     QString problem;
@@ -88,7 +118,7 @@ void PrintController::print(int sequenceStart, int sequenceEnd, const QString& c
         Q_EMIT jobEnded(PrintJob::Outcome::Failed, problem);
         return;
     }
-    startJob(wanted, plan, std::move(target));
+    startJob(request, plan, std::move(target));
 }
 
 std::unique_ptr<PrintTarget> PrintController::makeTarget(QString& problem) const
@@ -98,7 +128,7 @@ std::unique_ptr<PrintTarget> PrintController::makeTarget(QString& problem) const
         const QString path = nextPrintTestFile(m_settings.outputFolder(), problem);
         return path.isEmpty() ? nullptr : std::make_unique<PdfTarget>(path, title);
     }
-    const QString printer = m_panel.getSelectedPrinter();
+    const QString printer = selectedPrinter();
     if (printer == PrinterDirectory::pdfFileName()) {
         return std::make_unique<PdfTarget>(m_settings.outputPath(), title);
     }
@@ -108,34 +138,23 @@ std::unique_ptr<PrintTarget> PrintController::makeTarget(QString& problem) const
 void PrintController::startJob(const PrintRequest& request, const PagePlan& plan,
                                std::unique_ptr<PrintTarget> target)
 {
-    m_job = new PrintJob(plan, sheet(request), m_design.painter(request), std::move(target), this);
+    m_job = new PrintJob(plan, sheetOf(m_design, request), m_design.painter(request),
+                         std::move(target), this);
     connect(m_job, &PrintJob::finished, this, &PrintController::endJob);
     m_panel.disablePrintButtons();
+    Q_EMIT readinessChanged();
     Q_EMIT jobStarted(m_job);
     m_job->start();
 }
 
 void PrintController::endJob(PrintJob::Outcome outcome, const QString& message)
 {
-    const QString target = m_job->targetDescription();
-    const qint64 pages = m_job->pageCount();
+    const QString text = jobOutcomeText(*m_job, outcome, message);
     m_job->deleteLater();
     m_job = nullptr;
     m_panel.enablePrintButtons();
-    switch (outcome) {
-    case PrintJob::Outcome::Completed:
-        Q_EMIT jobEnded(
-            outcome, pages == 1 ? tr("Printed 1 page to %1").arg(target)
-                                : tr("Printed %1 pages to %2").arg(QString::number(pages), target));
-        break;
-    case PrintJob::Outcome::Cancelled:
-        Q_EMIT jobEnded(outcome,
-                        (tr("Printing was cancelled.") + QLatin1Char(' ') + message).trimmed());
-        break;
-    case PrintJob::Outcome::Failed:
-        Q_EMIT jobEnded(outcome, message);
-        break;
-    }
+    Q_EMIT readinessChanged();
+    Q_EMIT jobEnded(outcome, text);
 }
 
 } // namespace SampleHost

@@ -7,7 +7,7 @@
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
 
-class PrintWidget;
+class PrintWidgetInterface;
 
 namespace SampleHost {
 
@@ -21,8 +21,8 @@ class PrintController : public QObject
 
 public:
     /** Answers a panel's requests with a design's labels. All three must outlive the controller. */
-    PrintController(PrintWidget& panel, const LabelDesign& design, const HostSettings& settings,
-                    QObject* parent = nullptr);
+    PrintController(PrintWidgetInterface& panel, const LabelDesign& design,
+                    const HostSettings& settings, QObject* parent = nullptr);
     /** A job that is still running is given up. */
     ~PrintController() override;
 
@@ -32,12 +32,18 @@ public:
     /** The running job, or null. */
     PrintJob* job() const { return m_job; }
 
+    /** Whether a request would be taken: there is a printer, and no job is running. */
+    bool isReady() const;
+
     /**
      * Completes what a panel asks for (1-based numbers, as its signals carry them) with its other
-     * choices: copies, N-up, background.
+     * choices: copies, N-up, background, and with the paper of the settings.
      */
     PrintRequest request(int sequenceStart, int sequenceEnd,
                          const QString& customRecordsList) const;
+
+    /** Prints a request as it is, but with the copies that the panel shows now. */
+    void printAgain(const PrintRequest& request);
 
 Q_SIGNALS:
     /** A request names nothing that could be printed or previewed; reason says why. */
@@ -46,21 +52,23 @@ Q_SIGNALS:
     void jobStarted(SampleHost::PrintJob* job);
     /** The job ended; message says how, in words for the user. */
     void jobEnded(SampleHost::PrintJob::Outcome outcome, const QString& message);
-    /** The user wants to see the pages of a request. */
-    void previewRequested(const SampleHost::PagePlan& plan, const SampleHost::SheetGeometry& sheet,
-                          const SampleHost::LabelPainter& paintLabel);
+    /** The user wants to see a request that has at least one page. */
+    void previewRequested(const SampleHost::PrintRequest& request);
+    /** isReady() may have changed. */
+    void readinessChanged();
 
 private:
     void print(int sequenceStart, int sequenceEnd, const QString& customRecordsList);
     void preview(int sequenceStart, int sequenceEnd, const QString& customRecordsList);
+    void printRequest(const PrintRequest& request);
     bool makePlan(const PrintRequest& request, PagePlan& plan);
-    SheetGeometry sheet(const PrintRequest& request) const;
+    QString selectedPrinter() const;
     std::unique_ptr<PrintTarget> makeTarget(QString& problem) const;
     void startJob(const PrintRequest& request, const PagePlan& plan,
                   std::unique_ptr<PrintTarget> target);
     void endJob(PrintJob::Outcome outcome, const QString& message);
 
-    PrintWidget& m_panel;
+    PrintWidgetInterface& m_panel;
     const LabelDesign& m_design;
     const HostSettings& m_settings;
     QPointer<PrintJob> m_job;

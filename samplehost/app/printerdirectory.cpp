@@ -2,7 +2,7 @@
 
 #include "samplehost/app/hostsettings.h"
 
-#include <printpanels/printwidget.h>
+#include <printpanels/printwidgetinterface.h>
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -21,7 +21,19 @@ QString PrinterDirectory::pdfFileName()
 
 QStringList PrinterDirectory::names() const
 {
-    return QStringList{pdfFileName()} + QPrinterInfo::availablePrinterNames();
+    QStringList all = QStringList{pdfFileName()} + QPrinterInfo::availablePrinterNames() + m_added;
+    // The system may have come to know one by itself.
+    all.removeDuplicates();
+    return all;
+}
+
+bool PrinterDirectory::add(const QString& name)
+{
+    if (name.isEmpty() || names().contains(name)) {
+        return false;
+    }
+    m_added.append(name);
+    return true;
 }
 
 PrinterState PrinterDirectory::state(const QString& name) const
@@ -53,7 +65,7 @@ PrinterState PrinterDirectory::pdfFileState() const
     return state;
 }
 
-void PrinterDirectory::fill(PrintWidget& panel) const
+void PrinterDirectory::fill(PrintWidgetInterface& panel) const
 {
     const QStringList printers = names();
     const qsizetype before = printers.indexOf(panel.getSelectedPrinter());
@@ -61,7 +73,7 @@ void PrinterDirectory::fill(PrintWidget& panel) const
     showState(panel);
 }
 
-void PrinterDirectory::showState(PrintWidget& panel) const
+void PrinterDirectory::showState(PrintWidgetInterface& panel) const
 {
     const PrinterState current = state(panel.getSelectedPrinter());
     panel.updatePrinterLocation(current.location);

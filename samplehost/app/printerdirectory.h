@@ -5,7 +5,7 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
-class PrintWidget;
+class PrintWidgetInterface;
 
 namespace SampleHost {
 
@@ -36,21 +36,28 @@ public:
     QStringList names() const;
 
     /**
+     * Adds a printer that the system does not list, as one in another network. An empty name, or
+     * one that is there already, is not added and answers false.
+     */
+    bool add(const QString& name);
+
+    /**
      * The state of an entry, asked anew each time. A system printer that has gone is offline and
      * unavailable; so is the PDF file while its folder cannot be written to.
      */
     PrinterState state(const QString& name) const;
 
     /** Fills a panel with all printers; the one it had stays selected, else the PDF file is. */
-    void fill(PrintWidget& panel) const;
+    void fill(PrintWidgetInterface& panel) const;
 
     /** Shows location and status of the panel's selected printer in the panel. */
-    void showState(PrintWidget& panel) const;
+    void showState(PrintWidgetInterface& panel) const;
 
 private:
     PrinterState pdfFileState() const;
 
     const HostSettings& m_settings;
+    QStringList m_added;
 };
 
 } // namespace SampleHost

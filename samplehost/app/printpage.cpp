@@ -1,7 +1,10 @@
 #include "samplehost/app/printpage.h"
 
+#include "samplehost/app/labeldesign.h"
+#include "samplehost/app/labelpreview.h"
 #include "samplehost/app/panelscroller.h"
 #include "samplehost/app/printcontroller.h"
+#include "samplehost/print/pageplan.h"
 
 #include <printpanels/printwidget.h>
 
@@ -19,6 +22,7 @@ PrintPage::PrintPage(bool testControls, QWidget* parent)
 void PrintPage::setUp(QWidget* contents, const LabelDesign& design, const HostSettings& settings)
 {
     m_controller = new PrintController(*m_panel, design, settings, this);
+    m_preview = new LabelPreview(*m_controller, design, settings, *this);
     auto* border = new QFrame;
     border->setFrameShape(QFrame::VLine);
     border->setForegroundRole(QPalette::Mid);
@@ -28,6 +32,17 @@ void PrintPage::setUp(QWidget* contents, const LabelDesign& design, const HostSe
     row->addWidget(contents, 1);
     row->addWidget(border);
     row->addWidget(m_scroller);
+}
+
+qint64 PrintPage::pageCount() const
+{
+    int sequenceStart = design().currentIndex() + 1;
+    int sequenceEnd = -1;
+    QString customRecordsList;
+    m_panel->whatToPrint(sequenceStart, sequenceEnd, customRecordsList);
+    const PrintRequest request =
+        m_controller->request(sequenceStart, sequenceEnd, customRecordsList);
+    return PagePlan::make(request, design().recordCount()).pageCount();
 }
 
 int PrintPage::fullHeight() const

@@ -9,6 +9,7 @@ namespace SampleHost {
 
 class HostSettings;
 class LabelDesign;
+class LabelPreview;
 class PanelScroller;
 class PrintController;
 
@@ -23,6 +24,12 @@ public:
 
     /** Carries out what the panel asks for. */
     PrintController& controller() const { return *m_controller; }
+
+    /** Shows what the panel is about to print. */
+    LabelPreview& preview() const { return *m_preview; }
+
+    /** How many pages Print would print now; 0 when the panel's choice names nothing. */
+    qint64 pageCount() const;
 
     /** The height at which the whole panel is seen. */
     int fullHeight() const;
@@ -41,6 +48,7 @@ private:
     PrintWidget* m_panel = nullptr;
     PanelScroller* m_scroller = nullptr;
     PrintController* m_controller = nullptr;
+    LabelPreview* m_preview = nullptr;
 };
 
 } // namespace SampleHost

@@ -47,9 +47,9 @@ QIcon arrowIcon(bool toRight, bool toEnd)
 
 } // namespace
 
-RecordNavigator::RecordNavigator(QWidget* parent) : QWidget(parent)
+RecordNavigator::RecordNavigator(Items items, QWidget* parent) : QWidget(parent)
 {
-    createWidgets();
+    createWidgets(items);
     connect(m_firstButton, &QToolButton::clicked, this, [this] { setCurrentIndex(0); });
     connect(m_previousButton, &QToolButton::clicked, this,
             [this] { setCurrentIndex(m_index - 1); });
@@ -60,16 +60,17 @@ RecordNavigator::RecordNavigator(QWidget* parent) : QWidget(parent)
     showPosition();
 }
 
-void RecordNavigator::createWidgets()
+void RecordNavigator::createWidgets(Items items)
 {
+    const bool pages = items == Items::Pages;
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(6);
     row->addStretch(1);
-    m_firstButton =
-        addButton(QStringLiteral("firstRecordButton"), arrowIcon(false, true), tr("First record"));
+    m_firstButton = addButton(QStringLiteral("firstRecordButton"), arrowIcon(false, true),
+                              pages ? tr("First page") : tr("First record"));
     m_previousButton = addButton(QStringLiteral("previousRecordButton"), arrowIcon(false, false),
-                                 tr("Previous record"));
+                                 pages ? tr("Previous page") : tr("Previous record"));
     m_numberBox = new QSpinBox;
     m_numberBox->setObjectName(QStringLiteral("recordNumberBox"));
     m_numberBox->setButtonSymbols(QAbstractSpinBox::NoButtons);
@@ -80,10 +81,10 @@ void RecordNavigator::createWidgets()
     m_countLabel = new QLabel;
     m_countLabel->setObjectName(QStringLiteral("recordCountLabel"));
     row->addWidget(m_countLabel);
-    m_nextButton =
-        addButton(QStringLiteral("nextRecordButton"), arrowIcon(true, false), tr("Next record"));
-    m_lastButton =
-        addButton(QStringLiteral("lastRecordButton"), arrowIcon(true, true), tr("Last record"));
+    m_nextButton = addButton(QStringLiteral("nextRecordButton"), arrowIcon(true, false),
+                             pages ? tr("Next page") : tr("Next record"));
+    m_lastButton = addButton(QStringLiteral("lastRecordButton"), arrowIcon(true, true),
+                             pages ? tr("Last page") : tr("Last record"));
     row->addStretch(1);
 }
 

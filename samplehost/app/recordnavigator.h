@@ -10,14 +10,17 @@ class QToolButton;
 
 namespace SampleHost {
 
-/** Buttons to the first, previous, next and last record, and the number of the current one. */
+/** Buttons to the first, previous, next and last record or page, and the current one's number. */
 class RecordNavigator : public QWidget
 {
     Q_OBJECT
 
 public:
+    /** What is walked through, for the words on the buttons. */
+    enum class Items { Records, Pages };
+
     /** A navigator without records, disabled. */
-    explicit RecordNavigator(QWidget* parent = nullptr);
+    explicit RecordNavigator(Items items = Items::Records, QWidget* parent = nullptr);
 
     /**
      * Sets the number of records, and the current one to the nearest that exists. The navigator is
@@ -41,7 +44,7 @@ Q_SIGNALS:
 
 private:
     QToolButton* addButton(const QString& name, const QIcon& icon, const QString& toolTip);
-    void createWidgets();
+    void createWidgets(Items items);
     void showPosition();
 
     QToolButton* m_firstButton = nullptr;

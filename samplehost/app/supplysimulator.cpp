@@ -1,5 +1,6 @@
 #include "samplehost/app/supplysimulator.h"
 
+#include "samplehost/app/laminator.h"
 #include "samplehost/app/supplypalettes.h"
 
 #include <printpanels/printwidget.h>
@@ -10,6 +11,8 @@
 #include <QtWidgets/QDoubleSpinBox>
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
 
 namespace SampleHost {
 
@@ -58,6 +61,10 @@ void SupplySimulator::createWidgets()
     addWidthRow(form);
     m_ladderCheck = addCheck(form, QStringLiteral("ladderCheck"), tr("Can hold 0.2\" ladder tube"));
     m_paletteCheck = addCheck(form, QStringLiteral("paletteCheck"), tr("Safety colours only"));
+    m_useLabel = new QLabel(tr("Tape"));
+    m_useLabel->setObjectName(QStringLiteral("useLabel"));
+    form->addRow(tr("Used as:"), m_useLabel);
+    addLaminatorRow(form);
 }
 
 QComboBox* SupplySimulator::addColorCombo(QFormLayout* form, const QString& label,
@@ -97,9 +104,38 @@ void SupplySimulator::addWidthRow(QFormLayout* form)
     form->addRow(tr("Width:"), row);
 }
 
+void SupplySimulator::addLaminatorRow(QFormLayout* form)
+{
+    m_laminator = new Laminator(this);
+    m_laminatorButton = new QPushButton(tr("Fit Laminator"));
+    m_laminatorButton->setObjectName(QStringLiteral("laminatorButton"));
+    m_laminatorButton->setToolTip(tr("Adds the colour of the film to the panels"));
+    form->addRow(m_laminatorButton);
+    connect(m_laminatorButton, &QPushButton::clicked, this, &SupplySimulator::fitLaminator);
+}
+
+void SupplySimulator::fitLaminator()
+{
+    m_laminatorButton->setEnabled(false);
+    for (const QPointer<PrintWidget>& panel : std::as_const(m_panels)) {
+        if (panel) {
+            m_laminator->fit(*panel);
+        }
+    }
+}
+
+void SupplySimulator::showUse(const PrintWidget& panel)
+{
+    m_useLabel->setText(panel.isTinySupply() ? tr("Ladder shrink tube") : tr("Tape"));
+}
+
 void SupplySimulator::connectPanel(PrintWidget& panel)
 {
     m_panels.append(&panel);
+    // Built at the start, so that the first report of the printer is shown without a delay.
+    panel.createSupplyInfoLayout();
+    connect(&panel, &PrintWidget::tinyLadderSupplyChangedSignal, this,
+            [this, &panel] { showUse(panel); });
     connect(&panel, &PrintWidget::supplyColorsChangedSignal, this,
             [this, &panel](const QStringList& reported) { takeColors(reported, &panel); });
     connect(&panel, &PrintWidget::supplyWidthChangedSignal, this,
@@ -155,6 +191,7 @@ void SupplySimulator::reportTo(PrintWidget& panel) const
         panel.hideSupplyInfo();
         return;
     }
+    m_laminator->setTwoRibbons(report() == Report::TwoRibbons);
     const unsigned char metric = isMetric() ? 1 : 0;
     panel.showSupplyInfo(colors(), report() == Report::TwoRibbons, width(), metric,
                          m_ladderCheck->isChecked());

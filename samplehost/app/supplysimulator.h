@@ -10,10 +10,14 @@ class QCheckBox;
 class QComboBox;
 class QDoubleSpinBox;
 class QFormLayout;
+class QLabel;
+class QPushButton;
 
 class PrintWidget;
 
 namespace SampleHost {
+
+class Laminator;
 
 /**
  * Plays a label printer that reports what is loaded in it. Every change is reported to all
@@ -55,6 +59,9 @@ private:
                              const QString& clearName, int colorIndex);
     QCheckBox* addCheck(QFormLayout* form, const QString& name, const QString& text);
     void addWidthRow(QFormLayout* form);
+    void addLaminatorRow(QFormLayout* form);
+    void fitLaminator();
+    void showUse(const PrintWidget& panel);
     void reportToAll(const PrintWidget* except = nullptr);
     void reportTo(PrintWidget& panel) const;
     void offerPalettes();
@@ -72,6 +79,9 @@ private:
     QComboBox* m_unitCombo = nullptr;
     QCheckBox* m_ladderCheck = nullptr;
     QCheckBox* m_paletteCheck = nullptr;
+    QLabel* m_useLabel = nullptr;
+    QPushButton* m_laminatorButton = nullptr;
+    Laminator* m_laminator = nullptr;
 };
 
 } // namespace SampleHost

@@ -1,36 +1,22 @@
 #ifndef SAMPLEHOST_PRINTJOB_H
 #define SAMPLEHOST_PRINTJOB_H
 
+#include "samplehost/print/labelpages.h"
 #include "samplehost/print/pageplan.h"
 #include "samplehost/print/printtarget.h"
+#include "samplehost/print/printwork.h"
 #include "samplehost/print/sheetgeometry.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QTimer>
-#include <QtGui/QPainter>
 
-#include <functional>
 #include <memory>
 
 namespace SampleHost {
 
 /**
- * Paints the label of one 1-based record into area, a rectangle in the painter's coordinates.
- * Returns false with the reason in problem when the record cannot be painted; the job then fails.
- */
-using LabelPainter =
-    std::function<bool(QPainter& painter, const QRectF& area, int record, QString& problem)>;
-
-/**
- * Paints the labels of one page where the sheet has them, on a painter whose coordinates are
- * dotsPerMm to the millimetre. False with the reason in problem as soon as a label fails.
- */
-bool paintPage(QPainter& painter, qreal dotsPerMm, const SheetGeometry& sheet,
-               const QList<int>& records, const LabelPainter& paintLabel, QString& problem);
-
-/**
- * Prints a page plan, some pages at a time between the events of the GUI thread, so that progress
- * is seen and cancel() heard. It runs once.
+ * Carries out print work, some pages at a time between the events of the GUI thread, so that
+ * progress is seen and cancel() heard. It runs once.
  */
 class PrintJob : public QObject
 {
@@ -45,7 +31,10 @@ public:
     };
     Q_ENUM(Outcome)
 
-    /** Prepares a job; nothing is opened before start(). */
+    /** Prepares a job; nothing is opened before start(). Null work fails with a reason. */
+    explicit PrintJob(std::unique_ptr<PrintWork> work, QObject* parent = nullptr);
+
+    /** Prepares a job that paints the labels of a plan on a target. */
     PrintJob(const PagePlan& plan, const SheetGeometry& sheet, LabelPainter paintLabel,
              std::unique_ptr<PrintTarget> target, QObject* parent = nullptr);
 
@@ -56,7 +45,7 @@ public:
     bool isRunning() const { return m_state == State::Running; }
 
     /** The number of pages that the job has to print. */
-    qint64 pageCount() const { return m_plan.pageCount(); }
+    qint64 pageCount() const { return m_work ? m_work->pageCount() : 0; }
 
     /** Where the output goes, as a text for the user. */
     QString targetDescription() const;
@@ -69,7 +58,7 @@ public Q_SLOTS:
     void cancel();
 
 Q_SIGNALS:
-    /** Some pages were painted: pagesDone of pageCount. */
+    /** Some pages were put on the target: pagesDone of pageCount. */
     void progressChanged(qint64 pagesDone, qint64 pageCount);
 
     /**
@@ -82,21 +71,16 @@ private:
     enum class State { Ready, Running, Ended };
 
     void runSlice();
-    bool openTarget(QString& problem);
-    bool paintNextPage(QString& problem);
+    bool openWork(QString& problem);
     void complete();
-    bool closeUnfinished();
+    bool giveUp();
     void fail(const QString& problem);
     void end(Outcome outcome, const QString& message);
 
-    PagePlan m_plan;
-    SheetGeometry m_sheet;
-    LabelPainter m_paintLabel;
-    std::unique_ptr<PrintTarget> m_target;
-    QPainter m_painter;
-    QPagedPaintDevice* m_device = nullptr;
+    std::unique_ptr<PrintWork> m_work;
     QTimer m_timer;
     qint64 m_pagesDone = 0;
+    bool m_opened = false;
     State m_state = State::Ready;
 };
 

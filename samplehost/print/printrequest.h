@@ -1,6 +1,7 @@
 #ifndef SAMPLEHOST_PRINTREQUEST_H
 #define SAMPLEHOST_PRINTREQUEST_H
 
+#include <QtCore/QSizeF>
 #include <QtCore/QString>
 #include <QtCore/QStringView>
 
@@ -62,6 +63,10 @@ struct PrintRequest
     bool userBackground = false;
     /** 0 for the label itself, else the bit of the ammonia tag that is printed in its place. */
     int ammoniaItem = 0;
+    /** The paper in millimetres; empty for a sheet as large as its labels. */
+    QSizeF paperMm;
+    /** Whether each label is turned, so that it is as wide as it was designed high. */
+    bool labelTurned = false;
 };
 
 } // namespace SampleHost

@@ -1,9 +1,5 @@
 #include "samplehost/print/printtarget.h"
 
-#include "samplehost/print/checkedsavefile.h"
-
-#include <QtCore/QDir>
-#include <QtCore/QFileInfo>
 #include <QtGui/QPageLayout>
 #include <QtGui/QPageSize>
 #include <QtGui/QPdfWriter>
@@ -24,7 +20,7 @@ void useSheet(QPagedPaintDevice& device, const QSizeF& sheetMm)
 
 PrintTarget::~PrintTarget() = default;
 
-PdfTarget::PdfTarget(const QString& path, const QString& title) : m_path(path), m_title(title) {}
+PdfTarget::PdfTarget(const QString& path, const QString& title) : m_file(path), m_title(title) {}
 
 PdfTarget::~PdfTarget()
 {
@@ -33,19 +29,11 @@ PdfTarget::~PdfTarget()
 
 QPagedPaintDevice* PdfTarget::open(const QSizeF& sheetMm, QString& problem)
 {
-    const QFileInfo folder(QFileInfo(m_path).absolutePath());
-    if (!folder.isDir()) {
-        problem = tr("The folder \"%1\" does not exist.")
-                      .arg(QDir::toNativeSeparators(folder.filePath()));
+    QIODevice* device = m_file.open(problem);
+    if (device == nullptr) {
         return nullptr;
     }
-    m_file = std::make_unique<CheckedSaveFile>(m_path);
-    if (!m_file->open(QIODevice::WriteOnly)) {
-        problem = failure();
-        m_file.reset();
-        return nullptr;
-    }
-    m_writer = std::make_unique<QPdfWriter>(m_file.get());
+    m_writer = std::make_unique<QPdfWriter>(device);
     m_writer->setTitle(m_title);
     m_writer->setCreator(QCoreApplication::applicationName());
     m_writer->setResolution(resolution);
@@ -53,33 +41,15 @@ QPagedPaintDevice* PdfTarget::open(const QSizeF& sheetMm, QString& problem)
     return m_writer.get();
 }
 
-QString PdfTarget::failure() const
-{
-    const QString reason = m_file ? m_file->failure() : tr("the file is not open");
-    return tr("The file \"%1\" cannot be written: %2.")
-        .arg(QDir::toNativeSeparators(m_path), reason);
-}
-
 bool PdfTarget::isHealthy(QString& problem)
 {
-    // Flushing shows a full disk at the page that met it instead of at the end of a long job.
-    if (m_file && m_file->flushChecked()) {
-        return true;
-    }
-    problem = failure();
-    return false;
+    return m_file.isHealthy(problem);
 }
 
 bool PdfTarget::commit(QString& problem)
 {
     m_writer.reset();
-    if (m_file && m_file->commitChecked()) {
-        m_file.reset();
-        return true;
-    }
-    problem = failure();
-    m_file.reset();
-    return false;
+    return m_file.commit(problem);
 }
 
 bool PdfTarget::abort()
@@ -90,15 +60,12 @@ bool PdfTarget::abort()
 void PdfTarget::discard()
 {
     m_writer.reset();
-    if (m_file) {
-        m_file->cancelWriting();
-        m_file.reset();
-    }
+    m_file.discard();
 }
 
 QString PdfTarget::description() const
 {
-    return QDir::toNativeSeparators(QFileInfo(m_path).absoluteFilePath());
+    return m_file.description();
 }
 
 PrinterTarget::PrinterTarget(const QString& printerName, const QString& title)

@@ -1,6 +1,8 @@
 #ifndef SAMPLEHOST_PRINTTARGET_H
 #define SAMPLEHOST_PRINTTARGET_H
 
+#include "samplehost/print/outputfile.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QSizeF>
 #include <QtCore/QString>
@@ -12,8 +14,6 @@ class QPdfWriter;
 class QPrinter;
 
 namespace SampleHost {
-
-class CheckedSaveFile;
 
 /**
  * Where a print job goes. A job calls open() once, paints, and ends with commit() or discard();
@@ -57,15 +57,9 @@ private:
     Q_DISABLE_COPY_MOVE(PrintTarget)
 };
 
-/**
- * A PDF file. It is written under a temporary name in the folder of the file and takes its name
- * only when it is complete, so nobody ever finds half a document, and a failed job leaves an older
- * file of that name as it was.
- */
+/** A PDF file, which takes its name only when it is complete. */
 class PdfTarget : public PrintTarget
 {
-    Q_DECLARE_TR_FUNCTIONS(PdfTarget)
-
 public:
     /** Prints to path; title becomes the title of the document. */
     explicit PdfTarget(const QString& path, const QString& title = QString());
@@ -79,11 +73,8 @@ public:
     QString description() const override;
 
 private:
-    QString failure() const;
-
-    QString m_path;
+    OutputFile m_file;
     QString m_title;
-    std::unique_ptr<CheckedSaveFile> m_file;
     std::unique_ptr<QPdfWriter> m_writer;
 };
 

@@ -23,6 +23,8 @@ class TestCommandLine : public StrictTest
 private Q_SLOTS:
     void nothingStartsTheWindow();
     void readsAListJob();
+    void readsAPreview();
+    void readsACatalogueItem();
     void readsRecords_data();
     void readsRecords();
     void readsTheDataSource();
@@ -60,6 +62,37 @@ void TestCommandLine::readsAListJob()
     QCOMPARE(command.paper, Paper::A4);
     QVERIFY(command.userBackground);
     QVERIFY(!command.printToFile);
+}
+
+void TestCommandLine::readsAPreview()
+{
+    const CommandLine command =
+        parse(QStringLiteral("--preview --landscape --metric --current 3 --screenshot x.png"));
+    QCOMPARE(command.problem, QString());
+    QVERIFY(command.preview);
+    QVERIFY(command.metric);
+    QCOMPARE(command.portrait, false);
+    QVERIFY(!command.hasTarget());
+    QCOMPARE(parse(QStringLiteral("--preview --portrait --all --output x.pdf")).portrait, true);
+    QVERIFY(!parse(QStringLiteral("--preview --all --output x.pdf")).portrait.has_value());
+    HostSettings settings;
+    command.applyTo(settings);
+    QVERIFY(settings.isMetric());
+}
+
+void TestCommandLine::readsACatalogueItem()
+{
+    const CommandLine command =
+        parse(QStringLiteral("--catalog EXIT --size 2.5Xnan --copies 4 --output x.pdf"));
+    QCOMPARE(command.problem, QString());
+    QVERIFY(command.isHeadless());
+    QCOMPARE(command.catalog.item, QStringLiteral("EXIT"));
+    QVERIFY(command.catalog.hasSize());
+    QCOMPARE(command.catalog.length, QStringLiteral("2.5"));
+    QCOMPARE(command.catalog.width, QStringLiteral("nan"));
+    QCOMPARE(command.copies, 4);
+    QVERIFY(!parse(QStringLiteral("--catalog EXIT --output x.pdf")).catalog.hasSize());
+    QCOMPARE(parse(QStringLiteral("--catalog EXIT --screenshot x.png")).problem, QString());
 }
 
 void TestCommandLine::readsRecords_data()
@@ -147,10 +180,41 @@ void TestCommandLine::complains_data()
     QTest::newRow("paper") << QStringLiteral("--paper A5")
                            << QStringLiteral("--paper needs label, a4 or letter, not \"a5\".");
     QTest::newRow("state") << QStringLiteral("--state odd")
-                           << QStringLiteral("--state needs one of plain, list-nup, supply, pipe, "
-                                             "test-controls, not \"odd\".");
+                           << QStringLiteral(
+                                  "--state needs one of plain, list-nup, supply, pipe, "
+                                  "test-controls, preview-portrait, preview-landscape, "
+                                  "catalog, quickprint, document, multipage, not \"odd\".");
     QTest::newRow("port") << QStringLiteral("--port x")
                           << QStringLiteral("--port needs a number from 1 to 65535, not \"x\".");
+    QTest::newRow("two orientations")
+        << QStringLiteral("--print 1 --preview --portrait --landscape --output x.pdf")
+        << QStringLiteral("Only one of --portrait and --landscape can be used.");
+    QTest::newRow("orientation of nothing")
+        << QStringLiteral("--print 1 --portrait --output x.pdf")
+        << QStringLiteral("--portrait and --landscape need --preview.");
+    QTest::newRow("preview of nothing")
+        << QStringLiteral("--preview --output x.pdf")
+        << QStringLiteral("--preview needs --print, --all or --current.");
+    QTest::newRow("preview without a target")
+        << QStringLiteral("--preview --print 1")
+        << QStringLiteral("Where to? Add --output FILE.pdf or --printer NAME.");
+    QTest::newRow("catalogue without a target")
+        << QStringLiteral("--catalog EXIT")
+        << QStringLiteral("Where to? Add --output FILE.pdf or --printer NAME.");
+    QTest::newRow("size of nothing")
+        << QStringLiteral("--size 1x1") << QStringLiteral("--size needs --catalog NAME.");
+    QTest::newRow("no item") << QStringLiteral("--catalog= --output x.pdf")
+                             << QStringLiteral("--catalog needs the name of an item.");
+    QTest::newRow("half a size") << QStringLiteral("--catalog EXIT --size 10x --output x.pdf")
+                                 << QStringLiteral(
+                                        "--size needs length x width such as 10x7, not \"10x\".");
+    QTest::newRow("one size") << QStringLiteral("--catalog EXIT --size 10 --output x.pdf")
+                              << QStringLiteral(
+                                     "--size needs length x width such as 10x7, not \"10\".");
+    QTest::newRow("item and records") << QStringLiteral("--catalog EXIT --all --output x.pdf")
+                                      << QStringLiteral("--all cannot be used with --catalog.");
+    QTest::newRow("item and sheet") << QStringLiteral("--catalog EXIT --nup 2x2 --output x.pdf")
+                                    << QStringLiteral("--nup cannot be used with --catalog.");
     QTest::newRow("unknown") << QStringLiteral("--odd") << QStringLiteral("Unknown option 'odd'.");
     QTest::newRow("stray word") << QStringLiteral("label.pdf")
                                 << QStringLiteral("\"label.pdf\" is not an option.");
@@ -209,7 +273,7 @@ void TestCommandLine::helpNamesEveryState()
     const QString help = commandLineHelp().simplified();
     QVERIFY(help.contains(QStringLiteral("--print <list>")));
     const QStringList states = demoStateNames();
-    QCOMPARE(states.size(), qsizetype(5));
+    QCOMPARE(states.size(), qsizetype(11));
     for (const QString& state : states) {
         QVERIFY2(help.contains(state), qPrintable(state));
     }

@@ -1,7 +1,6 @@
 #include "hostfixture.h"
-#include "samplehost/app/previewwindow.h"
+#include "samplehost/app/labelpreview.h"
 #include "samplehost/app/printprogressdialog.h"
-#include "samplehost/app/recordnavigator.h"
 #include "support/stricttest.h"
 
 #include <QtWidgets/QCheckBox>
@@ -39,7 +38,6 @@ private Q_SLOTS:
     void unwritableFolderIsExplained();
     void unknownPrinterIsExplained();
     void printToFileIsHonoured();
-    void previewShowsThePagesOfTheRequest();
     void menuPressesThePanelsButtons();
 
 private:
@@ -245,7 +243,7 @@ void TestPrinting::refusesListsThatNameNothing()
 
     m_host->click("PreviewButton");
     QCOMPARE(refused.size(), qsizetype(2));
-    QVERIFY(m_host->window->findChild<PreviewWindow*>() == nullptr);
+    QVERIFY(m_host->labels().preview().popup() == nullptr);
 }
 
 void TestPrinting::disablesButtonsWhilePrinting()
@@ -333,24 +331,6 @@ void TestPrinting::printToFileIsHonoured()
     m_host->click("printToFileCheck");
     QCOMPARE(print(), Outcome::Completed);
     QVERIFY(QFile::exists(m_host->outputPath()));
-}
-
-void TestPrinting::previewShowsThePagesOfTheRequest()
-{
-    m_host->typeList(QStringLiteral("7,9"));
-    m_host->click("PreviewButton");
-    auto* preview = m_host->window->findChild<PreviewWindow*>();
-    QVERIFY(preview != nullptr);
-    QVERIFY(preview->isVisible());
-    auto* pages = preview->findChild<RecordNavigator*>();
-    QCOMPARE(pages->count(), 2);
-    QCOMPARE(preview->currentPage(), 0);
-    const QImage first = preview->grab().toImage();
-    QTest::mouseClick(preview->findChild<QWidget*>(QStringLiteral("lastRecordButton")),
-                      Qt::LeftButton);
-    QCOMPARE(preview->currentPage(), 1);
-    QVERIFY(preview->grab().toImage() != first);
-    QCOMPARE(m_host->outputFiles(), QStringList());
 }
 
 void TestPrinting::menuPressesThePanelsButtons()

@@ -185,7 +185,8 @@ void TestSampleHost::printsCurrentAndAll()
 void TestSampleHost::savesPicturesOfEveryState_data()
 {
     QTest::addColumn<QString>("state");
-    for (const char* state : {"plain", "list-nup", "supply", "pipe", "test-controls"}) {
+    for (const char* state :
+         {"plain", "list-nup", "supply", "pipe", "test-controls", "catalog", "quickprint"}) {
         QTest::newRow(state) << QString::fromLatin1(state);
     }
 }

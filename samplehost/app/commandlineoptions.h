@@ -1,0 +1,13 @@
+#ifndef SAMPLEHOST_COMMANDLINEOPTIONS_H
+#define SAMPLEHOST_COMMANDLINEOPTIONS_H
+
+class QCommandLineParser;
+
+namespace SampleHost {
+
+/** Gives a parser all options of the program, with the texts of --help. */
+void addCommandLineOptions(QCommandLineParser& parser);
+
+} // namespace SampleHost
+
+#endif

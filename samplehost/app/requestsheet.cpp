@@ -1,0 +1,59 @@
+#include "samplehost/app/requestsheet.h"
+
+#include "samplehost/app/labeldesign.h"
+#include "samplehost/print/pageplan.h"
+
+#include <QtGui/QPainter>
+
+#include <utility>
+
+namespace SampleHost {
+
+SheetGeometry sheetOf(const LabelDesign& design, const PrintRequest& request)
+{
+    return SheetGeometry(design.labelSizeMm(request), request.nup, request.paperMm);
+}
+
+bool isPortrait(const QSizeF& size)
+{
+    return size.height() >= size.width();
+}
+
+PrintRequest oriented(const LabelDesign& design, const PrintRequest& request, bool portrait)
+{
+    PrintRequest turned = request;
+    if (isPortrait(sheetOf(design, request).sheetSizeMm()) == portrait) {
+        return turned;
+    }
+    if (request.paperMm.isEmpty()) {
+        turned.labelTurned = true;
+        std::swap(turned.nup.rows, turned.nup.columns);
+    } else {
+        turned.paperMm.transpose();
+    }
+    return turned;
+}
+
+QImage renderFirstSheet(const LabelDesign& design, const PrintRequest& request, const QSize& room)
+{
+    const SheetGeometry sheet = sheetOf(design, request);
+    const QSizeF fitting = sheet.sheetSizeMm().scaled(room, Qt::KeepAspectRatio);
+    QImage image(fitting.toSize().expandedTo(QSize(1, 1)).boundedTo(room),
+                 QImage::Format_ARGB32_Premultiplied);
+    if (image.isNull()) {
+        return image;
+    }
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    const qreal dotsPerMm = fitting.width() / sheet.sheetSizeMm().width();
+    const PagePlan plan = PagePlan::make(request, design.recordCount());
+    QString problem;
+    if (!paintPage(painter, dotsPerMm, sheet, plan.recordsOnPage(0), design.painter(request),
+                   problem)) {
+        painter.drawText(image.rect(), Qt::AlignCenter | Qt::TextWordWrap, problem);
+    }
+    return image;
+}
+
+} // namespace SampleHost

@@ -1,0 +1,139 @@
+#include "samplehost/pdf/fillparts.h"
+
+#include "samplehost/pdf/fillmark.h"
+#include "samplehost/pdf/filltext.h"
+#include "samplehost/pdf/pdfsource.h"
+
+#include <qpdf/QPDFPageObjectHelper.hh>
+
+#include <exception>
+
+namespace SampleHost {
+
+namespace {
+
+using Widget = QPDFAnnotationObjectHelper;
+using Field = QPDFFormFieldObjectHelper;
+
+bool isTicked(Widget& widget, Field& field)
+{
+    const std::string state = widget.getAppearanceState();
+    if (!state.empty()) {
+        return state != "/Off";
+    }
+    QPDFObjectHandle value = field.getValue();
+    return field.isCheckbox() && value.isName() && value.getName() != "/Off";
+}
+
+// The character that the field wants from the font of dingbats.
+FillMark markOf(Widget& widget, Field& field)
+{
+    QPDFObjectHandle look = widget.getObjectHandle().getKey("/MK");
+    QPDFObjectHandle caption =
+        look.isDictionary() ? look.getKey("/CA") : QPDFObjectHandle::newNull();
+    const std::string style = caption.isString() ? caption.getStringValue() : std::string();
+    if (style == "l" || (style.empty() && field.isRadioButton())) {
+        return FillMark::Dot;
+    }
+    return style == "8" ? FillMark::Cross : FillMark::Check;
+}
+
+void addMark(PageParts& parts, Widget& widget, Field& field, int turns)
+{
+    if (!isTicked(widget, field)) {
+        return;
+    }
+    QPDFObjectHandle appearance = widget.getAppearanceStream("/N");
+    if (appearance.isStream()) {
+        const FillText text = fillTextOf(appearance);
+        if (text.showsText) {
+            parts.addAppearance(widget, text.content, turns);
+            return;
+        }
+    }
+    parts.content += fillMark(markOf(widget, field), widget.getRect());
+}
+
+// All chosen values as one text.
+QPDFObjectHandle joinedValue(Field& field)
+{
+    QPDFObjectHandle value = field.getValue();
+    if (!value.isArray()) {
+        return value;
+    }
+    std::string joined;
+    for (QPDFObjectHandle& item : value.getArrayAsVector()) {
+        if (item.isString()) {
+            joined += (joined.empty() ? "" : ", ") + item.getUTF8Value();
+        }
+    }
+    return QPDFObjectHandle::newUnicodeString(joined);
+}
+
+/**
+ * A stand-in for a widget that shows its value in one line. A list box itself shows everything that
+ * could have been chosen, and tells the choice by a coloured bar.
+ */
+Widget oneLineWidget(Widget& widget, Field& field)
+{
+    QPDFObjectHandle object = widget.getObjectHandle().shallowCopy();
+    object.removeKey("/Parent");
+    object.removeKey("/AP");
+    object.removeKey("/AS");
+    object.replaceKey("/FT", QPDFObjectHandle::newName("/Tx"));
+    object.replaceKey("/Ff", QPDFObjectHandle::newInteger(0));
+    object.replaceKey("/V", joinedValue(field));
+    object.replaceKey("/DA", QPDFObjectHandle::newString(field.getDefaultAppearance()));
+    object.replaceKey("/Q", QPDFObjectHandle::newInteger(field.getQuadding()));
+    QPDF* owner = widget.getObjectHandle().getOwningQPDF();
+    return Widget(owner != nullptr ? owner->makeIndirectObject(object) : object);
+}
+
+void addText(PageParts& parts, Widget widget, Field field, int turns)
+{
+    const bool isListBox = field.isChoice() && (field.getFlags() & ff_ch_combo) == 0;
+    const bool isSecret = field.isText() && (field.getFlags() & ff_tx_password) != 0;
+    QPDFObjectHandle appearance = widget.getAppearanceStream("/N");
+    if ((isListBox || !appearance.isStream()) && !isSecret) {
+        // Drawn on the stand-in only: the page itself goes on to look as it does in the file.
+        widget = oneLineWidget(widget, field);
+        field = Field(widget.getObjectHandle());
+        if (!field.getValueAsString().empty()) {
+            drawField(field, widget);
+        }
+        appearance = widget.getAppearanceStream("/N");
+    }
+    if (appearance.isStream()) {
+        const FillText text = fillTextOf(appearance);
+        if (text.showsText) {
+            parts.addAppearance(widget, text.content, turns);
+        }
+    }
+}
+
+void addField(PageParts& parts, Widget widget, Field field, int turns)
+{
+    if (field.isCheckbox() || field.isRadioButton()) {
+        addMark(parts, widget, field, turns);
+    } else if (field.isText() || field.isChoice()) {
+        addText(parts, widget, field, turns);
+    }
+}
+
+} // namespace
+
+PageParts fillParts(PdfSource& source, int page)
+{
+    PageParts parts;
+    const int turns = source.pageBox(page).turns;
+    const QPDFPageObjectHelper helper(source.page(page));
+    for (const Widget& widget : source.form().getWidgetAnnotationsForPage(helper)) {
+        const Field field = source.form().getFieldForAnnotation(widget);
+        if (isPrinted(widget)) {
+            addField(parts, widget, field, turns);
+        }
+    }
+    return parts;
+}
+
+} // namespace SampleHost

@@ -1,0 +1,18 @@
+#ifndef SAMPLEHOST_FILLPARTS_H
+#define SAMPLEHOST_FILLPARTS_H
+
+#include "samplehost/pdf/pageparts.h"
+
+namespace SampleHost {
+
+/**
+ * What is filled in the form fields of a 0-based page, each at its place, and nothing else: the
+ * text of text fields and choices as the document sets it, and the marks of ticked boxes. Borders
+ * and backgrounds of the fields, the captions of push buttons and signatures are left out, and so
+ * is a field that the document keeps from being printed.
+ */
+PageParts fillParts(PdfSource& source, int page);
+
+} // namespace SampleHost
+
+#endif

@@ -1,0 +1,153 @@
+#include "samplehost/pdf/pdfdocument.h"
+
+#include "samplehost/pdf/pdfsource.h"
+#include "samplehost/pdf/sheetimage.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtPdf/QPdfDocument>
+
+#include <algorithm>
+#include <exception>
+
+namespace SampleHost {
+
+PdfDocument::PdfDocument() : m_view(std::make_unique<QPdfDocument>()) {}
+
+PdfDocument::~PdfDocument() = default;
+
+bool PdfDocument::open(const QString& path, QString& problem)
+{
+    close();
+    if (show(path, problem) && readObjects(path, problem)) {
+        m_path = path;
+        m_title = m_view->metaData(QPdfDocument::MetaDataField::Title).toString().simplified();
+        return true;
+    }
+    close();
+    return false;
+}
+
+void PdfDocument::close()
+{
+    m_path.clear();
+    m_title.clear();
+    m_source.reset();
+    m_hasFormFields = false;
+    // A new one, since a document that failed to load keeps a part of its state when closed.
+    m_view = std::make_unique<QPdfDocument>();
+}
+
+bool PdfDocument::show(const QString& path, QString& problem)
+{
+    const QString name = QDir::toNativeSeparators(path);
+    const QFileInfo file(path);
+    if (!file.exists()) {
+        problem = tr("The file \"%1\" does not exist.").arg(name);
+        return false;
+    }
+    if (!file.isFile() || !file.isReadable()) {
+        problem = tr("The file \"%1\" cannot be read.").arg(name);
+        return false;
+    }
+    if (file.size() == 0) {
+        problem = tr("The file \"%1\" is empty.").arg(name);
+        return false;
+    }
+    switch (m_view->load(path)) {
+    case QPdfDocument::Error::None:
+        return true;
+    case QPdfDocument::Error::IncorrectPassword:
+        problem = tr("The file \"%1\" is protected by a password.").arg(name);
+        return false;
+    case QPdfDocument::Error::UnsupportedSecurityScheme:
+        problem = tr("The file \"%1\" is encrypted in a way that is not supported.").arg(name);
+        return false;
+    default:
+        problem = tr("The file \"%1\" is not a PDF document, or it is damaged.").arg(name);
+        return false;
+    }
+}
+
+bool PdfDocument::readObjects(const QString& path, QString& problem)
+{
+    const QString name = QDir::toNativeSeparators(path);
+    try {
+        m_source = std::make_shared<PdfSource>(path);
+    } catch (const std::exception&) {
+        problem = tr("The file \"%1\" is not a PDF document, or it is damaged.").arg(name);
+        return false;
+    }
+    if (m_view->pageCount() == 0 && m_source->pageCount() == 0) {
+        problem = tr("The file \"%1\" has no pages.").arg(name);
+        return false;
+    }
+    // What is printed has to be what is shown.
+    if (m_view->pageCount() != m_source->pageCount()) {
+        problem = tr("The file \"%1\" is damaged.").arg(name);
+        return false;
+    }
+    try {
+        m_hasFormFields = m_source->hasFormFields();
+    } catch (const std::exception&) {
+        m_hasFormFields = false;
+    }
+    return true;
+}
+
+QString PdfDocument::title() const
+{
+    if (!isOpen()) {
+        return QString();
+    }
+    return m_title.isEmpty() ? QFileInfo(m_path).fileName() : m_title;
+}
+
+int PdfDocument::pageCount() const
+{
+    return m_source ? m_source->pageCount() : 0;
+}
+
+QSizeF PdfDocument::pageSize(int page) const
+{
+    const bool exists = page >= 0 && page < pageCount();
+    return exists ? m_source->pageBox(page).shownSize() : QSizeF();
+}
+
+QSize PdfDocument::fittedSize(int page, const QSize& bounds) const
+{
+    const QSizeF size = pageSize(page);
+    if (size.isEmpty() || bounds.isEmpty()) {
+        return QSize();
+    }
+    return size.scaled(bounds, Qt::KeepAspectRatio).toSize().expandedTo(QSize(1, 1));
+}
+
+QImage PdfDocument::render(int page, const QSize& size) const
+{
+    const bool usable = page >= 0 && page < pageCount() && !size.isEmpty() &&
+                        std::max(size.width(), size.height()) <= longestSide;
+    // Qt's renderer never comes back from a file that became shorter.
+    if (!usable || !m_source->isIntact()) {
+        return QImage();
+    }
+    try {
+        // By way of a sheet, since Qt's renderer leaves out the form fields.
+        return SheetImage(*m_source, page, SheetOptions(), SheetContents::WholePage, size,
+                          size.height())
+            .band(0);
+    } catch (const std::exception&) {
+        return renderPage(*m_view, page, size);
+    }
+}
+
+bool PdfDocument::allowsPrinting() const
+{
+    try {
+        return m_source && m_source->allowsPrinting();
+    } catch (const std::exception&) {
+        return false;
+    }
+}
+
+} // namespace SampleHost

@@ -1,0 +1,36 @@
+#ifndef SAMPLEHOST_PDFFILEWORK_H
+#define SAMPLEHOST_PDFFILEWORK_H
+
+#include "samplehost/pdf/pdfsheets.h"
+#include "samplehost/print/outputfile.h"
+#include "samplehost/print/printwork.h"
+
+#include <memory>
+
+namespace SampleHost {
+
+/** Writes sheets to a PDF file, with the text of their pages. */
+class PdfFileWork : public PrintWork
+{
+public:
+    /** Prints to path; title becomes the title of the file. */
+    PdfFileWork(const PdfSheets& sheets, const QString& path, const QString& title);
+    ~PdfFileWork() override;
+
+    qint64 pageCount() const override;
+    QString targetDescription() const override;
+    bool open(QString& problem) override;
+    bool putPage(qint64 page, QString& problem) override;
+    bool complete(QString& problem) override;
+    bool giveUp() override;
+
+private:
+    PdfSheets m_sheets;
+    OutputFile m_file;
+    QString m_title;
+    std::unique_ptr<PdfSheetWriter> m_writer;
+};
+
+} // namespace SampleHost
+
+#endif

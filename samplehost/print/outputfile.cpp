@@ -1,0 +1,74 @@
+#include "samplehost/print/outputfile.h"
+
+#include "samplehost/print/checkedsavefile.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+
+namespace SampleHost {
+
+OutputFile::OutputFile(const QString& path) : m_path(path) {}
+
+OutputFile::~OutputFile()
+{
+    discard();
+}
+
+QIODevice* OutputFile::open(QString& problem)
+{
+    const QFileInfo folder(QFileInfo(m_path).absolutePath());
+    if (!folder.isDir()) {
+        problem = tr("The folder \"%1\" does not exist.")
+                      .arg(QDir::toNativeSeparators(folder.filePath()));
+        return nullptr;
+    }
+    m_file = std::make_unique<CheckedSaveFile>(m_path);
+    if (!m_file->open(QIODevice::WriteOnly)) {
+        problem = failure();
+        m_file.reset();
+        return nullptr;
+    }
+    return m_file.get();
+}
+
+bool OutputFile::isHealthy(QString& problem)
+{
+    // Flushing shows a full disk at the page that met it instead of at the end of a long job.
+    if (m_file && m_file->flushChecked()) {
+        return true;
+    }
+    problem = failure();
+    return false;
+}
+
+bool OutputFile::commit(QString& problem)
+{
+    const bool committed = m_file && m_file->commitChecked();
+    if (!committed) {
+        problem = failure();
+    }
+    m_file.reset();
+    return committed;
+}
+
+void OutputFile::discard()
+{
+    if (m_file) {
+        m_file->cancelWriting();
+        m_file.reset();
+    }
+}
+
+QString OutputFile::description() const
+{
+    return QDir::toNativeSeparators(QFileInfo(m_path).absoluteFilePath());
+}
+
+QString OutputFile::failure() const
+{
+    const QString reason = m_file ? m_file->failure() : tr("the file is not open");
+    return tr("The file \"%1\" cannot be written: %2.")
+        .arg(QDir::toNativeSeparators(m_path), reason);
+}
+
+} // namespace SampleHost

@@ -1,0 +1,126 @@
+#ifndef TESTS_SAMPLEHOST_DOCUMENTHOST_H
+#define TESTS_SAMPLEHOST_DOCUMENTHOST_H
+
+#include "hostfixture.h"
+#include "pdfoutput.h"
+#include "pdfsamples.h"
+#include "samplehost/app/eventlog.h"
+#include "samplehost/app/pdfpage.h"
+#include "samplehost/app/pdfpreview.h"
+#include "samplehost/app/pdfprintcontroller.h"
+#include "samplehost/app/recordnavigator.h"
+
+#include <printpanels-hostkit/containertitlebar.h>
+#include <printpanels/multipageprintdialog.h>
+#include <printpanels/multipageprintwidget.h>
+
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMessageBox>
+
+#include <optional>
+
+/** A host whose page of documents is driven by its widgets. */
+class DocumentHost : public HostFixture
+{
+public:
+    SampleHost::PdfPage& page() const { return window->pdfPage(); }
+    SampleHost::RecordNavigator& navigator() const { return page().navigator(); }
+    SampleHost::PdfPreview& preview() const { return page().preview(); }
+    MultiPagePrintWidget& documentPanel() const { return preview().panel(); }
+    MultiPagePrintDialog& dialog() const { return preview().dialog(); }
+
+    /** The path of a file in the host's folder. */
+    QString path(const char* name) const { return folder.filePath(QString::fromLatin1(name)); }
+
+    /** Writes a document whose pages say their number, and opens it. */
+    bool openNumbered(int pages, const char* name = "in.pdf") const
+    {
+        return PdfSamples::writeNumbered(path(name), pages) && page().open(path(name));
+    }
+
+    /** Writes a document and opens it. */
+    bool openBytes(const QByteArray& bytes, const char* name = "in.pdf") const
+    {
+        return PdfSamples::write(path(name), bytes) && page().open(path(name));
+    }
+
+    /** Opens the window "Preview and Print" by its button. */
+    bool showDialog() const
+    {
+        press("documentPrintButton");
+        return dialog().isVisible();
+    }
+
+    /** A widget of the page, or of its window "Preview and Print", by object name. */
+    template <typename Widget = QWidget>
+    Widget* widget(const char* name) const
+    {
+        return page().findChild<Widget*>(QString::fromLatin1(name));
+    }
+
+    /** Clicks a widget of the page or of its window, where a radio button listens too. */
+    void press(const char* name) const
+    {
+        SampleHost::UserHands::wait();
+        QWidget* target = widget(name);
+        QTest::mouseClick(target, Qt::LeftButton, Qt::NoModifier,
+                          QPoint(qMin(10, target->width() / 2), target->height() / 2));
+    }
+
+    /** Chooses "Selection" and types over the list. */
+    void typePages(const QString& list) const
+    {
+        press("selectionRadio");
+        widget<QLineEdit>("pageListEdit")->clear();
+        QTest::keyClicks(widget("pageListEdit"), list);
+    }
+
+    /** The text of the title bar of "Preview and Print". */
+    QString title() const { return dialog().findChild<ContainerTitleBar*>()->title(); }
+
+    /** What "Preview and Print" shows of the sheet, with the surround. */
+    QImage previewPicture() const
+    {
+        return dialog().findChild<QWidget*>(QStringLiteral("PreviewView"))->grab().toImage();
+    }
+
+    /** Presses Print and waits for the end of the job; nothing when there was no job. */
+    std::optional<SampleHost::PrintJob::Outcome> print()
+    {
+        QSignalSpy ended(&page().controller(), &SampleHost::PdfPrintController::jobEnded);
+        press("PrintButton");
+        if (!page().controller().isPrinting() && ended.isEmpty()) {
+            return std::nullopt;
+        }
+        if (ended.isEmpty() && !ended.wait(60000)) {
+            return std::nullopt;
+        }
+        message = ended.at(0).at(1).toString();
+        return ended.at(0).at(0).value<SampleHost::PrintJob::Outcome>();
+    }
+
+    /** The numbers of the pages that were printed, as their texts say, with blanks between. */
+    QString printedPages() const
+    {
+        QStringList numbers;
+        const QStringList texts = PdfOutput::texts(outputPath());
+        for (const QString& text : texts) {
+            const QString head = QStringLiteral("Page ");
+            numbers.append(text.startsWith(head) ? text.mid(head.size()) : QStringLiteral("?"));
+        }
+        return numbers.join(QLatin1Char(' '));
+    }
+
+    /** The text of the message that the host shows; empty without one. */
+    QString shownMessage() const
+    {
+        auto* box = window->findChild<QMessageBox*>(QStringLiteral("messageBox"));
+        return box != nullptr ? box->text() : QString();
+    }
+
+    /** How the last job ended, in words. */
+    QString message;
+};
+
+#endif

@@ -1,0 +1,149 @@
+#include "samplehost/pdf/pdfpageplan.h"
+#include "support/stricttest.h"
+
+#include <limits>
+
+using namespace SampleHost;
+using Problem = PagePlan::Problem;
+
+namespace {
+
+PdfPrintRequest range(int start, int end, int copies = 1)
+{
+    PdfPrintRequest request;
+    request.startPage = start;
+    request.endPage = end;
+    request.copies = copies;
+    return request;
+}
+
+PdfPrintRequest list(const char* text, int copies = 1)
+{
+    PdfPrintRequest request = range(0, 0, copies);
+    request.pageList = QString::fromLatin1(text);
+    return request;
+}
+
+QList<int> pages(const PdfPagePlan& plan)
+{
+    QList<int> pages;
+    for (qint64 sheet = 0; sheet < plan.sheetCount(); ++sheet) {
+        pages.append(plan.pageOnSheet(sheet));
+    }
+    return pages;
+}
+
+} // namespace
+
+class TestPdfPagePlan : public StrictTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void namesPages_data();
+    void namesPages();
+    void explainsEmptyPlans_data();
+    void explainsEmptyPlans();
+    void staysSmall();
+};
+
+void TestPdfPagePlan::namesPages_data()
+{
+    QTest::addColumn<PdfPrintRequest>("request");
+    QTest::addColumn<int>("pageCount");
+    QTest::addColumn<QList<int>>("expected");
+
+    QTest::newRow("current page") << range(3, 3) << 12 << QList<int>{3};
+    QTest::newRow("single page") << range(3, -1) << 12 << QList<int>{3};
+    QTest::newRow("all pages") << range(1, 4) << 4 << QList<int>{1, 2, 3, 4};
+    QTest::newRow("all pages of an unknown count")
+        << range(1, 99999) << 4 << QList<int>{1, 2, 3, 4};
+    QTest::newRow("to beyond the last") << range(3, 9) << 4 << QList<int>{3, 4};
+    QTest::newRow("list in typed order") << list("9,2,5-7") << 12 << QList<int>{9, 2, 5, 6, 7};
+    QTest::newRow("list with repetitions")
+        << list("2,2,1-3,3") << 12 << QList<int>{2, 2, 1, 2, 3, 3};
+    QTest::newRow("list to beyond the last") << list("11-99,1") << 12 << QList<int>{11, 12, 1};
+    QTest::newRow("reversed range in a list") << list("7-5,2") << 12 << QList<int>{2};
+    QTest::newRow("nothing of an item") << list("13,2,20-30") << 12 << QList<int>{2};
+    QTest::newRow("list beats range") << [] {
+        PdfPrintRequest request = range(1, 12);
+        request.pageList = QStringLiteral("4");
+        return request;
+    }() << 12 << QList<int>{4};
+    QTest::newRow("copies are collated") << list("3,1", 3) << 12 << QList<int>{3, 1, 3, 1, 3, 1};
+    QTest::newRow("copies of a page") << range(2, 2, 3) << 12 << QList<int>{2, 2, 2};
+    QTest::newRow("no copies") << range(2, 2, 0) << 12 << QList<int>{2};
+    QTest::newRow("negative copies") << range(1, 2, -5) << 12 << QList<int>{1, 2};
+}
+
+void TestPdfPagePlan::namesPages()
+{
+    QFETCH(PdfPrintRequest, request);
+    QFETCH(int, pageCount);
+    QFETCH(QList<int>, expected);
+    const PdfPagePlan plan(request, pageCount);
+    QCOMPARE(plan.problem(), Problem::None);
+    QCOMPARE(plan.problemText(), QString());
+    QCOMPARE(plan.sheetCount(), qint64(expected.size()));
+    QCOMPARE(pages(plan), expected);
+    QCOMPARE(plan.pageOnSheet(-1), 0);
+    QCOMPARE(plan.pageOnSheet(plan.sheetCount()), 0);
+}
+
+void TestPdfPagePlan::explainsEmptyPlans_data()
+{
+    QTest::addColumn<PdfPrintRequest>("request");
+    QTest::addColumn<int>("pageCount");
+    QTest::addColumn<Problem>("problem");
+    QTest::addColumn<QString>("text");
+
+    const QString noPage = QStringLiteral("There is no such page. Nothing is printed.");
+    QTest::newRow("reversed range") << range(5, 3) << 12 << Problem::NoSuchRecord << noPage;
+    QTest::newRow("beyond the last") << range(13, 20) << 12 << Problem::NoSuchRecord << noPage;
+    QTest::newRow("before the first") << range(-1, 3) << 12 << Problem::NoSuchRecord << noPage;
+    QTest::newRow("no list after all") << range(0, 0) << 12 << Problem::NoSuchRecord << noPage;
+    QTest::newRow("no pages") << range(1, 99999) << 0 << Problem::NoSuchRecord << noPage;
+    QTest::newRow("negative page count") << range(1, 1) << -3 << Problem::NoSuchRecord << noPage;
+    QTest::newRow("list of none") << list("13,7-5") << 12 << Problem::NoSuchRecord
+                                  << QStringLiteral("The list \"13,7-5\" names none of the 12 "
+                                                    "pages. Nothing is printed.");
+    QTest::newRow("unreadable list")
+        << list("1,,2") << 12 << Problem::UnreadableList
+        << QStringLiteral("The list \"1,,2\" cannot be read. Nothing is printed.");
+    QTest::newRow("words") << list("%1 %2") << 12 << Problem::UnreadableList
+                           << QStringLiteral("The list \"%1 %2\" cannot be read. Nothing is "
+                                             "printed.");
+}
+
+void TestPdfPagePlan::explainsEmptyPlans()
+{
+    QFETCH(PdfPrintRequest, request);
+    QFETCH(int, pageCount);
+    QFETCH(Problem, problem);
+    QFETCH(QString, text);
+    const PdfPagePlan plan(request, pageCount);
+    QCOMPARE(plan.problem(), problem);
+    QCOMPARE(plan.problemText(), text);
+    QCOMPARE(plan.sheetCount(), qint64(0));
+    QCOMPARE(plan.pageOnSheet(0), 0);
+}
+
+void TestPdfPagePlan::staysSmall()
+{
+    QString everything = QStringLiteral("1-9999");
+    for (int i = 0; i < 99; ++i) {
+        everything += QStringLiteral(",1-9999");
+    }
+    PdfPrintRequest request;
+    request.pageList = everything;
+    request.copies = std::numeric_limits<int>::max();
+    const PdfPagePlan plan(request, 9999);
+    QCOMPARE(plan.selectedCount(), qint64(999900));
+    QCOMPARE(plan.sheetCount(), qint64(999900) * std::numeric_limits<int>::max());
+    QCOMPARE(plan.pageOnSheet(plan.sheetCount() - 1), 9999);
+    QCOMPARE(plan.pageOnSheet(plan.sheetCount() - 9999), 1);
+}
+
+QTEST_MAIN(TestPdfPagePlan)
+
+#include "tst_pdfpageplan.moc"

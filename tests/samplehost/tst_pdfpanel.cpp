@@ -1,0 +1,406 @@
+#include "documenthost.h"
+#include "support/stricttest.h"
+
+#include <QtCore/QMetaMethod>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QDialog>
+#include <QtWidgets/QRadioButton>
+#include <QtWidgets/QStatusBar>
+
+using namespace SampleHost;
+
+/** "Preview and Print": what the host tells its panel, and how it follows what the panel says. */
+class TestPdfPanel : public StrictTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void opensAsAFramelessDialog();
+    void showsTheCurrentPage();
+    void closesAndOpensAgain();
+    void typedListMovesThePage();
+    void listOfNoPageShowsAnEmptyPage();
+    void radiosMoveThePage();
+    void turningPagesMovesTheCurrentPage();
+    void anotherDocumentStartsAfresh();
+    void anotherDocumentFollowsTheTypedList();
+    void formFillIsOfferedForForms_data();
+    void formFillIsOfferedForForms();
+    void optionsChangeThePreview();
+    void paperChangesThePreview();
+    void printersAreListed();
+    void printerIsSharedWithTheOtherPages();
+    void settingsButtonOpensThePreferences();
+    void copiesAreTidied();
+    void shortcutsReachThePanel();
+    void barredDocumentsAreNotPrinted();
+    void eventsAreLogged();
+    void everySignalIsLogged();
+
+private:
+    QStringList log() const { return m_host->window->eventLog().lines(); }
+
+    std::unique_ptr<DocumentHost> m_host;
+};
+
+void TestPdfPanel::init()
+{
+    StrictTest::init();
+    m_host = std::make_unique<DocumentHost>();
+}
+
+void TestPdfPanel::cleanup()
+{
+    m_host.reset();
+}
+
+void TestPdfPanel::opensAsAFramelessDialog()
+{
+    QVERIFY(m_host->openNumbered(12));
+    QVERIFY(!m_host->dialog().isVisible());
+    QVERIFY(m_host->showDialog());
+    QVERIFY(m_host->dialog().windowFlags().testFlag(Qt::FramelessWindowHint));
+    QCOMPARE(m_host->dialog().windowType(), Qt::Dialog);
+    QCOMPARE(m_host->dialog().parentWidget(), &m_host->page());
+    // Over the middle of the host.
+    const QPoint off =
+        m_host->dialog().geometry().center() - m_host->window->frameGeometry().center();
+    QVERIFY(off.manhattanLength() <= 4 || m_host->dialog().pos().x() == 0 ||
+            m_host->dialog().pos().y() == 0);
+    QVERIFY(m_host->widget("PrintButton")->isEnabled());
+}
+
+void TestPdfPanel::showsTheCurrentPage()
+{
+    QVERIFY(m_host->openNumbered(12));
+    QVERIFY(m_host->showDialog());
+    QCOMPARE(m_host->title(), QStringLiteral("in.pdf - page 1 of 12"));
+    const QImage first = m_host->previewPicture();
+    m_host->press("nextRecordButton");
+    QCOMPARE(m_host->title(), QStringLiteral("in.pdf - page 2 of 12"));
+    QCOMPARE(m_host->preview().shownPage(), 2);
+    QVERIFY(m_host->previewPicture() != first);
+    m_host->press("previousRecordButton");
+    QCOMPARE(m_host->previewPicture(), first);
+}
+
+void TestPdfPanel::closesAndOpensAgain()
+{
+    QVERIFY(m_host->openNumbered(12));
+    QVERIFY(m_host->showDialog());
+    Q_EMIT m_host->dialog().findChild<ContainerTitleBar*>()->closeButtonClicked();
+    QVERIFY(!m_host->dialog().isVisible());
+    m_host->press("lastRecordButton");
+    QVERIFY(m_host->showDialog());
+    QCOMPARE(m_host->title(), QStringLiteral("in.pdf - page 12 of 12"));
+    const QImage last = m_host->previewPicture();
+    m_host->press("firstRecordButton");
+    QVERIFY(m_host->previewPicture() != last);
+    m_host->press("lastRecordButton");
+    QCOMPARE(m_host->previewPicture(), last);
+}
+
+void TestPdfPanel::typedListMovesThePage()
+{
+    QVERIFY(m_host->openNumbered(12));
+    QVERIFY(m_host->showDialog());
+    QSignalSpy started(&m_host->documentPanel(), &MultiPagePrintWidget::startPageChangedSignal);
+    m_host->typePages(QStringLiteral("7-9,2"));
+    QCOMPARE(started.size(), qsizetype(1));
+    QCOMPARE(started.at(0).at(0).toInt(), 7);
+    QCOMPARE(m_host->navigator().currentIndex(), 6);
+    QCOMPARE(m_host->title(), QStringLiteral("in.pdf - page 7 of 12"));
+    // The user may look at another page; the list stays.
+    m_host->press("firstRecordButton");
+    QCOMPARE(m_host->navigator().currentIndex(), 0);
+    QCOMPARE(m_host->widget<QLineEdit>("pageListEdit")->text(), QStringLiteral("7-9,2"));
+}
+
+void TestPdfPanel::listOfNoPageShowsAnEmptyPage()
+{
+    QVERIFY(m_host->openNumbered(12));
+    QVERIFY(m_host->showDialog());
+    m_host->press("nextRecordButton");
+    m_host->typePages(QStringLiteral("13"));
+    // On the way the list said page 1.
+    QCOMPARE(m_host->navigator().currentIndex(), 0);
+    QCOMPARE(m_host->preview().shownPage(), -1);
+    QVERIFY(!m_host->widget("PrintButton")->isEnabled());
+    const QString reason = QStringLiteral("the list names none of the 12 pages");
+    QCOMPARE(m_host->title(), QStringLiteral("in.pdf - cannot be printed: ") + reason);
+    QCOMPARE(m_host->window->statusBar()->currentMessage(),
+             QStringLiteral("in.pdf cannot be printed: %1.").arg(reason));
+    // The placeholder is white and wider than high.
+    const QImage picture = m_host->previewPicture();
+    QCOMPARE(picture.pixelColor(picture.rect().center()), QColor(Qt::white));
+    QCOMPARE(picture.pixelColor(5, picture.height() / 2), QColor(Qt::white));
+
+    QTest::keyClicks(m_host->widget("pageListEdit"), QStringLiteral(",3"));
+    QCOMPARE(m_host->preview().shownPage(), 3);
+    QVERIFY(m_host->widget("PrintButton")->isEnabled());
+    QVERIFY(m_host->previewPicture() != picture);
+}
+
+void TestPdfPanel::radiosMoveThePage()
+{
+    QVERIFY(m_host->openNumbered(12));
+    QVERIFY(m_host->showDialog());
+    m_host->typePages(QStringLiteral("99"));
+    QVERIFY(!m_host->widget("PrintButton")->isEnabled());
+    m_host->press("allPagesRadio");
+    QCOMPARE(m_host->preview().shownPage(), 1);
+    QVERIFY(m_host->widget("PrintButton")->isEnabled());
+    m_host->press("lastRecordButton");
+    m_host->press("currentPageRadio");
+    QCOMPARE(m_host->preview().shownPage(), 12);
+    QCOMPARE(m_host->title(), QStringLiteral("in.pdf - page 12 of 12"));
+}
+
+void TestPdfPanel::turningPagesMovesTheCurrentPage()
+{
+    QVERIFY(m_host->openNumbered(12));
+    QVERIFY(m_host->showDialog());
+    QSignalSpy requests(&m_host->documentPanel(), &MultiPagePrintWidget::widgetPrintSignal);
+    m_host->press("lastRecordButton");
+    m_host->press("previousRecordButton");
+    m_host->press("PrintButton");
+    QCOMPARE(requests.size(), qsizetype(1));
+    QCOMPARE(requests.at(0), (QVariantList{11, 11, QString()}));
+}
+
+void TestPdfPanel::anotherDocumentStartsAfresh()
+{
+    QVERIFY(m_host->openBytes(PdfSamples::form(), "form.pdf"));
+    QVERIFY(m_host->showDialog());
+    m_host->press("formFillCheck");
+    m_host->press("orientationCheck");
+    m_host->press("plusButton");
+    m_host->press("lastRecordButton");
+    QVERIFY(m_host->preview().request().rotated180);
+    QVERIFY(m_host->preview().request().formFillOnly);
+    QCOMPARE(m_host->preview().request().copies, 2);
+
+    m_host->window->eventLog().clear();
+    QVERIFY(m_host->openNumbered(2));
+    QVERIFY(!m_host->widget<QCheckBox>("orientationCheck")->isChecked());
+    QVERIFY(!m_host->preview().request().rotated180);
+    QVERIFY(!m_host->preview().request().formFillOnly);
+    QCOMPARE(m_host->preview().request().copies, 1);
+    QCOMPARE(m_host->title(), QStringLiteral("in.pdf - page 1 of 2"));
+    // What the host changed by itself is not reported back.
+    QCOMPARE(log().filter(QStringLiteral("orientationChangedSignal")), QStringList());
+    QCOMPARE(log().filter(QStringLiteral("printFormFillChangedSignal")), QStringList());
+}
+
+void TestPdfPanel::anotherDocumentFollowsTheTypedList()
+{
+    QVERIFY(m_host->openNumbered(12));
+    QVERIFY(m_host->showDialog());
+    m_host->typePages(QStringLiteral("3"));
+    QVERIFY(m_host->openNumbered(5, "other.pdf"));
+    QCOMPARE(m_host->title(), QStringLiteral("other.pdf - page 3 of 5"));
+    QCOMPARE(m_host->navigator().currentIndex(), 2);
+    QVERIFY(m_host->openNumbered(2, "short.pdf"));
+    QCOMPARE(m_host->preview().shownPage(), -1);
+    QVERIFY(!m_host->widget("PrintButton")->isEnabled());
+}
+
+void TestPdfPanel::formFillIsOfferedForForms_data()
+{
+    QTest::addColumn<bool>("form");
+    QTest::newRow("form") << true;
+    QTest::newRow("no form") << false;
+}
+
+void TestPdfPanel::formFillIsOfferedForForms()
+{
+    QFETCH(bool, form);
+    QVERIFY(form ? m_host->openBytes(PdfSamples::form()) : m_host->openNumbered(12));
+    QVERIFY(m_host->showDialog());
+    QCOMPARE(m_host->widget("formFillCheck")->isVisible(), form);
+    QVERIFY(!m_host->widget<QCheckBox>("formFillCheck")->isChecked());
+    QVERIFY(m_host->widget("orientationCheck")->isVisible());
+}
+
+void TestPdfPanel::optionsChangeThePreview()
+{
+    m_host->window->settings().setPaper(Paper::A4);
+    QVERIFY(m_host->openBytes(PdfSamples::form()));
+    QVERIFY(m_host->showDialog());
+    QImage before = m_host->previewPicture();
+    for (const char* option : {"orientationCheck", "formFillCheck"}) {
+        m_host->press(option);
+        const QImage after = m_host->previewPicture();
+        QVERIFY2(after != before, option);
+        m_host->press(option);
+        QVERIFY2(m_host->previewPicture() == before, option);
+    }
+    // A page smaller than the paper grows when it is fitted.
+    QVERIFY(m_host->openNumbered(4));
+    m_host->press("lastRecordButton");
+    before = m_host->previewPicture();
+    QVERIFY(m_host->preview().request().fitToPage);
+    m_host->press("fitToPageCheck");
+    QVERIFY(!m_host->preview().request().fitToPage);
+    QVERIFY(m_host->previewPicture() != before);
+}
+
+void TestPdfPanel::paperChangesThePreview()
+{
+    QVERIFY(m_host->openNumbered(4));
+    QVERIFY(m_host->showDialog());
+    m_host->press("lastRecordButton");
+    m_host->press("fitToPageCheck");
+    const QImage before = m_host->previewPicture();
+    m_host->window->settings().setPaper(Paper::A4);
+    QVERIFY(m_host->previewPicture() != before);
+    m_host->window->settings().setPaper(Paper::LabelSize);
+    QCOMPARE(m_host->previewPicture(), before);
+}
+
+void TestPdfPanel::printersAreListed()
+{
+    QVERIFY(m_host->openNumbered(1));
+    auto* printers = m_host->widget<QComboBox>("PrinterListCombo");
+    printers->clear();
+    m_host->window->eventLog().clear();
+    QVERIFY(m_host->showDialog());
+    QCOMPARE(printers->itemText(0), QStringLiteral("PDF file"));
+    QCOMPARE(m_host->documentPanel().getSelectedPrinter(), QStringLiteral("PDF file"));
+    QCOMPARE(log().filter(QStringLiteral("currentPrinterSelectionChanged")), QStringList());
+}
+
+void TestPdfPanel::printerIsSharedWithTheOtherPages()
+{
+    QVERIFY(m_host->openNumbered(1));
+    QVERIFY(m_host->showDialog());
+    auto* printers = m_host->widget<QComboBox>("PrinterListCombo");
+    printers->addItem(QStringLiteral("Hall"));
+    printers->setCurrentIndex(printers->findText(QStringLiteral("Hall")));
+    QCOMPARE(m_host->window->settings().printer(), QStringLiteral("Hall"));
+    QCOMPARE(m_host->window->statusBar()->currentMessage(), QStringLiteral("Hall (unavailable)"));
+    m_host->window->settings().setPrinter(QStringLiteral("PDF file"));
+    QCOMPARE(m_host->documentPanel().getSelectedPrinter(), QStringLiteral("PDF file"));
+    m_host->documentPanel().currentPrinterSelectionChangedSlot(0);
+    QCOMPARE(m_host->window->statusBar()->currentMessage(),
+             QStringLiteral("PDF file: ") + m_host->outputPath());
+}
+
+void TestPdfPanel::settingsButtonOpensThePreferences()
+{
+    QVERIFY(m_host->openNumbered(1));
+    QVERIFY(m_host->showDialog());
+    m_host->press("PreferencesButton");
+    auto* preferences = m_host->window->findChild<QDialog*>(QStringLiteral("preferencesDialog"));
+    QVERIFY(preferences != nullptr);
+    QVERIFY(preferences->isVisible());
+    QCOMPARE(preferences->parentWidget(), &m_host->dialog());
+    preferences->reject();
+    QVERIFY(m_host->dialog().isVisible());
+}
+
+void TestPdfPanel::copiesAreTidied()
+{
+    QVERIFY(m_host->openNumbered(1));
+    QVERIFY(m_host->showDialog());
+    auto* copies = m_host->widget<QLineEdit>("copiesEdit");
+    copies->clear();
+    Q_EMIT m_host->documentPanel().focusLost();
+    QCOMPARE(copies->text(), QStringLiteral("1"));
+    copies->setText(QStringLiteral("25"));
+    Q_EMIT m_host->documentPanel().focusLost();
+    QCOMPARE(copies->text(), QStringLiteral("25"));
+}
+
+void TestPdfPanel::shortcutsReachThePanel()
+{
+    QVERIFY(m_host->openNumbered(3));
+    QVERIFY(m_host->showDialog());
+    QTRY_COMPARE(QApplication::activeWindow(), &m_host->dialog());
+    QSignalSpy requests(&m_host->documentPanel(), &MultiPagePrintWidget::widgetPrintSignal);
+    QTest::keyClick(&m_host->dialog(), Qt::Key_Plus, Qt::ControlModifier);
+    QTest::keyClick(&m_host->dialog(), Qt::Key_Plus, Qt::ControlModifier);
+    QCOMPARE(m_host->documentPanel().getNumberOfCopies(), 3);
+    QTest::keyClick(&m_host->dialog(), Qt::Key_Minus, Qt::ControlModifier);
+    QCOMPARE(m_host->documentPanel().getNumberOfCopies(), 2);
+    m_host->typePages(QStringLiteral("9"));
+    QTest::keyClick(&m_host->dialog(), Qt::Key_P, Qt::ControlModifier);
+    QVERIFY(requests.isEmpty());
+    m_host->typePages(QStringLiteral("3"));
+    QTest::keyClick(&m_host->dialog(), Qt::Key_P, Qt::ControlModifier);
+    QCOMPARE(requests.size(), qsizetype(1));
+    QTRY_COMPARE(m_host->printedPages(), QStringLiteral("3 3"));
+}
+
+void TestPdfPanel::barredDocumentsAreNotPrinted()
+{
+    QVERIFY(m_host->openBytes(PdfSamples::encrypted(PdfSamples::form(), QByteArray(), false)));
+    QVERIFY(m_host->showDialog());
+    QVERIFY(!m_host->widget("PrintButton")->isEnabled());
+    QCOMPARE(m_host->title(), QStringLiteral("in.pdf - cannot be printed: the author of the "
+                                             "document does not allow it"));
+    m_host->press("allPagesRadio");
+    QVERIFY(!m_host->widget("PrintButton")->isEnabled());
+}
+
+void TestPdfPanel::eventsAreLogged()
+{
+    QVERIFY(m_host->openBytes(PdfSamples::form()));
+    m_host->window->eventLog().clear();
+    QVERIFY(m_host->showDialog());
+    m_host->typePages(QStringLiteral("2,1"));
+    m_host->press("formFillCheck");
+    m_host->press("fitToPageCheck");
+    m_host->press("orientationCheck");
+    m_host->press("PrintButton");
+    QStringList lines = log();
+    // The offscreen platform decides when the focus moves.
+    lines.removeAll(QStringLiteral("Documents: focusLost()"));
+    QCOMPARE(lines, (QStringList{QStringLiteral("Documents: printWidgetShowSignal()"),
+                                 QStringLiteral("Documents: startPageChangedSignal(1)"),
+                                 QStringLiteral("Documents: startPageChangedSignal(2)"),
+                                 QStringLiteral("Documents: printFormFillChangedSignal(2)"),
+                                 QStringLiteral("Documents: fitToPageChangedSignal(0)"),
+                                 QStringLiteral("Documents: orientationChangedSignal(2)"),
+                                 QStringLiteral("Documents: widgetPrintSignal(0, 0, \"2,1\")")}));
+}
+
+// A signal that is added to the panel must not be forgotten.
+void TestPdfPanel::everySignalIsLogged()
+{
+    MultiPagePrintWidget panel(false, false, nullptr);
+    EventLog events;
+    events.watch(panel, QStringLiteral("A"));
+    const QMetaObject* metaObject = panel.metaObject();
+    int signalCount = 0;
+    for (int i = QWidget::staticMetaObject.methodCount(); i < metaObject->methodCount(); ++i) {
+        const QMetaMethod method = metaObject->method(i);
+        if (method.methodType() != QMetaMethod::Signal) {
+            continue;
+        }
+        ++signalCount;
+        QList<QVariant> values;
+        QGenericArgument arguments[3];
+        for (int a = 0; a < method.parameterCount(); ++a) {
+            values.append(QVariant(method.parameterMetaType(a)));
+        }
+        for (int a = 0; a < method.parameterCount(); ++a) {
+            arguments[a] = QGenericArgument(method.parameterMetaType(a).name(), values[a].data());
+        }
+        events.clear();
+        QVERIFY2(
+            method.invoke(&panel, Qt::DirectConnection, arguments[0], arguments[1], arguments[2]),
+            method.methodSignature().constData());
+        QCOMPARE(events.lines().size(), qsizetype(1));
+        QVERIFY2(events.lines().at(0).startsWith(
+                     QStringLiteral("A: ") + QString::fromLatin1(method.name()) + QLatin1Char('(')),
+                 method.methodSignature().constData());
+    }
+    QCOMPARE(signalCount, 14);
+}
+
+QTEST_MAIN(TestPdfPanel)
+
+#include "tst_pdfpanel.moc"
