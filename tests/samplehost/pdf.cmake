@@ -20,6 +20,6 @@ foreach(name IN ITEMS
         pdfpainting
         pdfsheet)
     printpanels_add_test(tst_${name}
-        SOURCES tst_${name}.cpp "${PROJECT_SOURCE_DIR}/tests/support/stricttest.h"
+        SOURCES tst_${name}.cpp
         LIBRARIES pdfsamples Qt6::Pdf)
 endforeach()

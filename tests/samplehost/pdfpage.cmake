@@ -2,12 +2,11 @@
 foreach(name IN ITEMS pdfpage pdfpanel pdfprinting)
     printpanels_add_test(tst_${name}
         SOURCES tst_${name}.cpp documenthost.h hostfixture.h
-            "${PROJECT_SOURCE_DIR}/tests/support/stricttest.h"
         LIBRARIES samplehost_app pdfsamples Qt6::Pdf)
 endforeach()
 
 printpanels_add_test(tst_pdfcommands
-    SOURCES tst_pdfcommands.cpp "${PROJECT_SOURCE_DIR}/tests/support/stricttest.h"
+    SOURCES tst_pdfcommands.cpp
     LIBRARIES samplehost_app pdfsamples Qt6::Pdf
     DEFINITIONS "SAMPLEHOST_PROGRAM=\"$<TARGET_FILE:samplehost>\"")
 add_dependencies(tst_pdfcommands samplehost)
