@@ -3,5 +3,5 @@
 include("${CMAKE_CURRENT_LIST_DIR}/steps.cmake")
 
 build_project("${CMAKE_CURRENT_LIST_DIR}/ownkit" "${WORK_DIR}/build"
-    "-DPRINTPANELS_SOURCE=${SOURCE_DIR}")
+    "-DPRINTPANELS_SOURCE=${SOURCE_DIR}" "-DPRINTPANELS_PCH=${PCH}")
 run("${WORK_DIR}/build/host")
