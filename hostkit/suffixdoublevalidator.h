@@ -23,6 +23,9 @@
  * its sign or point, a suffix cut off or without a number, and a number that is too close to zero.
  * Invalid: everything else, also a number that is too far from zero or has too many decimals.
  *
+ * A number counts as the double nearest to it, as the bounds do: beyond the largest double it is
+ * infinite, closer to zero than the smallest it is zero.
+ *
  * A suffix is expected not to begin with a digit, a point or a minus sign.
  */
 class HOSTKIT_EXPORT SuffixDoubleValidator : public QValidator
