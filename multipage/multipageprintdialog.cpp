@@ -1,5 +1,6 @@
 #include "multipage/multipageprintdialog.h"
 
+#include "foundation/controlrefuge.h"
 #include "foundation/hostkit.h"
 #include "foundation/sharedconstants.h"
 #include "foundation/stylesheets.h"
@@ -41,9 +42,15 @@ MultiPagePrintDialog::MultiPagePrintDialog(QWidget* settingsPanel, QWidget* pare
 
     connect(titleBar, SIGNAL(closeButtonClicked()), this, SLOT(close()));
     connect(titleBar, SIGNAL(signalMove(int, int)), this, SLOT(mouseMoveSlot(int, int)));
+    ownControls = PrintPanels::controlsOf(this);
+    ownControls.removeAll(panel);
 }
 
-MultiPagePrintDialog::~MultiPagePrintDialog() = default;
+// The settings panel is not among them: it sees to its own controls.
+MultiPagePrintDialog::~MultiPagePrintDialog()
+{
+    PrintPanels::outliveSignal(sender(), ownControls);
+}
 
 QFrame* MultiPagePrintDialog::createPreviewFrame()
 {

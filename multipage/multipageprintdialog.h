@@ -3,6 +3,7 @@
 
 #include <printpanels/printpanels_export.h>
 
+#include <QtCore/QList>
 #include <QtCore/QPointer>
 #include <QtGui/QImage>
 #include <QtWidgets/QDialog>
@@ -55,6 +56,8 @@ private:
 
     ContainerTitleBar* titleBar = nullptr;
     QPointer<QWidget> panel;
+    // What outlives the dialog when it is deleted in a handler of its own signals.
+    QList<QPointer<QWidget>> ownControls;
     PrintPanels::PreviewView* preview = nullptr;
     QImage placeholder;
 };

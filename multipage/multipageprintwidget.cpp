@@ -2,6 +2,7 @@
 
 #include "multipage/multipageprintwidget.h"
 
+#include "foundation/controlrefuge.h"
 #include "foundation/hostkit.h"
 #include "foundation/stylesheets.h"
 
@@ -25,9 +26,13 @@ MultiPagePrintWidget::MultiPagePrintWidget(bool fitToPage, bool withInterfaceFla
     setStyleSheet(StyleSheets::panel());
     setFixedWidth(panelWidth);
     createWidgetLayout(fitToPage);
+    ownControls = PrintPanels::controlsOf(this);
 }
 
-MultiPagePrintWidget::~MultiPagePrintWidget() = default;
+MultiPagePrintWidget::~MultiPagePrintWidget()
+{
+    PrintPanels::outliveSignal(sender(), ownControls);
+}
 
 // Each step adds its section below the one before.
 void MultiPagePrintWidget::createWidgetLayout(bool fitToPage)

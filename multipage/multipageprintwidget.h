@@ -4,6 +4,9 @@
 #include <printpanels/printpanels_export.h>
 #include <printpanels/printwidgetinterface.h>
 
+#include <QtCore/QList>
+#include <QtCore/QPointer>
+
 class QBoxLayout;
 class QButtonGroup;
 class QCheckBox;
@@ -155,6 +158,8 @@ private:
     void addSpacer();
     // Kept for the interface, read by nobody.
     [[maybe_unused]] const bool interfaceFlag;
+    // What outlives the panel when it is deleted in a handler of its own signals.
+    QList<QPointer<QWidget>> ownControls;
     QVBoxLayout* mainLayout = nullptr;
 
     // ---- Pages (multipageprintwidget_pages.cpp) ----

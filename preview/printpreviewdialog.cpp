@@ -1,5 +1,6 @@
 #include "preview/printpreviewdialog.h"
 
+#include "foundation/controlrefuge.h"
 #include "foundation/hostkit.h"
 #include "foundation/sharedconstants.h"
 #include "foundation/stylesheets.h"
@@ -112,9 +113,13 @@ PrintPreviewDialog::PrintPreviewDialog(QWidget* parent, Qt::WindowFlags flags, c
     preview = new PreviewView(image, viewSize);
     createLayout(createButtonRow(buttons));
     connectControls(buttons);
+    ownControls = PrintPanels::controlsOf(this);
 }
 
-PrintPreviewDialog::~PrintPreviewDialog() = default;
+PrintPreviewDialog::~PrintPreviewDialog()
+{
+    PrintPanels::outliveSignal(sender(), ownControls);
+}
 
 void PrintPreviewDialog::createTitleBar()
 {

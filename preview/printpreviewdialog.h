@@ -3,6 +3,8 @@
 
 #include <printpanels/printpanels_export.h>
 
+#include <QtCore/QList>
+#include <QtCore/QPointer>
 #include <QtCore/QString>
 #include <QtWidgets/QWidget>
 
@@ -103,6 +105,8 @@ private:
     void createLayout(QBoxLayout* buttonRow);
     void connectControls(const Buttons& buttons);
 
+    // What outlives the popup when it is deleted in a handler of its own signals.
+    QList<QPointer<QWidget>> ownControls;
     PrintPanels::PreviewView* preview = nullptr;
     ContainerTitleBar* titleBar = nullptr;
     QPushButton* portraitButton = nullptr;

@@ -2,6 +2,7 @@
 
 #include "printpanel/printwidget.h"
 
+#include "foundation/controlrefuge.h"
 #include "foundation/hostkit.h"
 #include "foundation/stylesheets.h"
 
@@ -21,9 +22,13 @@ PrintWidget::PrintWidget(bool withPrintToFile, QWidget* parent)
     setObjectName(QStringLiteral("PrintWidget"));
     setStyleSheet(StyleSheets::printSettingsPanel());
     createWidgetLayout();
+    ownControls = PrintPanels::controlsOf(this);
 }
 
-PrintWidget::~PrintWidget() = default;
+PrintWidget::~PrintWidget()
+{
+    PrintPanels::outliveSignal(sender(), ownControls);
+}
 
 // Each step adds its section below the one before.
 void PrintWidget::createWidgetLayout()

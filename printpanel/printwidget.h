@@ -4,6 +4,9 @@
 #include <printpanels/printpanels_export.h>
 #include <printpanels/printwidgetinterface.h>
 
+#include <QtCore/QList>
+#include <QtCore/QPointer>
+
 #include <optional>
 #include <utility>
 
@@ -190,6 +193,8 @@ private:
     void createUserBackgroundCheck();
     void createBottomSeparator();
     const bool printToFile;
+    // What outlives the panel when it is deleted in a handler of its own signals.
+    QList<QPointer<QWidget>> ownControls;
     QVBoxLayout* mainLayout = nullptr;
     QCheckBox* userBackgroundCheck = nullptr;
     QFrame* bottomSeparator = nullptr;

@@ -1,5 +1,6 @@
 #include "quickprint/quickprintwidget.h"
 
+#include "foundation/controlrefuge.h"
 #include "foundation/hostkit.h"
 #include "foundation/panelparts.h"
 #include "foundation/sharedconstants.h"
@@ -85,9 +86,13 @@ QuickPrintWidget::QuickPrintWidget(bool quickPrint, QWidget* parent)
     setObjectName(QStringLiteral("QuickPrintWidget"));
     setStyleSheet(StyleSheets::panel());
     createWidgetLayout();
+    ownControls = PrintPanels::controlsOf(this);
 }
 
-QuickPrintWidget::~QuickPrintWidget() = default;
+QuickPrintWidget::~QuickPrintWidget()
+{
+    PrintPanels::outliveSignal(sender(), ownControls);
+}
 
 void QuickPrintWidget::createWidgetLayout()
 {
