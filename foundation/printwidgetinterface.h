@@ -17,6 +17,13 @@ class QFrame;
  * then on pushes what it knows (printer status, loaded supply, current record). The panel answers
  * with signals only: it never prints. Operations that a panel does not offer do nothing and answer
  * 0, false or an empty string, so a host may call any operation on any panel.
+ *
+ * A handler of a panel's signal may delete the panel, or a parent of it, at once: the controls of
+ * this library's panels outlive their own signal, hidden, until control is back in the event loop.
+ * It has to use deleteLater() where Qt itself goes on with the panel or its window: in a handler of
+ * printWidgetShowSignal(); while the host hides, closes or disables the panel or its window; when
+ * the window loses the keyboard to another one; and where the handler runs
+ * QCoreApplication::processEvents(), in which the panel is then deleted.
  */
 class PRINTPANELS_EXPORT PrintWidgetInterface : public QWidget
 {
@@ -102,9 +109,16 @@ Q_SIGNALS:
     void currentPrinterSelectionChanged(const QString& printerName);
     /** The user wants to go to the module that edits the label. */
     void openModuleSignal();
-    /** The panel, or its copies field, lost the keyboard focus. */
+    /**
+     * The panel, or its copies field, lost the keyboard focus. The focus may leave because another
+     * window gets it, or because the host hides the panel: a handler that deletes the panel's
+     * window uses deleteLater().
+     */
     void focusLost();
-    /** The panel was shown; emitted after each show event. */
+    /**
+     * The panel was shown; emitted after each show event. Qt is not done with the panel then: a
+     * handler that deletes it or a parent of it uses deleteLater().
+     */
     void printWidgetShowSignal();
     /** The user corrected the width of the loaded supply, in the unit that is shown. */
     void supplyWidthChangedSignal(double width);

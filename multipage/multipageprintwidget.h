@@ -30,9 +30,8 @@ class JxLineEdit;
  * The panel is 270 pixels wide. Whoever places it in a layout owns it; the panel owns all it shows.
  * The Print button starts disabled. Pages are 1-based, but for updateCurrentRangeIndex().
  *
- * A handler of widgetPrintSignal(), openPreferencesSignal() or of what an operation emits may
- * delete the panel at once. Any other handler uses deleteLater(): the check box, edit or combo box
- * that tells of its change is not done with itself yet.
+ * A handler of its signals may delete the panel at once, also of those that an operation emits;
+ * PrintWidgetInterface tells the exceptions.
  */
 class PRINTPANELS_EXPORT MultiPagePrintWidget : public PrintWidgetInterface
 {
@@ -146,9 +145,10 @@ public Q_SLOTS:
     void increaseCopyCount();
 
 protected:
-    /** Emits focusLost() after the base class has handled the event. */
+    /** Emits focusLost() after the base class has handled the event; see there for deletion. */
     void focusOutEvent(QFocusEvent* event) override;
-    /** Emits printWidgetShowSignal() after the base class has handled the event. */
+    /** Emits printWidgetShowSignal() after the base class has handled the event; see there for
+     * deletion. */
     void showEvent(QShowEvent* event) override;
 
 private:

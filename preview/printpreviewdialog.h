@@ -27,6 +27,8 @@ class PreviewView;
  * updatePreview(). It starts hidden, and the host shows it, any number of times. The host owns it
  * like any QWidget; it owns all it shows. Its size is fixed at 860 x 500 pixels. Sizes are numbers
  * in the unit that @e metric names: millimetres if true, inches if false.
+ *
+ * A handler of its signals may delete it, or a parent of it, at once.
  */
 class PRINTPANELS_EXPORT PrintPreviewDialog : public QWidget
 {
