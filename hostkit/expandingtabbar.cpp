@@ -140,7 +140,7 @@ QPixmap ExpandingTabBar::contents(int index) const
     // In front of a text, a little way off the tab's edge.
     const bool indented = picture.isEmpty() && !isRightToLeft();
     QRect place(QPoint(indented ? spacing : 0, 0), iconSize());
-    const QIcon icon = picture.isEmpty() ? tabIcon(index) : QIcon(picture);
+    const QIcon icon = picture.isEmpty() ? tabIcon(index) : pictureIcon(picture);
     if (!icon.isNull()) {
         icon.paint(&painter, place);
         place.translate(place.width() + spacing, 0);
@@ -149,6 +149,14 @@ QPixmap ExpandingTabBar::contents(int index) const
     if (!tabColorRect(index).isEmpty())
         paintColorRect(&painter, place.adjusted(0, inset, 0, -inset), tabColorRect(index));
     return image;
+}
+
+QIcon ExpandingTabBar::pictureIcon(const QString& file) const
+{
+    QIcon& icon = m_pictures[file];
+    if (icon.isNull())
+        icon = QIcon(file);
+    return icon;
 }
 
 void ExpandingTabBar::updateAccessibleName(int index)

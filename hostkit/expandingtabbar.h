@@ -3,6 +3,8 @@
 
 #include <hostkit_export.h>
 
+#include <QtCore/QHash>
+#include <QtGui/QIcon>
 #include <QtWidgets/QTabBar>
 
 /**
@@ -46,8 +48,12 @@ protected:
 private:
     QSize contentsSize(int index) const;
     QPixmap contents(int index) const;
+    QIcon pictureIcon(const QString& file) const;
     bool isVertical() const;
     void updateAccessibleName(int index);
+
+    // By file. Kept, because Qt caches the picture of every new icon anew.
+    mutable QHash<QString, QIcon> m_pictures;
 };
 
 #endif

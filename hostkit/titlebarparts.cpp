@@ -1,6 +1,5 @@
 #include "titlebarparts.h"
 
-#include <QtGui/QIcon>
 #include <QtGui/QPainter>
 
 namespace HostKit {
@@ -29,7 +28,10 @@ void TitleBarLabel::paintEvent(QPaintEvent*)
     painter.drawText(rect(), Qt::AlignVCenter | Qt::AlignLeading | Qt::TextSingleLine, shown);
 }
 
-TitleBarButton::TitleBarButton(QWidget* parent) : QAbstractButton(parent)
+TitleBarButton::TitleBarButton(QWidget* parent)
+    : QAbstractButton(parent),
+      m_cross(QStringLiteral(":/hostkit/close.png")),
+      m_pressedCross(QStringLiteral(":/hostkit/close-pressed.png"))
 {
     setObjectName(QStringLiteral("CloseButton"));
     setFocusPolicy(Qt::NoFocus);
@@ -47,8 +49,7 @@ void TitleBarButton::paintEvent(QPaintEvent*)
     QPainter painter(this);
     if (underMouse() && !isDown())
         painter.fillRect(rect(), QColor(255, 255, 255, 40));
-    const QIcon cross(isDown() ? QStringLiteral(":/hostkit/close-pressed.png")
-                               : QStringLiteral(":/hostkit/close.png"));
+    const QIcon& cross = isDown() ? m_pressedCross : m_cross;
     cross.paint(&painter, rect(), Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
 }
 

@@ -1,6 +1,7 @@
 #ifndef TITLEBARPARTS_H
 #define TITLEBARPARTS_H
 
+#include <QtGui/QIcon>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QLabel>
 
@@ -35,6 +36,11 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    // Kept, because Qt caches the picture of every new icon anew.
+    QIcon m_cross;
+    QIcon m_pressedCross;
 };
 
 } // namespace HostKit

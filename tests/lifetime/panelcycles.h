@@ -1,0 +1,24 @@
+#ifndef PANELCYCLES_H
+#define PANELCYCLES_H
+
+#include <QtCore/QList>
+
+#include <cstddef>
+
+/** The life of a panel: created, shown, used a little and destroyed. */
+struct PanelCycle
+{
+    const char* name;
+    void (*run)();
+};
+
+/** One for each panel, one where the panel dies in a handler of its own signal, one for the kit. */
+QList<PanelCycle> panelCycles();
+
+/** Runs @p cycle this often, with all that was to be deleted later deleted after each. */
+void runCycles(const PanelCycle& cycle, int times);
+
+/** Bytes of the heap that are in use, counted by malloc or by a sanitizer that replaces it. */
+std::size_t heapInUse();
+
+#endif
