@@ -1,9 +1,12 @@
 #include "expandingtabbar.h"
 
 #include "colortext.h"
+#include "plaintooltip.h"
 
+#include <QtGui/QHelpEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyleOptionTab>
+#include <QtWidgets/QToolTip>
 
 namespace {
 constexpr int spacing = 6;
@@ -63,6 +66,19 @@ void ExpandingTabBar::setTabToolTip(int index, const QString& toolTip)
 {
     QTabBar::setTabToolTip(index, toolTip);
     updateAccessibleName(index);
+}
+
+bool ExpandingTabBar::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        const QString text = tabToolTip(tabAt(help->pos()));
+        if (!text.isEmpty()) {
+            QToolTip::showText(help->globalPos(), HostKit::plainToolTip(text), this);
+            return true;
+        }
+    }
+    return QTabBar::event(event);
 }
 
 void ExpandingTabBar::tabLayoutChange()

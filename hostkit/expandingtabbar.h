@@ -37,10 +37,14 @@ public:
     /** The text last accepted by setTabColorRect() for tab @p index; empty without one. */
     QString tabColorRect(int index) const;
 
-    /** Sets the tool tip of tab @p index, which also names a tab that shows a picture. */
+    /**
+     * Sets the tool tip of tab @p index, which also names a tab that shows a picture. It is shown
+     * letter for letter, never as markup.
+     */
     void setTabToolTip(int index, const QString& toolTip);
 
 protected:
+    bool event(QEvent* event) override;
     void initStyleOption(QStyleOptionTab* option, int tabIndex) const override;
     void tabLayoutChange() override;
     QSize tabSizeHint(int index) const override;
