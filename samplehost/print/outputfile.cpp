@@ -22,6 +22,13 @@ QIODevice* OutputFile::open(QString& problem)
                       .arg(QDir::toNativeSeparators(folder.filePath()));
         return nullptr;
     }
+    // A complete file takes the place of what has its name; a device or a queue must not go so.
+    const QFileInfo existing(m_path);
+    if (existing.exists() && !existing.isFile()) {
+        problem =
+            explained(existing.isDir() ? tr("it is a folder") : tr("it is not an ordinary file"));
+        return nullptr;
+    }
     m_file = std::make_unique<CheckedSaveFile>(m_path);
     if (!m_file->open(QIODevice::WriteOnly)) {
         problem = failure();
@@ -66,7 +73,11 @@ QString OutputFile::description() const
 
 QString OutputFile::failure() const
 {
-    const QString reason = m_file ? m_file->failure() : tr("the file is not open");
+    return explained(m_file ? m_file->failure() : tr("the file is not open"));
+}
+
+QString OutputFile::explained(const QString& reason) const
+{
     return tr("The file \"%1\" cannot be written: %2.")
         .arg(QDir::toNativeSeparators(m_path), reason);
 }

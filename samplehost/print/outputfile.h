@@ -43,6 +43,7 @@ public:
 private:
     Q_DISABLE_COPY_MOVE(OutputFile)
     QString failure() const;
+    QString explained(const QString& reason) const;
 
     QString m_path;
     std::unique_ptr<CheckedSaveFile> m_file;
