@@ -10,9 +10,11 @@
 #include "samplehost/app/printcontroller.h"
 #include "samplehost/app/recordnavigator.h"
 #include "samplehost/app/userhands.h"
+#include "samplehost/print/outputfile.h"
 
 #include <printpanels/printwidget.h>
 
+#include <QtCore/QBuffer>
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtGui/QPixmap>
@@ -25,6 +27,29 @@
 namespace SampleHost {
 
 using Records = CommandLine::Records;
+
+namespace {
+
+/** Writes a PNG file, complete or not at all. */
+bool savePicture(const QPixmap& picture, const QString& path, QString& problem)
+{
+    // By way of memory, since the encoder prints messages of its own when writing fails.
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    if (!picture.save(&buffer, "PNG")) {
+        problem = HeadlessRun::tr("The picture of the window cannot be made.");
+        return false;
+    }
+    OutputFile file(path);
+    QIODevice* device = file.open(problem);
+    if (device == nullptr) {
+        return false;
+    }
+    device->write(bytes);
+    return file.commit(problem);
+}
+
+} // namespace
 
 HeadlessRun::HeadlessRun(MainWindow& window, const CommandLine& command, QObject* parent)
     : QObject(parent), m_window(window), m_command(command)
@@ -233,9 +258,9 @@ bool HeadlessRun::saveScreenshot()
     UserHands::wait();
     QWidget* popup = openPopup(m_window);
     QWidget* picture = popup != nullptr ? popup : &m_window;
-    if (!picture->grab().save(m_command.screenshot, "PNG")) {
-        return fail(RuntimeFailure, tr("The picture \"%1\" cannot be written.")
-                                        .arg(QDir::toNativeSeparators(m_command.screenshot)));
+    QString problem = m_window.settings().whyNotReplace(m_command.screenshot);
+    if (!problem.isEmpty() || !savePicture(picture->grab(), m_command.screenshot, problem)) {
+        return fail(RuntimeFailure, problem);
     }
     Q_EMIT reported(
         tr("Saved a picture of the window to %1")

@@ -44,6 +44,12 @@ const QString nupKey = QStringLiteral("output/nup");
 const QString documentKey = QStringLiteral("documents/recent");
 const QString metricKey = QStringLiteral("view/metric");
 
+bool isSameFile(const QString& path, const QString& other)
+{
+    const QString file = QFileInfo(path).canonicalFilePath();
+    return !file.isEmpty() && file == QFileInfo(other).canonicalFilePath();
+}
+
 } // namespace
 
 QString paperName(Paper paper)
@@ -134,6 +140,21 @@ void HostSettings::setRecentDocument(const QString& path)
     m_recentDocument = path.isEmpty() ? QString() : QFileInfo(path).absoluteFilePath();
 }
 
+QString HostSettings::whyNotReplace(const QString& path) const
+{
+    const QString name = QDir::toNativeSeparators(path);
+    if (isSameFile(path, m_dataFile)) {
+        return tr("Writing \"%1\" would replace the database of the labels. Choose another file.")
+            .arg(name);
+    }
+    if (isSameFile(path, m_openDocument)) {
+        return tr("Printing to \"%1\" would replace the document itself. Choose another PDF "
+                  "file in the preferences.")
+            .arg(name);
+    }
+    return QString();
+}
+
 void HostSettings::load()
 {
     const QSettings stored;
@@ -150,7 +171,7 @@ void HostSettings::load()
     setMetric(stored.value(metricKey, m_metric).toBool());
 }
 
-void HostSettings::save() const
+bool HostSettings::save() const
 {
     QSettings stored;
     stored.setValue(folderKey, m_outputFolder);
@@ -159,6 +180,8 @@ void HostSettings::save() const
     stored.setValue(documentKey, m_recentDocument);
     stored.setValue(nupKey, m_nup.text());
     stored.setValue(metricKey, m_metric);
+    stored.sync();
+    return stored.status() == QSettings::NoError;
 }
 
 } // namespace SampleHost

@@ -62,10 +62,19 @@ public:
     /** Keeps an opened document in mind; nobody is told. */
     void setRecentDocument(const QString& path);
 
+    /** Names the file of the records; empty for none. */
+    void setDataFile(const QString& path) { m_dataFile = path; }
+    /** Names the document that is open; empty for none. */
+    void setOpenDocument(const QString& path) { m_openDocument = path; }
+    /** Why nothing may be written in the place of a file, in words for the user: the host reads
+     * it. Empty for any other. */
+    QString whyNotReplace(const QString& path) const;
+
     /** Reads what save() wrote for this user; what was never saved stays. */
     void load();
-    /** Keeps the settings for the next start of the program. */
-    void save() const;
+    /** Keeps the settings for the next start of the program. False, with those kept before as they
+     * were, if they cannot be written. */
+    bool save() const;
 
 Q_SIGNALS:
     /** Any of the settings but the printer has a new value. */
@@ -80,6 +89,8 @@ private:
     NupLayout m_nup;
     QString m_printer;
     QString m_recentDocument;
+    QString m_dataFile;
+    QString m_openDocument;
     bool m_metric = false;
 };
 

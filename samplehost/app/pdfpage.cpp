@@ -139,6 +139,7 @@ void PdfPage::setDocument(std::shared_ptr<PdfDocument> document)
     m_document = std::move(document);
     m_imageIndex = -1;
     const bool any = m_document != nullptr;
+    m_settings.setOpenDocument(any ? m_document->path() : QString());
     m_nameLabel->setText(any ? QFileInfo(m_document->path()).fileName() : QString());
     m_nameLabel->setToolTip(any ? QDir::toNativeSeparators(m_document->path()) : QString());
     m_printButton->setEnabled(any);

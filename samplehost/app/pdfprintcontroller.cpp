@@ -9,22 +9,9 @@
 
 #include <printpanels/multipageprintwidget.h>
 
-#include <QtCore/QDir>
-#include <QtCore/QFileInfo>
-
 #include <utility>
 
 namespace SampleHost {
-
-namespace {
-
-bool isSameFile(const QString& path, const QString& other)
-{
-    const QString file = QFileInfo(path).canonicalFilePath();
-    return !file.isEmpty() && file == QFileInfo(other).canonicalFilePath();
-}
-
-} // namespace
 
 PdfPrintController::PdfPrintController(PdfPreview& preview, const HostSettings& settings,
                                        QObject* parent)
@@ -77,10 +64,8 @@ std::unique_ptr<PrintJob> PdfPrintController::makeJob(const PdfPrintRequest& req
                                  std::make_unique<PrinterTarget>(printer, m_document->title()));
     }
     const QString path = m_settings.outputPath();
-    if (isSameFile(path, m_document->path())) {
-        problem = tr("Printing to \"%1\" would replace the document itself. Choose another PDF "
-                     "file in the preferences.")
-                      .arg(QDir::toNativeSeparators(path));
+    problem = m_settings.whyNotReplace(path);
+    if (!problem.isEmpty()) {
         return nullptr;
     }
     return makePdfFileJob(*m_document, request, path);

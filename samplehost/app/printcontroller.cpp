@@ -130,7 +130,9 @@ std::unique_ptr<PrintTarget> PrintController::makeTarget(QString& problem) const
     }
     const QString printer = selectedPrinter();
     if (printer == PrinterDirectory::pdfFileName()) {
-        return std::make_unique<PdfTarget>(m_settings.outputPath(), title);
+        const QString path = m_settings.outputPath();
+        problem = m_settings.whyNotReplace(path);
+        return problem.isEmpty() ? std::make_unique<PdfTarget>(path, title) : nullptr;
     }
     return std::make_unique<PrinterTarget>(printer, title);
 }

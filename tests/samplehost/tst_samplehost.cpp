@@ -239,8 +239,7 @@ void TestSampleHost::failuresAreExplained_data()
     QTest::newRow("printer") << QStringLiteral("--all --printer Nobody") << 1
                              << QStringLiteral("There is no printer \"Nobody\".\n");
     QTest::newRow("picture") << QStringLiteral("--screenshot missing/out.png") << 1
-                             << QStringLiteral(
-                                    "The picture \"missing/out.png\" cannot be written.\n");
+                             << QStringLiteral("The folder \"%1/missing\" does not exist.\n");
     QTest::newRow("driver") << QStringLiteral("--driver NOSUCH --all --output out.pdf") << 1
                             << QString();
     QTest::newRow("option") << QStringLiteral("--odd") << 2
