@@ -10,23 +10,34 @@ namespace SampleHost {
 
 namespace {
 
-/** Reads records one after the other; copies of the same label are read once. */
+/**
+ * Reads records one after the other; copies of the same label are read once. So is one that cannot
+ * be read: a locked database lets each try wait, and a window is painted often.
+ */
 class RecordReader
 {
 public:
-    explicit RecordReader(const RecordSource* source) : m_source(source) {}
+    RecordReader(std::shared_ptr<const RecordSource> source, const QString& problem)
+        : m_source(std::move(source)), m_problem(problem)
+    {
+    }
 
     const Chemical* read(int record, QString& problem)
     {
         if (m_source != nullptr && record != m_record) {
-            m_chemical = m_source->record(record - 1, &problem);
+            m_chemical = m_source->record(record - 1, &m_problem);
             m_record = record;
         }
-        return m_chemical ? &*m_chemical : nullptr;
+        if (!m_chemical) {
+            problem = m_problem;
+            return nullptr;
+        }
+        return &*m_chemical;
     }
 
 private:
-    const RecordSource* m_source;
+    std::shared_ptr<const RecordSource> m_source;
+    QString m_problem;
     std::optional<Chemical> m_chemical;
     int m_record = 0;
 };
@@ -41,11 +52,17 @@ LabelOptions optionsOf(const PrintRequest& request)
 
 } // namespace
 
-ChemicalDesign::ChemicalDesign(std::unique_ptr<RecordSource> source) : m_source(std::move(source))
+ChemicalDesign::ChemicalDesign(std::unique_ptr<RecordSource> source, const QString& problem)
+    : m_source(std::move(source)), m_sourceProblem(problem)
 {
 }
 
 ChemicalDesign::~ChemicalDesign() = default;
+
+void ChemicalDesign::setSource(std::unique_ptr<RecordSource> source)
+{
+    m_source = std::move(source);
+}
 
 void ChemicalDesign::setCurrentIndex(int index)
 {
@@ -82,7 +99,12 @@ int ChemicalDesign::recordCount() const
     if (m_item) {
         return 1;
     }
-    return m_source ? m_source->count() : 0;
+    QString problem;
+    const int count = m_source ? m_source->count(&problem) : 0;
+    if (problem.isEmpty()) {
+        m_knownCount = count;
+    }
+    return m_knownCount;
 }
 
 void ChemicalDesign::complete(PrintRequest& request) const
@@ -111,7 +133,7 @@ LabelPainter ChemicalDesign::painter(const PrintRequest& request) const
             return true;
         };
     }
-    return [options = optionsOf(request), reader = RecordReader(m_source.get())](
+    return [options = optionsOf(request), reader = RecordReader(m_source, m_sourceProblem)](
                QPainter& painter, const QRectF& area, int record, QString& problem) mutable {
         const Chemical* chemical = reader.read(record, problem);
         if (chemical == nullptr) {

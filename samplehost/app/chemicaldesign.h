@@ -18,9 +18,14 @@ class ChemicalDesign : public LabelDesign
     Q_DECLARE_TR_FUNCTIONS(ChemicalDesign)
 
 public:
-    /** A design over a source, which may be null: then there are no records. */
-    explicit ChemicalDesign(std::unique_ptr<RecordSource> source);
+    /** A design over a source, which may be null: then there are no records, and problem says why
+     * in words for the user. */
+    explicit ChemicalDesign(std::unique_ptr<RecordSource> source,
+                            const QString& problem = QString());
     ~ChemicalDesign() override;
+
+    /** Takes the records from another source. Painters keep the source they were made for. */
+    void setSource(std::unique_ptr<RecordSource> source);
 
     /** The record that the host shows, 0-based; clamped to the records there are. */
     int currentIndex() const override { return m_currentIndex; }
@@ -43,13 +48,17 @@ public:
     QString sourceDescription() const;
 
     QString title() const override;
+    /** The number of records now; while they cannot be read, the number when they last could, so
+     * that a choice among them stays until printing tells what is wrong. */
     int recordCount() const override;
     void complete(PrintRequest& request) const override;
     QSizeF labelSizeMm(const PrintRequest& request) const override;
     LabelPainter painter(const PrintRequest& request) const override;
 
 private:
-    std::unique_ptr<RecordSource> m_source;
+    std::shared_ptr<RecordSource> m_source;
+    QString m_sourceProblem;
+    mutable int m_knownCount = 0;
     int m_currentIndex = 0;
     bool m_bound = true;
     // What an unbound label shows in place of the current record.

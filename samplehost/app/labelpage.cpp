@@ -17,16 +17,16 @@
 
 namespace SampleHost {
 
-LabelPage::LabelPage(std::unique_ptr<RecordSource> source, HostSettings& settings,
+LabelPage::LabelPage(std::unique_ptr<ChemicalDesign> design, HostSettings& settings,
                      bool testControls, QWidget* parent)
-    : PrintPage(testControls, parent), m_design(std::move(source)), m_settings(settings)
+    : PrintPage(testControls, parent), m_design(std::move(design)), m_settings(settings)
 {
-    setUp(createContents(settings), m_design, settings);
+    setUp(createContents(settings), *m_design, settings);
     panel().setModule(JxModuleInfo::GHS);
     connect(m_navigator, &RecordNavigator::currentIndexChanged, this, &LabelPage::showRecord);
     connect(m_typeBar, &LabelTypeBar::changed, this, &LabelPage::applyLabelType);
     connect(&settings, &HostSettings::changed, this, &LabelPage::applyLabelType);
-    m_navigator->setCount(m_design.recordCount());
+    m_navigator->setCount(m_design->recordCount());
     applyLabelType();
 }
 
@@ -49,31 +49,39 @@ QWidget* LabelPage::createContents(HostSettings& settings)
 
 void LabelPage::showRecord(int index)
 {
-    m_design.setCurrentIndex(index);
-    panel().updateCurrentRangeIndex(m_design.currentIndex());
+    m_design->setCurrentIndex(index);
+    panel().updateCurrentRangeIndex(m_design->currentIndex());
     updateView();
+}
+
+void LabelPage::setSource(std::unique_ptr<RecordSource> source)
+{
+    m_design->setSource(std::move(source));
+    m_navigator->setCount(m_design->recordCount());
+    m_design->setCurrentIndex(m_navigator->currentIndex());
+    applyLabelType();
 }
 
 void LabelPage::openItem(const CatalogItem& item, const QSizeF& sizeMm)
 {
     preview().dismiss();
-    m_design.openItem(item, sizeMm);
+    m_design->openItem(item, sizeMm);
     m_typeBar->setBound(false);
     applyLabelType();
 }
 
 void LabelPage::applyLabelType()
 {
-    if (m_design.hasItem() && m_typeBar->isBound()) {
+    if (m_design->hasItem() && m_typeBar->isBound()) {
         preview().dismiss();
     }
-    m_design.setBound(m_typeBar->isBound());
-    const int count = m_design.recordCount();
+    m_design->setBound(m_typeBar->isBound());
+    const int count = m_design->recordCount();
     // A list stands for one record or several; how many there are may be new.
     panel().listRangeParse();
-    const bool choosable = m_design.isBound() && count > 0;
+    const bool choosable = m_design->isBound() && count > 0;
     m_navigator->setEnabled(choosable);
-    panel().setRangeValues(m_design.currentIndex(), std::max(0, count - 1), choosable);
+    panel().setRangeValues(m_design->currentIndex(), std::max(0, count - 1), choosable);
     panel().setNupSeqRepVisible(m_settings.nup().labelsPerPage() > 1);
     panel().setNupDynamicLength(m_typeBar->isDynamicLength());
     applyUserBackground();
@@ -86,7 +94,7 @@ void LabelPage::updateButtons()
     if (controller().isPrinting()) {
         return;
     }
-    if (m_design.recordCount() > 0) {
+    if (m_design->recordCount() > 0) {
         panel().enableAllButtons();
     } else {
         panel().disableAllButtons();
@@ -107,10 +115,10 @@ void LabelPage::applyUserBackground()
 void LabelPage::updateView()
 {
     PrintRequest shown;
-    shown.sequenceStart = m_design.currentIndex() + 1;
+    shown.sequenceStart = m_design->currentIndex() + 1;
     shown.userBackground = m_typeBar->hasUserBackground();
-    m_view->setSheet(m_design.labelSizeMm(shown),
-                     [paintLabel = m_design.painter(shown),
+    m_view->setSheet(m_design->labelSizeMm(shown),
+                     [paintLabel = m_design->painter(shown),
                       record = shown.sequenceStart](QPainter& painter, const QRectF& paper) {
                          QString problem;
                          if (!paintLabel(painter, paper, record, problem)) {

@@ -18,18 +18,21 @@ class LabelPage : public PrintPage
     Q_OBJECT
 
 public:
-    /** A page over a data source; a null one leaves the page without records. */
-    LabelPage(std::unique_ptr<RecordSource> source, HostSettings& settings, bool testControls,
+    /** A page over a design with its data source; a null one leaves the page without records. */
+    LabelPage(std::unique_ptr<ChemicalDesign> design, HostSettings& settings, bool testControls,
               QWidget* parent = nullptr);
     ~LabelPage() override;
 
-    const ChemicalDesign& design() const override { return m_design; }
+    const ChemicalDesign& design() const override { return *m_design; }
 
     /**
      * Shows a catalogue item of a size in millimetres as the label to edit, in place of the label
      * of the records, until the user binds the label to the data source again.
      */
     void openItem(const CatalogItem& item, const QSizeF& sizeMm);
+
+    /** Takes the records from another source. What the user chose and typed stays. */
+    void setSource(std::unique_ptr<RecordSource> source);
 
     /** Chooses the current record. */
     RecordNavigator& navigator() const { return *m_navigator; }
@@ -42,7 +45,7 @@ private:
     void updateButtons();
     void updateView();
 
-    ChemicalDesign m_design;
+    std::unique_ptr<ChemicalDesign> m_design;
     HostSettings& m_settings;
     LabelTypeBar* m_typeBar = nullptr;
     LabelView* m_view = nullptr;

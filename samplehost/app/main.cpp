@@ -8,6 +8,7 @@
 
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QStatusBar>
 
 #include <cstdio>
 
@@ -66,14 +67,16 @@ int runHeadless(MainWindow& window, const CommandLine& command)
 
 int runWithUser(MainWindow& window, const CommandLine& command)
 {
-    window.settings().load();
+    window.keepSettings();
     command.applyTo(window.settings());
     window.show();
     if (!command.state.isEmpty()) {
         applyDemoState(window, command.state);
     }
     const int code = QCoreApplication::exec();
-    window.settings().save();
+    if (!window.saveSettings()) {
+        say(stderr, window.statusBar()->currentMessage());
+    }
     return code;
 }
 

@@ -36,7 +36,7 @@ constexpr QSize windowSize(1100, 760);
 } // namespace
 
 MainWindow::MainWindow(const HostOptions& options, QWidget* parent)
-    : QMainWindow(parent), m_printers(m_settings)
+    : QMainWindow(parent), m_dataSource(options.dataSource), m_printers(m_settings)
 {
     setWindowTitle(tr("Sample Host"));
     m_settings.setPrinter(PrinterDirectory::pdfFileName());
@@ -57,8 +57,10 @@ void MainWindow::createPages(const HostOptions& options)
     m_pages = new QTabWidget;
     m_pages->setDocumentMode(true);
     setCentralWidget(m_pages);
-    auto source = RecordSource::open(options.dataSource, &m_dataSourceProblem);
-    m_labelPage = new LabelPage(std::move(source), m_settings, options.testControls);
+    auto source = RecordSource::open(m_dataSource, &m_dataSourceProblem);
+    m_settings.setDataFile(RecordSource::filePath(m_dataSource));
+    auto design = std::make_unique<ChemicalDesign>(std::move(source), m_dataSourceProblem);
+    m_labelPage = new LabelPage(std::move(design), m_settings, options.testControls);
     m_pipePage = new PipePage(m_settings, options.testControls);
     addPage(m_labelPage, tr("Chemical Labels"), tr("Labels"));
     addPage(m_pipePage, tr("Pipe Markers"), tr("Pipes"));
@@ -110,6 +112,8 @@ void MainWindow::createMenus()
         ->setObjectName(QStringLiteral("countPagesAction"));
     file->addAction(tr("&Add Printer..."), this, &MainWindow::askForPrinter)
         ->setObjectName(QStringLiteral("addPrinterAction"));
+    file->addAction(tr("Re&load Data"), QKeySequence::Refresh, this, &MainWindow::reloadData)
+        ->setObjectName(QStringLiteral("reloadDataAction"));
     file->addAction(tr("P&references..."), this, &MainWindow::openPreferences);
     file->addSeparator();
     file->addAction(tr("&Quit"), QKeySequence::Quit, this, &QWidget::close);
@@ -180,6 +184,33 @@ void MainWindow::countPages()
     const qint64 pages = page->pageCount();
     statusBar()->showMessage(pages == 1 ? tr("1 page would be printed.")
                                         : tr("%1 pages would be printed.").arg(pages));
+}
+
+void MainWindow::reloadData()
+{
+    auto source = RecordSource::open(m_dataSource, &m_dataSourceProblem);
+    if (source == nullptr) {
+        showError(m_dataSourceProblem);
+        return;
+    }
+    m_dataSourceProblem.clear();
+    m_labelPage->setSource(std::move(source));
+    statusBar()->showMessage(m_labelPage->design().sourceDescription());
+}
+
+void MainWindow::keepSettings()
+{
+    m_settings.load();
+    connect(&m_settings, &HostSettings::changed, this, &MainWindow::saveSettings);
+}
+
+bool MainWindow::saveSettings()
+{
+    const bool saved = m_settings.save();
+    if (!saved) {
+        statusBar()->showMessage(tr("The settings cannot be kept for the next start."));
+    }
+    return saved;
 }
 
 void MainWindow::openPreferences()

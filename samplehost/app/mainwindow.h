@@ -45,6 +45,12 @@ public:
     /** Why the data source could not be opened; empty when it could. */
     QString dataSourceProblem() const { return m_dataSourceProblem; }
 
+    /** Reads the stored settings, and stores them whenever one changes. */
+    void keepSettings();
+
+    /** Stores the settings; tells the user and returns false if that fails. */
+    bool saveSettings();
+
     HostSettings& settings() { return m_settings; }
     LabelPage& labelPage() const { return *m_labelPage; }
     PipePage& pipePage() const { return *m_pipePage; }
@@ -83,6 +89,7 @@ private:
     void askForPrinter();
     void addPrinter(const QString& name);
     void countPages();
+    void reloadData();
     void openPreferences();
     void showJob(PrintJob* job);
     void showOutcome(PrintJob::Outcome outcome, const QString& message);
@@ -91,6 +98,7 @@ private:
     void showPrintError(int number);
     void showAbout();
 
+    DataSourceOptions m_dataSource;
     HostSettings m_settings;
     PrinterDirectory m_printers;
     QString m_dataSourceProblem;

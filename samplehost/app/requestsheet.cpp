@@ -5,9 +5,17 @@
 
 #include <QtGui/QPainter>
 
+#include <algorithm>
 #include <utility>
 
 namespace SampleHost {
+
+namespace {
+
+// As many lines as a preview that is shown scaled down keeps readable.
+constexpr int problemLines = 20;
+
+} // namespace
 
 SheetGeometry sheetOf(const LabelDesign& design, const PrintRequest& request)
 {
@@ -51,6 +59,9 @@ QImage renderFirstSheet(const LabelDesign& design, const PrintRequest& request, 
     QString problem;
     if (!paintPage(painter, dotsPerMm, sheet, plan.recordsOnPage(0), design.painter(request),
                    problem)) {
+        QFont font = painter.font();
+        font.setPixelSize(std::max(1, image.height() / problemLines));
+        painter.setFont(font);
         painter.drawText(image.rect(), Qt::AlignCenter | Qt::TextWordWrap, problem);
     }
     return image;

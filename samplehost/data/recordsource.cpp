@@ -133,6 +133,11 @@ QString RecordSource::defaultDatabasePath()
     return folder.absoluteFilePath(QStringLiteral("chemicals.sqlite"));
 }
 
+QString RecordSource::filePath(const DataSourceOptions& options)
+{
+    return isSqlite(options) ? resolved(options).databaseName : QString();
+}
+
 QString RecordSource::description() const
 {
     QString place = m_options.databaseName;
@@ -154,6 +159,17 @@ QString RecordSource::explain(const QString& reason) const
         .arg(description(), reason.simplified());
 }
 
+// An open SQLite file that was replaced by another one would go on answering from the old one.
+void RecordSource::closeReplaced() const
+{
+    const QFileInfo file(m_options.databaseName);
+    const QPair<QDateTime, QDateTime> times(file.birthTime(), file.metadataChangeTime());
+    if (times != m_fileTimes) {
+        m_database.close();
+        m_fileTimes = times;
+    }
+}
+
 // Opens the connection again after it was lost. An open SQLite file that was deleted would go on
 // answering from the deleted file, so its path is looked at each time.
 bool RecordSource::ensureOpen(QString* error) const
@@ -163,6 +179,9 @@ bool RecordSource::ensureOpen(QString* error) const
         m_database.close();
         return report(error, explain(file.exists() ? QStringLiteral("it is not a file.")
                                                    : QStringLiteral("the file does not exist.")));
+    }
+    if (isSqlite(m_options)) {
+        closeReplaced();
     }
     if (!m_database.isOpen() && !m_database.open()) {
         return report(error, explain(m_database.lastError().text()));

@@ -3,6 +3,8 @@
 
 #include "samplehost/data/chemical.h"
 
+#include <QtCore/QDateTime>
+#include <QtCore/QPair>
 #include <QtCore/QString>
 #include <QtSql/QSqlDatabase>
 
@@ -58,6 +60,9 @@ public:
     /** Where the embedded database lies when no path is given: in the application's data folder. */
     static QString defaultDatabasePath();
 
+    /** The SQLite file that options name, with its whole path; empty for a server. */
+    static QString filePath(const DataSourceOptions& options);
+
     /** Closes the connection. */
     ~RecordSource();
 
@@ -79,6 +84,7 @@ public:
 private:
     explicit RecordSource(const DataSourceOptions& options);
 
+    void closeReplaced() const;
     bool ensureOpen(QString* error) const;
     bool checkTable(QString* error) const;
     bool run(QSqlQuery& query, const QString& statement, QString* error) const;
@@ -87,6 +93,8 @@ private:
 
     DataSourceOptions m_options;
     mutable QSqlDatabase m_database;
+    // When the open SQLite file was made and last touched, by which another one in its place shows.
+    mutable QPair<QDateTime, QDateTime> m_fileTimes;
 };
 
 } // namespace SampleHost

@@ -28,12 +28,13 @@ QString uniqueSuffix()
     return QUuid::createUuid().toString(QUuid::WithoutBraces);
 }
 
-bool createTable(QSqlDatabase& database, const QString& table)
+bool createTable(QSqlDatabase& database, const QString& table, QString* reason)
 {
     const QString columns = chemicalColumns().join(QStringLiteral(" TEXT NOT NULL, "));
     QSqlQuery query(database);
     return query.exec(QStringLiteral("CREATE TABLE %1 (id INTEGER PRIMARY KEY, %2 TEXT NOT NULL)")
-                          .arg(table, columns));
+                          .arg(table, columns)) ||
+           report(reason, query.lastError().text());
 }
 
 bool insertChemical(QSqlQuery& insert, const Chemical& chemical)
@@ -54,7 +55,8 @@ bool insertChemical(QSqlQuery& insert, const Chemical& chemical)
     return insert.exec();
 }
 
-bool insertChemicals(QSqlDatabase& database, const QString& table, const QList<Chemical>& chemicals)
+bool insertChemicals(QSqlDatabase& database, const QString& table, const QList<Chemical>& chemicals,
+                     QString* reason)
 {
     const QStringList columns = chemicalColumns();
     const QStringList marks(columns.size(), QStringLiteral("?"));
@@ -62,11 +64,13 @@ bool insertChemicals(QSqlDatabase& database, const QString& table, const QList<C
     if (!insert.prepare(
             QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
                 .arg(table, columns.join(QLatin1String(", ")), marks.join(QLatin1String(", "))))) {
-        return false;
+        return report(reason, insert.lastError().text());
     }
-    return std::all_of(chemicals.cbegin(), chemicals.cend(), [&insert](const Chemical& chemical) {
-        return insertChemical(insert, chemical);
-    });
+    const bool inserted =
+        std::all_of(chemicals.cbegin(), chemicals.cend(), [&insert](const Chemical& chemical) {
+            return insertChemical(insert, chemical);
+        });
+    return inserted || report(reason, insert.lastError().text());
 }
 
 // Fills the file at path, which may exist but must be empty. Queries end before their connection is
@@ -81,10 +85,13 @@ bool fillFile(const QString& path, const QString& table, const QList<Chemical>& 
         database.setDatabaseName(path);
         if (database.open() && database.transaction()) {
             const QString name = database.driver()->escapeIdentifier(table, QSqlDriver::TableName);
-            filled = createTable(database, name) && insertChemicals(database, name, chemicals) &&
-                     database.commit();
+            // A connection knows nothing of what its queries failed at.
+            filled = createTable(database, name, reason) &&
+                     insertChemicals(database, name, chemicals, reason) && database.commit();
         }
-        *reason = database.lastError().text();
+        if (reason->isEmpty()) {
+            *reason = database.lastError().text();
+        }
     }
     QSqlDatabase::removeDatabase(connection);
     return filled;
