@@ -24,6 +24,8 @@
 class DocumentHost : public HostFixture
 {
 public:
+    using HostFixture::HostFixture;
+
     SampleHost::PdfPage& page() const { return window->pdfPage(); }
     SampleHost::RecordNavigator& navigator() const { return page().navigator(); }
     SampleHost::PdfPreview& preview() const { return page().preview(); }

@@ -7,7 +7,7 @@ printpanels_add_test(tst_sheetgeometry
     SOURCES tst_sheetgeometry.cpp
     LIBRARIES samplehost_print)
 printpanels_add_test(tst_printjob
-    SOURCES tst_printjob.cpp
+    SOURCES tst_printjob.cpp fulldisk.cpp fulldisk.h
     LIBRARIES samplehost_print Qt6::Pdf)
 
 # Tests that drive the sample host's own widgets.

@@ -1,3 +1,4 @@
+#include "fulldisk.h"
 #include "samplehost/print/printjob.h"
 #include "support/stricttest.h"
 
@@ -6,9 +7,6 @@
 #include <QtPdf/QPdfDocument>
 #include <QtPdf/QPdfSelection>
 #include <QtTest/QSignalSpy>
-
-#include <csignal>
-#include <sys/resource.h>
 
 using namespace SampleHost;
 using Outcome = PrintJob::Outcome;
@@ -39,32 +37,6 @@ QString pageText(QPdfDocument& document, int page)
 {
     return document.getAllText(page).text().simplified();
 }
-
-/** Lets no file of this process grow beyond a size, as a full disk would, until it goes away. */
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-    {
-        m_oldHandler = std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_oldLimit);
-        rlimit limit = m_oldLimit;
-        limit.rlim_cur = bytes;
-        m_set = setrlimit(RLIMIT_FSIZE, &limit) == 0;
-    }
-    ~FileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_oldLimit);
-        std::signal(SIGXFSZ, m_oldHandler);
-    }
-    bool isSet() const { return m_set; }
-
-private:
-    Q_DISABLE_COPY_MOVE(FileSizeLimit)
-    rlimit m_oldLimit = {};
-    void (*m_oldHandler)(int) = nullptr;
-    bool m_set = false;
-};
 
 } // namespace
 

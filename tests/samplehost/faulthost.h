@@ -1,0 +1,48 @@
+#ifndef FAULTHOST_H
+#define FAULTHOST_H
+
+#include "documenthost.h"
+
+/** What the host can print, each by the widgets of its own page. */
+enum class Printout { Labels, Sheets, TestFile, Item, Document };
+
+/** A host in which something goes wrong while it prints. */
+class FaultHost : public DocumentHost
+{
+public:
+    FaultHost() : DocumentHost(true) {}
+
+    /** Chooses and types what is to be printed. False if that failed. */
+    bool choose(Printout printout);
+
+    /** Presses Print, waits for the end of the job and closes the message that the user gets. */
+    std::optional<SampleHost::PrintJob::Outcome> print(Printout printout);
+
+    /** The text of the message that the user got; empty if there was none. */
+    QString shown;
+
+    /** Everything that stands in the fields of the panel, and what is checked. */
+    QString choices(Printout printout) const;
+
+    /** The page of the host that prints it. */
+    QWidget& pageOf(Printout printout) const;
+
+    /** The file that is printed to. */
+    QString outputOf(Printout printout) const;
+
+    /** How many pages it has then. */
+    static int pagesOf(Printout printout);
+
+private:
+    QWidget& panelOf(Printout printout) const;
+    template <typename Controller>
+    std::optional<SampleHost::PrintJob::Outcome> follow(Controller& controller, QWidget* button);
+};
+
+/** The contents of a file; empty if it cannot be read. */
+QByteArray contentsOf(const QString& path);
+
+/** The names of everything in a folder, hidden ones too. */
+QStringList namesIn(const QString& folder);
+
+#endif

@@ -1,0 +1,16 @@
+# Faults of the system around the host: full disks, files that cannot be written or read.
+set(stricttest "${PROJECT_SOURCE_DIR}/tests/support/stricttest.h")
+
+add_library(hostfaults STATIC
+    faulthost.cpp faulthost.h fulldisk.cpp fulldisk.h hostprogram.cpp hostprogram.h)
+printpanels_configure_target(hostfaults)
+target_link_libraries(hostfaults PUBLIC samplehost_app pdfsamples Qt6::Pdf)
+target_compile_definitions(hostfaults PRIVATE
+    "SAMPLEHOST_PROGRAM=\"$<TARGET_FILE:samplehost>\"")
+add_dependencies(hostfaults samplehost)
+
+foreach(name IN ITEMS disk output)
+    printpanels_add_test(tst_hostfaults_${name}
+        SOURCES tst_hostfaults_${name}.cpp "${stricttest}"
+        LIBRARIES hostfaults)
+endforeach()
