@@ -75,6 +75,12 @@ QString HostSettings::outputPath() const
     return QDir(m_outputFolder).filePath(m_outputFileName);
 }
 
+bool HostSettings::isFileName(const QString& name)
+{
+    // The system takes a null character for the end of the name.
+    return !name.isEmpty() && !name.contains(QChar::Null) && QFileInfo(name).fileName() == name;
+}
+
 void HostSettings::setOutputFolder(const QString& folder)
 {
     const QString absolute = QDir::cleanPath(QDir(folder).absolutePath());
@@ -86,8 +92,7 @@ void HostSettings::setOutputFolder(const QString& folder)
 
 void HostSettings::setOutputFileName(const QString& fileName)
 {
-    const bool usable = !fileName.isEmpty() && QFileInfo(fileName).fileName() == fileName;
-    if (usable && fileName != m_outputFileName) {
+    if (isFileName(fileName) && fileName != m_outputFileName) {
         m_outputFileName = fileName;
         Q_EMIT changed();
     }

@@ -47,6 +47,9 @@ public:
     /** The document that was opened last; empty if none was. */
     QString recentDocument() const { return m_recentDocument; }
 
+    /** Whether a text can be the name of a file, without a folder in it. */
+    static bool isFileName(const QString& name);
+
     /** Sets the folder; an empty one changes nothing. A relative one counts from the current
      * folder. */
     void setOutputFolder(const QString& folder);

@@ -14,11 +14,13 @@ constexpr int shadowAlpha = 8;
 
 void paintShadow(QPainter& painter, const QRectF& paper)
 {
+    painter.save();
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(0, 0, 0, shadowAlpha));
     for (int step = 1; step <= shadowDepth; ++step) {
         painter.drawRoundedRect(paper.adjusted(-step, 2 - step, step, 2 + step), step, step);
     }
+    painter.restore();
 }
 
 } // namespace

@@ -102,9 +102,11 @@ void PreferencesDialog::checkEntries()
 {
     QString problem;
     const QString name = m_fileEdit->text();
-    if (!QFileInfo(m_folderEdit->text()).isDir()) {
+    const QString folder = m_folderEdit->text();
+    if (folder.contains(QChar::Null) || !QFileInfo(folder).isDir()) {
         problem = tr("This folder does not exist.");
-    } else if (name.isEmpty() || QFileInfo(name).fileName() != name) {
+    } else if (!HostSettings::isFileName(name) || name == QLatin1String(".") ||
+               name == QLatin1String("..")) {
         problem = tr("Enter a file name without a folder.");
     }
     m_problemLabel->setText(problem);

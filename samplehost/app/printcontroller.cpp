@@ -89,8 +89,16 @@ void PrintController::preview(int sequenceStart, int sequenceEnd, const QString&
 {
     const PrintRequest wanted = request(sequenceStart, sequenceEnd, customRecordsList);
     PagePlan plan;
-    if (makePlan(wanted, plan)) {
+    if (!makePlan(wanted, plan)) {
+        return;
+    }
+    // A picture that only says what is wrong is no preview.
+    QString problem;
+    renderFirstSheet(m_design, wanted, QSize(100, 100), &problem);
+    if (problem.isEmpty()) {
         Q_EMIT previewRequested(wanted);
+    } else {
+        Q_EMIT jobEnded(PrintJob::Outcome::Failed, problem);
     }
 }
 

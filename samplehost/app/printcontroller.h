@@ -50,7 +50,8 @@ Q_SIGNALS:
     void refused(const QString& reason);
     /** A job was started. It is deleted after it has ended. */
     void jobStarted(SampleHost::PrintJob* job);
-    /** The job ended; message says how, in words for the user. */
+    /** The job, or the attempt to start or preview one, ended; message says how, in words for the
+     * user. */
     void jobEnded(SampleHost::PrintJob::Outcome outcome, const QString& message);
     /** The user wants to see a request that has at least one page. */
     void previewRequested(const SampleHost::PrintRequest& request);

@@ -42,7 +42,8 @@ PrintRequest oriented(const LabelDesign& design, const PrintRequest& request, bo
     return turned;
 }
 
-QImage renderFirstSheet(const LabelDesign& design, const PrintRequest& request, const QSize& room)
+QImage renderFirstSheet(const LabelDesign& design, const PrintRequest& request, const QSize& room,
+                        QString* problem)
 {
     const SheetGeometry sheet = sheetOf(design, request);
     const QSizeF fitting = sheet.sheetSizeMm().scaled(room, Qt::KeepAspectRatio);
@@ -56,13 +57,16 @@ QImage renderFirstSheet(const LabelDesign& design, const PrintRequest& request, 
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     const qreal dotsPerMm = fitting.width() / sheet.sheetSizeMm().width();
     const PagePlan plan = PagePlan::make(request, design.recordCount());
-    QString problem;
+    QString reason;
     if (!paintPage(painter, dotsPerMm, sheet, plan.recordsOnPage(0), design.painter(request),
-                   problem)) {
+                   reason)) {
         QFont font = painter.font();
         font.setPixelSize(std::max(1, image.height() / problemLines));
         painter.setFont(font);
-        painter.drawText(image.rect(), Qt::AlignCenter | Qt::TextWordWrap, problem);
+        painter.drawText(image.rect(), Qt::AlignCenter | Qt::TextWordWrap, reason);
+    }
+    if (problem != nullptr) {
+        *problem = reason;
     }
     return image;
 }

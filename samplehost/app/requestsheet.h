@@ -25,9 +25,11 @@ PrintRequest oriented(const LabelDesign& design, const PrintRequest& request, bo
 
 /**
  * The first sheet of a request as a picture that fits into room (pixels). What cannot be painted is
- * explained in the picture. Null only for a room without pixels.
+ * explained in the picture, and in problem unless that is null. Null only for a room without
+ * pixels.
  */
-QImage renderFirstSheet(const LabelDesign& design, const PrintRequest& request, const QSize& room);
+QImage renderFirstSheet(const LabelDesign& design, const PrintRequest& request, const QSize& room,
+                        QString* problem = nullptr);
 
 } // namespace SampleHost
 

@@ -20,7 +20,8 @@ bool CheckedSaveFile::commitChecked()
         return false;
     }
     if (!commit()) {
-        remember();
+        m_failed = true;
+        m_failure = errorString();
     }
     return !m_failed;
 }

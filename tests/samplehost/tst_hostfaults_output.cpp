@@ -1,0 +1,333 @@
+#include "faulthost.h"
+#include "fulldisk.h"
+#include "hostprogram.h"
+#include "samplehost/app/preferencesdialog.h"
+#include "support/stricttest.h"
+
+#include <QtCore/QFileInfo>
+#include <QtWidgets/QDialogButtonBox>
+#include <QtWidgets/QPushButton>
+
+#include <functional>
+#include <sys/stat.h>
+
+using namespace SampleHost;
+using Outcome = PrintJob::Outcome;
+
+namespace {
+
+/** Makes something in a folder where a file cannot be written, and says what is wrong with it. */
+struct Obstacle
+{
+    const char* name;
+    /** The file to print to, in the folder. */
+    QString file;
+    /** The message, with %1 for the folder. */
+    QString message;
+    std::function<bool(const QString& folder)> build;
+};
+
+QString unwritable(const QString& file, const QString& reason)
+{
+    return QStringLiteral("The file \"%1/") + file + QStringLiteral("\" cannot be written: ") +
+           reason + QLatin1Char('.');
+}
+
+bool makeLink(const QString& folder, const char* target)
+{
+    return QFile::link(QString::fromLatin1(target), folder + QStringLiteral("/out.pdf"));
+}
+
+QList<Obstacle> obstacles()
+{
+    const QString out = QStringLiteral("out.pdf");
+    const QString tooLong(300, QLatin1Char('n'));
+    const auto nothing = [](const QString&) { return true; };
+    return {
+        {"missing folder", QStringLiteral("missing/out.pdf"),
+         QStringLiteral("The folder \"%1/missing\" does not exist."), nothing},
+        {"below a file", QStringLiteral("plain/out.pdf"),
+         QStringLiteral("The folder \"%1/plain\" does not exist."),
+         [](const QString& folder) {
+             return PdfSamples::write(folder + QStringLiteral("/plain"), "x");
+         }},
+        {"a folder", out, unwritable(out, QStringLiteral("it is a folder")),
+         [](const QString& folder) { return QDir(folder).mkpath(QStringLiteral("out.pdf/kept")); }},
+        {"a pipe", out, unwritable(out, QStringLiteral("it is not an ordinary file")),
+         [](const QString& folder) {
+             return mkfifo(QFile::encodeName(folder + QStringLiteral("/out.pdf")).constData(),
+                           0666) == 0;
+         }},
+        {"a device", out, unwritable(out, QStringLiteral("it is not an ordinary file")),
+         [](const QString& folder) { return makeLink(folder, "/dev/full"); }},
+        {"a link to nowhere", out, unwritable(out, QStringLiteral("No such file or directory")),
+         [](const QString& folder) { return makeLink(folder, "missing/out.pdf"); }},
+        {"name too long", tooLong, unwritable(tooLong, QStringLiteral("File name too long")),
+         nothing},
+    };
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Obstacle)
+
+/** Outputs that cannot be written, must not be replaced, or have odd names. */
+class TestHostFaultsOutput : public StrictTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void obstacle_data();
+    void obstacle();
+    void readOnlyDisk();
+    void programMeetsObstacle_data();
+    void programMeetsObstacle();
+    void filesInUseAreKept_data();
+    void filesInUseAreKept();
+    void programKeepsFilesInUse_data();
+    void programKeepsFilesInUse();
+    void linksAreFollowed();
+    void oddNames_data();
+    void oddNames();
+    void preferencesRefuseOddNames();
+};
+
+void TestHostFaultsOutput::obstacle_data()
+{
+    QTest::addColumn<Printout>("printout");
+    QTest::addColumn<Obstacle>("obstacle");
+    const auto all = obstacles();
+    for (const Obstacle& obstacle : all) {
+        QTest::addRow("labels, %s", obstacle.name) << Printout::Labels << obstacle;
+        QTest::addRow("catalogue item, %s", obstacle.name) << Printout::Item << obstacle;
+        QTest::addRow("document, %s", obstacle.name) << Printout::Document << obstacle;
+    }
+}
+
+void TestHostFaultsOutput::obstacle()
+{
+    QFETCH(Printout, printout);
+    QFETCH(Obstacle, obstacle);
+    FaultHost host;
+    const QString folder = host.path("way");
+    QVERIFY(QDir().mkdir(folder) && obstacle.build(folder));
+    host.window->settings().setOutputPath(folder + QLatin1Char('/') + obstacle.file);
+    QVERIFY(host.choose(printout));
+    const QString chosen = host.choices(printout);
+    const QStringList names = namesIn(folder);
+    const QFileInfo before(folder + QStringLiteral("/out.pdf"));
+
+    QCOMPARE(host.print(printout), std::optional(Outcome::Failed));
+    QCOMPARE(host.message, obstacle.message.arg(folder));
+    QCOMPARE(host.shown, host.message);
+    QCOMPARE(host.choices(printout), chosen);
+    QCOMPARE(namesIn(folder), names);
+    const QFileInfo after(folder + QStringLiteral("/out.pdf"));
+    QCOMPARE(after.symLinkTarget(), before.symLinkTarget());
+    QCOMPARE(after.isFile(), before.isFile());
+
+    host.window->settings().setOutputPath(folder + QStringLiteral("/good.pdf"));
+    QCOMPARE(host.print(printout), std::optional(Outcome::Completed));
+    QCOMPARE(int(pdfPages(folder + QStringLiteral("/good.pdf")).size()),
+             FaultHost::pagesOf(printout));
+}
+
+// Root may write everywhere but here. Without the right to mount, the user is no root.
+void TestHostFaultsOutput::readOnlyDisk()
+{
+    FaultHost host;
+    const bool mounts = FullDisk::kinds().contains(FullDisk::Kind::FileSystem);
+    FullDisk disk(mounts ? FullDisk::Kind::FileSystem : FullDisk::Kind::SizeLimit,
+                  host.path("disk"));
+    QVERIFY(disk.isReady());
+    host.window->settings().setOutputPath(disk.path("out.pdf"));
+    QVERIFY(PdfSamples::write(disk.path("out.pdf"), "older"));
+    QVERIFY(host.choose(Printout::Labels));
+    QVERIFY(disk.setReadOnly(true));
+    const auto outcome = host.print(Printout::Labels);
+    QVERIFY(disk.setReadOnly(false));
+    QCOMPARE(outcome, std::optional(Outcome::Failed));
+    QVERIFY2(host.message.startsWith(
+                 QStringLiteral("The file \"%1\" cannot be written: ").arg(disk.path("out.pdf"))),
+             qPrintable(host.message));
+    QVERIFY2(!host.message.contains(QStringLiteral("Unknown")), qPrintable(host.message));
+    QCOMPARE(contentsOf(disk.path("out.pdf")), QByteArray("older"));
+    QCOMPARE(namesIn(host.path("disk")), QStringList(QStringLiteral("out.pdf")));
+    QCOMPARE(host.print(Printout::Labels), std::optional(Outcome::Completed));
+}
+
+void TestHostFaultsOutput::programMeetsObstacle_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<Obstacle>("obstacle");
+    const QString output = QStringLiteral("--output");
+    const auto all = obstacles();
+    for (const Obstacle& obstacle : all) {
+        QTest::addRow("labels, %s", obstacle.name)
+            << QStringLiteral("--print 1-2") << output << obstacle;
+        QTest::addRow("document, %s", obstacle.name)
+            << QStringLiteral("--document in.pdf --pages 2") << output << obstacle;
+        QTest::addRow("picture, %s", obstacle.name)
+            << QStringLiteral("--metric") << QStringLiteral("--screenshot") << obstacle;
+    }
+}
+
+void TestHostFaultsOutput::programMeetsObstacle()
+{
+    QFETCH(QString, arguments);
+    QFETCH(QString, option);
+    QFETCH(Obstacle, obstacle);
+    const QTemporaryDir folder;
+    const QString way = folder.filePath(QStringLiteral("way"));
+    QVERIFY(QDir().mkdir(way) && obstacle.build(way));
+    QVERIFY(PdfSamples::writeNumbered(folder.filePath(QStringLiteral("in.pdf")), 3));
+    const QStringList names = namesIn(way);
+    HostProgram program(folder.path());
+    arguments += QStringLiteral(" --database chemicals.db");
+    QCOMPARE(program.run(arguments.split(QLatin1Char(' ')) +
+                         QStringList{option, way + QLatin1Char('/') + obstacle.file}),
+             1);
+    QCOMPARE(program.error, obstacle.message.arg(way) + QLatin1Char('\n'));
+    QCOMPARE(program.out, QString());
+    QCOMPARE(namesIn(way), names);
+}
+
+void TestHostFaultsOutput::filesInUseAreKept_data()
+{
+    QTest::addColumn<Printout>("printout");
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("message");
+    const QString data = QStringLiteral("Writing \"%1\" would replace the database of the labels. "
+                                        "Choose another file.");
+    const QString document =
+        QStringLiteral("Printing to \"%1\" would replace the document itself. Choose another PDF "
+                       "file in the preferences.");
+    const std::pair<const char*, Printout> printouts[] = {{"labels", Printout::Labels},
+                                                          {"catalogue item", Printout::Item},
+                                                          {"document", Printout::Document}};
+    for (const auto& [name, printout] : printouts) {
+        QTest::addRow("%s, database", name) << printout << QStringLiteral("chemicals.db") << data;
+        QTest::addRow("%s, link to it", name) << printout << QStringLiteral("link.db") << data;
+        QTest::addRow("%s, document", name) << printout << QStringLiteral("open.pdf") << document;
+    }
+}
+
+void TestHostFaultsOutput::filesInUseAreKept()
+{
+    QFETCH(Printout, printout);
+    QFETCH(QString, file);
+    QFETCH(QString, message);
+    FaultHost host;
+    QVERIFY(host.choose(printout));
+    QVERIFY(host.openNumbered(FaultHost::pagesOf(Printout::Document), "open.pdf"));
+    host.window->setCurrentPage(host.pageOf(printout));
+    QVERIFY(QFile::link(host.path("chemicals.db"), host.path("link.db")));
+    const QString path = host.folder.filePath(file);
+    const QByteArray contents = contentsOf(path);
+    host.window->settings().setOutputPath(path);
+    QCOMPARE(host.print(printout), std::optional(Outcome::Failed));
+    QCOMPARE(host.message, message.arg(path));
+    QCOMPARE(host.shown, host.message);
+    QCOMPARE(contentsOf(path), contents);
+
+    host.window->settings().setOutputPath(host.path("good.pdf"));
+    QCOMPARE(host.print(printout), std::optional(Outcome::Completed));
+}
+
+void TestHostFaultsOutput::programKeepsFilesInUse_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::newRow("labels") << QStringLiteral("--print 1-2 --output chemicals.db");
+    QTest::newRow("catalogue item")
+        << QStringLiteral("--catalog EYE_WASH_STATION --output chemicals.db");
+    QTest::newRow("document") << QStringLiteral(
+        "--document in.pdf --pages 2 --output chemicals.db");
+    QTest::newRow("document over itself")
+        << QStringLiteral("--document in.pdf --pages 2 --output in.pdf");
+    QTest::newRow("picture") << QStringLiteral("--screenshot chemicals.db");
+    QTest::newRow("picture of a document")
+        << QStringLiteral("--document in.pdf --screenshot in.pdf");
+}
+
+void TestHostFaultsOutput::programKeepsFilesInUse()
+{
+    QFETCH(QString, arguments);
+    const QTemporaryDir folder;
+    const QString data = folder.filePath(QStringLiteral("chemicals.db"));
+    const QString document = folder.filePath(QStringLiteral("in.pdf"));
+    QVERIFY(PdfSamples::writeNumbered(document, 3));
+    const QByteArray documentBefore = contentsOf(document);
+    HostProgram program(folder.path());
+    QCOMPARE(program.run(QStringLiteral("--database chemicals.db --screenshot some.png")), 0);
+    const QByteArray dataBefore = contentsOf(data);
+
+    QCOMPARE(program.run(QStringLiteral("--database chemicals.db ") + arguments), 1);
+    QVERIFY2(program.error.contains(QStringLiteral(" would replace the ")),
+             qPrintable(program.error));
+    QCOMPARE(contentsOf(data), dataBefore);
+    QCOMPARE(contentsOf(document), documentBefore);
+}
+
+void TestHostFaultsOutput::linksAreFollowed()
+{
+    FaultHost host;
+    QVERIFY(PdfSamples::write(host.path("real.pdf"), "older"));
+    QVERIFY(QFile::link(QStringLiteral("real.pdf"), host.outputPath()));
+    QVERIFY(host.choose(Printout::Labels));
+    QCOMPARE(host.print(Printout::Labels), std::optional(Outcome::Completed));
+    QVERIFY(QFileInfo(host.outputPath()).isSymLink());
+    QCOMPARE(int(pdfPages(host.path("real.pdf")).size()), FaultHost::pagesOf(Printout::Labels));
+}
+
+void TestHostFaultsOutput::oddNames_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("blanks") << QStringLiteral("  a b  ");
+    QTest::newRow("line break") << QStringLiteral("a\nb.pdf");
+    QTest::newRow("quotes") << QStringLiteral("\"a'b`c$(d).pdf");
+    QTest::newRow("place holders") << QStringLiteral("%1 %2 %s.pdf");
+    QTest::newRow("other scripts") << QString::fromUtf8("\u00e4\u6f22\U0001F3F7\u202E.pdf");
+    QTest::newRow("backslash") << QStringLiteral("a\\b.pdf");
+    QTest::newRow("dash") << QStringLiteral("-rf");
+    QTest::newRow("longest") << QString(255, QLatin1Char('n'));
+    QTest::newRow("looks like a temporary file") << QStringLiteral("out.pdf.XXXXXX");
+}
+
+void TestHostFaultsOutput::oddNames()
+{
+    QFETCH(QString, name);
+    FaultHost host;
+    QVERIFY(QDir(host.folder.path()).mkdir(QStringLiteral("odd")));
+    const QString path = host.path("odd/") + name;
+    host.window->settings().setOutputPath(path);
+    QVERIFY(host.choose(Printout::Labels));
+    QCOMPARE(host.print(Printout::Labels), std::optional(Outcome::Completed));
+    QCOMPARE(host.message, QStringLiteral("Printed 8 pages to ") + path);
+    QCOMPARE(namesIn(host.path("odd")), QStringList(name));
+}
+
+void TestHostFaultsOutput::preferencesRefuseOddNames()
+{
+    FaultHost host;
+    const PreferencesDialog dialog(host.window->settings());
+    auto* file = dialog.findChild<QLineEdit*>(QStringLiteral("fileEdit"));
+    auto* folder = dialog.findChild<QLineEdit*>(QStringLiteral("folderEdit"));
+    auto* ok = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+    const QString goodFolder = folder->text();
+    for (const QString& bad : {QStringLiteral("."), QStringLiteral(".."), QString(QChar(0)),
+                               QStringLiteral("a") + QChar(0) + QStringLiteral("b")}) {
+        file->setText(bad);
+        QVERIFY2(!ok->isEnabled(), qPrintable(bad));
+    }
+    file->setText(QStringLiteral("good.pdf"));
+    QVERIFY(ok->isEnabled());
+    folder->setText(goodFolder + QChar(0));
+    QVERIFY(!ok->isEnabled());
+    folder->setText(goodFolder);
+    QVERIFY(ok->isEnabled());
+}
+
+QTEST_MAIN(TestHostFaultsOutput)
+
+#include "tst_hostfaults_output.moc"
