@@ -3,6 +3,8 @@
 #include "samplehost/pdf/pdfsource.h"
 #include "samplehost/pdf/sheetimage.h"
 
+#include <qpdf/QPDFExc.hh>
+
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtPdf/QPdfDocument>
@@ -19,7 +21,7 @@ PdfDocument::~PdfDocument() = default;
 bool PdfDocument::open(const QString& path, QString& problem)
 {
     close();
-    if (show(path, problem) && readObjects(path, problem)) {
+    if (check(path, problem) && readObjects(path, problem) && show(path, problem)) {
         m_path = path;
         m_title = m_view->metaData(QPdfDocument::MetaDataField::Title).toString().simplified();
         return true;
@@ -38,7 +40,7 @@ void PdfDocument::close()
     m_view = std::make_unique<QPdfDocument>();
 }
 
-bool PdfDocument::show(const QString& path, QString& problem)
+bool PdfDocument::check(const QString& path, QString& problem)
 {
     const QString name = QDir::toNativeSeparators(path);
     const QFileInfo file(path);
@@ -54,9 +56,15 @@ bool PdfDocument::show(const QString& path, QString& problem)
         problem = tr("The file \"%1\" is empty.").arg(name);
         return false;
     }
+    return true;
+}
+
+bool PdfDocument::show(const QString& path, QString& problem)
+{
+    const QString name = QDir::toNativeSeparators(path);
     switch (m_view->load(path)) {
     case QPdfDocument::Error::None:
-        return true;
+        return agrees(name, problem);
     case QPdfDocument::Error::IncorrectPassword:
         problem = tr("The file \"%1\" is protected by a password.").arg(name);
         return false;
@@ -64,27 +72,27 @@ bool PdfDocument::show(const QString& path, QString& problem)
         problem = tr("The file \"%1\" is encrypted in a way that is not supported.").arg(name);
         return false;
     default:
-        problem = tr("The file \"%1\" is not a PDF document, or it is damaged.").arg(name);
+        problem = damageText(path);
         return false;
     }
 }
 
+// Before it is shown: Qt's renderer never comes back from pages that contain each other.
 bool PdfDocument::readObjects(const QString& path, QString& problem)
 {
-    const QString name = QDir::toNativeSeparators(path);
     try {
         m_source = std::make_shared<PdfSource>(path);
+    } catch (const QPDFExc& error) {
+        // Qt knows more about encryption.
+        const bool locked =
+            error.getErrorCode() == qpdf_e_password || error.getErrorCode() == qpdf_e_unsupported;
+        if (locked && !show(path, problem)) {
+            return false;
+        }
+        problem = damageText(path);
+        return false;
     } catch (const std::exception&) {
-        problem = tr("The file \"%1\" is not a PDF document, or it is damaged.").arg(name);
-        return false;
-    }
-    if (m_view->pageCount() == 0 && m_source->pageCount() == 0) {
-        problem = tr("The file \"%1\" has no pages.").arg(name);
-        return false;
-    }
-    // What is printed has to be what is shown.
-    if (m_view->pageCount() != m_source->pageCount()) {
-        problem = tr("The file \"%1\" is damaged.").arg(name);
+        problem = damageText(path);
         return false;
     }
     try {
@@ -93,6 +101,26 @@ bool PdfDocument::readObjects(const QString& path, QString& problem)
         m_hasFormFields = false;
     }
     return true;
+}
+
+bool PdfDocument::agrees(const QString& name, QString& problem) const
+{
+    if (pageCount() == 0) {
+        problem = tr("The file \"%1\" has no pages.").arg(name);
+        return false;
+    }
+    // What is printed has to be what is shown.
+    if (m_view->pageCount() != pageCount()) {
+        problem = tr("The file \"%1\" is damaged.").arg(name);
+        return false;
+    }
+    return true;
+}
+
+QString PdfDocument::damageText(const QString& path)
+{
+    return tr("The file \"%1\" is not a PDF document, or it is damaged.")
+        .arg(QDir::toNativeSeparators(path));
 }
 
 QString PdfDocument::title() const

@@ -80,6 +80,9 @@ public:
 
 private:
     Q_DISABLE_COPY_MOVE(PdfDocument)
+    static bool check(const QString& path, QString& problem);
+    static QString damageText(const QString& path);
+    bool agrees(const QString& name, QString& problem) const;
     bool show(const QString& path, QString& problem);
     bool readObjects(const QString& path, QString& problem);
 

@@ -9,7 +9,7 @@ target_compile_definitions(hostfaults PRIVATE
     "SAMPLEHOST_PROGRAM=\"$<TARGET_FILE:samplehost>\"")
 add_dependencies(hostfaults samplehost)
 
-foreach(name IN ITEMS database disk output)
+foreach(name IN ITEMS database disk document output)
     printpanels_add_test(tst_hostfaults_${name}
         SOURCES tst_hostfaults_${name}.cpp "${stricttest}"
         LIBRARIES hostfaults)

@@ -1,0 +1,247 @@
+#include "faulthost.h"
+#include "hostprogram.h"
+#include "support/stricttest.h"
+
+#include <QtWidgets/QStatusBar>
+
+#include <functional>
+
+using namespace SampleHost;
+using Outcome = PrintJob::Outcome;
+
+namespace {
+
+/** A document of one page whose dictionary has these entries. */
+QByteArray withPage(const QByteArray& entries)
+{
+    PdfSamples::Bytes bytes;
+    bytes.add("<< /Type /Catalog /Pages 2 0 R >>");
+    bytes.add("<< /Type /Pages /Count 1 /Kids [ 3 0 R ] >>");
+    bytes.add("<< /Type /Page /Parent 2 0 R /Contents 4 0 R " + entries + " >>");
+    bytes.addStream("0 0 m 50 50 l S");
+    return bytes.file();
+}
+
+/** A document whose pages have these children. */
+QByteArray withKids(const QByteArray& kids)
+{
+    PdfSamples::Bytes bytes;
+    bytes.add("<< /Type /Catalog /Pages 2 0 R >>");
+    bytes.add("<< /Type /Pages /Count 3 /Kids [ " + kids + " ] >>");
+    bytes.add("<< /Type /Page /Parent 2 0 R /MediaBox [ 0 0 100 100 ] >>");
+    bytes.add("<< /Type /Pages /Parent 2 0 R /Count 1 /Kids [ 2 0 R ] >>");
+    return bytes.file();
+}
+
+/** Changes a file in its place, as a program does that writes over it. */
+bool overwrite(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadWrite) && file.resize(0) && file.write(bytes) == bytes.size();
+}
+
+} // namespace
+
+/** Documents that are broken, absurd or change while the host has them open. */
+class TestHostFaultsDocument : public StrictTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void brokenDocumentIsRefused_data();
+    void brokenDocumentIsRefused();
+    void programRefusesABrokenDocument_data();
+    void programRefusesABrokenDocument();
+    void absurdPageIsShownAndPrinted_data();
+    void absurdPageIsShownAndPrinted();
+    void openDocumentOutlivesItsFile_data();
+    void openDocumentOutlivesItsFile();
+    void changedDocumentIsNotPrinted_data();
+    void changedDocumentIsNotPrinted();
+    void tenThousandPages();
+
+private:
+    static void addBroken();
+};
+
+void TestHostFaultsDocument::addBroken()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("problem");
+    const QString damaged =
+        QStringLiteral("The file \"%1\" is not a PDF document, or it is damaged.");
+    const QByteArray good = PdfSamples::form();
+    QTest::newRow("empty") << QByteArray() << QStringLiteral("The file \"%1\" is empty.");
+    QTest::newRow("garbage") << QByteArray(5000, '\xA7') << damaged;
+    QTest::newRow("null bytes") << QByteArray(5000, '\0') << damaged;
+    QTest::newRow("truncated") << good.left(good.size() / 3) << damaged;
+    QTest::newRow("password") << PdfSamples::encrypted(good, "secret", true)
+                              << QStringLiteral("The file \"%1\" is protected by a password.");
+    QTest::newRow("no pages") << PdfSamples::pages({})
+                              << QStringLiteral("The file \"%1\" has no pages.");
+    QTest::newRow("pages among themselves") << withKids("4 0 R 4 0 R 2 0 R") << QString();
+}
+
+void TestHostFaultsDocument::brokenDocumentIsRefused_data()
+{
+    addBroken();
+}
+
+void TestHostFaultsDocument::brokenDocumentIsRefused()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, problem);
+    FaultHost host;
+    QVERIFY(host.choose(Printout::Document));
+    const QString chosen = host.choices(Printout::Document);
+    QVERIFY(PdfSamples::write(host.path("broken.pdf"), bytes));
+    QVERIFY(!host.page().open(host.path("broken.pdf")));
+    const QString said = host.shownMessage();
+    QVERIFY(said.contains(host.path("broken.pdf")));
+    QVERIFY(problem.isEmpty() || said == problem.arg(host.path("broken.pdf")));
+    delete host.window->findChild<QMessageBox*>(QStringLiteral("messageBox"));
+    // The document that was open still is, with all that was chosen for it.
+    QCOMPARE(host.choices(Printout::Document), chosen);
+    QCOMPARE(host.print(Printout::Document), std::optional(Outcome::Completed));
+    QCOMPARE(int(pdfPages(host.outputPath()).size()), FaultHost::pagesOf(Printout::Document));
+}
+
+void TestHostFaultsDocument::programRefusesABrokenDocument_data()
+{
+    addBroken();
+}
+
+void TestHostFaultsDocument::programRefusesABrokenDocument()
+{
+    QFETCH(QByteArray, bytes);
+    const QTemporaryDir folder;
+    QVERIFY(PdfSamples::write(folder.filePath(QStringLiteral("in.pdf")), bytes));
+    HostProgram program(folder.path());
+    QCOMPARE(program.run(QStringLiteral("--document in.pdf --all-pages --output out.pdf "
+                                        "--database chemicals.db")),
+             1);
+    QVERIFY2(program.error.startsWith(QStringLiteral("The file \"in.pdf\" ")),
+             qPrintable(program.error));
+    QCOMPARE(program.error.count(QLatin1Char('\n')), qsizetype(1));
+    QVERIFY(!QFile::exists(folder.filePath(QStringLiteral("out.pdf"))));
+}
+
+void TestHostFaultsDocument::absurdPageIsShownAndPrinted_data()
+{
+    QTest::addColumn<QByteArray>("entries");
+    QTest::newRow("no box") << QByteArray();
+    QTest::newRow("nothing") << QByteArray("/MediaBox [ 0 0 0 0 ]");
+    QTest::newRow("a line") << QByteArray("/MediaBox [ 0 0 500 0 ]");
+    QTest::newRow("inside out") << QByteArray("/MediaBox [ 300 200 0 0 ]");
+    QTest::newRow("huge") << QByteArray("/MediaBox [ 0 0 1e30 1e30 ]");
+    QTest::newRow("huge digits") << QByteArray("/MediaBox [ 0 0 99999999999999999999 9 ]");
+    QTest::newRow("far away") << QByteArray("/MediaBox [ 2000000000 2000000000 2000000100 "
+                                            "2000000100 ]");
+    QTest::newRow("largest") << QByteArray("/MediaBox [ 0 0 144000 144000 ]");
+    QTest::newRow("a thread") << QByteArray("/MediaBox [ 0 0 144000 1 ]");
+    QTest::newRow("no numbers") << QByteArray("/MediaBox [ /NaN (x) null [ ] ]");
+    QTest::newRow("words") << QByteArray("/MediaBox [ nan inf -inf nan ]");
+    QTest::newRow("cropped to nothing")
+        << QByteArray("/MediaBox [ 0 0 100 100 ] /CropBox [ 500 500 600 600 ]");
+    QTest::newRow("units") << QByteArray("/MediaBox [ 0 0 100 100 ] /UserUnit 1e9");
+    QTest::newRow("turned oddly") << QByteArray("/MediaBox [ 0 0 100 100 ] /Rotate 2147483647");
+    QTest::newRow("page above itself") << QByteArray("/MediaBox [ 0 0 9 9 ] /Kids [ 3 0 R ]");
+}
+
+void TestHostFaultsDocument::absurdPageIsShownAndPrinted()
+{
+    QFETCH(QByteArray, entries);
+    FaultHost host;
+    if (!host.openBytes(withPage(entries))) {
+        QVERIFY(!host.shownMessage().isEmpty());
+        return;
+    }
+    const QSizeF size = host.page().document()->pageSize(0);
+    QVERIFY(size.width() >= 1 && size.width() <= 144000);
+    QVERIFY(size.height() >= 1 && size.height() <= 144000);
+    QVERIFY(!host.window->grab().isNull());
+    QVERIFY(host.showDialog());
+    QVERIFY(!host.previewPicture().isNull());
+    const auto outcome = host.print(Printout::Document);
+    QVERIFY(outcome);
+    QCOMPARE(*outcome == Outcome::Completed, QFile::exists(host.outputPath()));
+    QCOMPARE(host.shown.isEmpty(), *outcome == Outcome::Completed);
+}
+
+void TestHostFaultsDocument::openDocumentOutlivesItsFile_data()
+{
+    using Change = std::function<bool(const QString&)>;
+    QTest::addColumn<Change>("change");
+    QTest::newRow("deleted") << Change([](const QString& path) { return QFile::remove(path); });
+    QTest::newRow("replaced") << Change([](const QString& path) {
+        return QFile::remove(path) && PdfSamples::writeNumbered(path, 2);
+    });
+    QTest::newRow("a folder") << Change(
+        [](const QString& path) { return QFile::remove(path) && QDir().mkdir(path); });
+}
+
+void TestHostFaultsDocument::openDocumentOutlivesItsFile()
+{
+    QFETCH(std::function<bool(const QString&)>, change);
+    FaultHost host;
+    QVERIFY(host.choose(Printout::Document));
+    QVERIFY(change(host.path("in.pdf")));
+    QCOMPARE(host.print(Printout::Document), std::optional(Outcome::Completed));
+    QCOMPARE(int(pdfPages(host.outputPath()).size()), FaultHost::pagesOf(Printout::Document));
+}
+
+void TestHostFaultsDocument::changedDocumentIsNotPrinted_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("emptied") << QByteArray();
+    QTest::newRow("cut off") << PdfSamples::form().left(300);
+    QTest::newRow("garbage") << QByteArray(90000, '\xA7');
+    QTest::newRow("another document") << PdfSamples::form();
+}
+
+void TestHostFaultsDocument::changedDocumentIsNotPrinted()
+{
+    QFETCH(QByteArray, bytes);
+    FaultHost host;
+    QVERIFY(host.choose(Printout::Document));
+    QVERIFY(PdfSamples::write(host.outputPath(), "older"));
+    const QByteArray good = contentsOf(host.path("in.pdf"));
+    const QString chosen = host.choices(Printout::Document);
+    QVERIFY(overwrite(host.path("in.pdf"), bytes));
+    // Looking at other pages of it does no harm.
+    host.navigator().setCurrentIndex(7);
+    QVERIFY(!host.window->grab().isNull());
+    QVERIFY(!host.previewPicture().isNull());
+
+    QCOMPARE(host.print(Printout::Document), std::optional(Outcome::Failed));
+    QCOMPARE(host.message, QStringLiteral("The file of the document was changed. Open it again to "
+                                          "print it."));
+    QCOMPARE(host.shown, host.message);
+    QCOMPARE(contentsOf(host.outputPath()), QByteArray("older"));
+    QCOMPARE(host.choices(Printout::Document), chosen);
+
+    QVERIFY(overwrite(host.path("in.pdf"), good));
+    QVERIFY(host.page().open(host.path("in.pdf")));
+    QCOMPARE(host.print(Printout::Document), std::optional(Outcome::Completed));
+}
+
+void TestHostFaultsDocument::tenThousandPages()
+{
+    FaultHost host;
+    constexpr int pages = 10000;
+    QVERIFY(host.openNumbered(pages));
+    QCOMPARE(host.navigator().count(), pages);
+    QVERIFY(host.showDialog());
+    host.press("lastRecordButton");
+    QCOMPARE(host.preview().shownPage(), pages);
+    host.press("allPagesRadio");
+    QCOMPARE(host.print(Printout::Document), std::optional(Outcome::Completed));
+    QPdfDocument printed;
+    QCOMPARE(printed.load(host.outputPath()), QPdfDocument::Error::None);
+    QCOMPARE(printed.pageCount(), pages);
+    QVERIFY(printed.getAllText(pages - 1).text().contains(QStringLiteral("Page 10000")));
+}
+
+QTEST_MAIN(TestHostFaultsDocument)
+
+#include "tst_hostfaults_document.moc"
