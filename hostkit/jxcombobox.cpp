@@ -12,6 +12,8 @@
 namespace {
 constexpr int widestHint = 320;
 constexpr int widestMinimumHint = 120;
+// More than any box can show; keeps painting quick when a host gives a megabyte of text.
+constexpr qsizetype longestLine = 1000;
 
 // A line break in a name must not push half of it out of the box.
 QString oneLine(QString text)
@@ -110,8 +112,8 @@ void JxComboBox::paintEvent(QPaintEvent*)
             .width();
     if (!option.currentIcon.isNull())
         room -= option.iconSize.width() + 4;
-    option.currentText =
-        option.fontMetrics.elidedText(oneLine(option.currentText), Qt::ElideRight, room - 2);
+    option.currentText = option.fontMetrics.elidedText(
+        oneLine(option.currentText.left(longestLine)), Qt::ElideRight, room - 2);
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
