@@ -1,0 +1,135 @@
+#include "cups/cupshost.h"
+#include "cups/cupstest.h"
+
+#include <QtWidgets/QSpinBox>
+
+using namespace SampleHost;
+using Outcome = PrintJob::Outcome;
+
+/** Prints labels to a queue by the host's widgets and looks at what the queue put out. */
+class TestCupsPrinting : public CupsTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void theQueueIsFound();
+    void printsRecords_data();
+    void printsRecords();
+
+private:
+    /** The records, counted from 1, on the pages of the only file that the queue put out. */
+    QString recordsPrinted();
+
+    std::unique_ptr<CupsHost> m_host;
+    QStringList m_names;
+    QList<QImage> m_models;
+};
+
+// Every record on a page, as the host itself writes it to a PDF file, where the texts can be read.
+void TestCupsPrinting::initTestCase()
+{
+    CupsTest::initTestCase();
+    if (QTest::currentTestFailed() || !server().isRunning()) {
+        return;
+    }
+    CupsHost host;
+    QVERIFY(host.choosePdfFile());
+    host.click("allRecordsRadio");
+    QCOMPARE(host.print(), Outcome::Completed);
+    m_names = host.productNames();
+    const QStringList texts = pdfPages(host.outputPath());
+    QCOMPARE(texts.size(), m_names.size());
+    for (qsizetype i = 0; i < texts.size(); ++i) {
+        QVERIFY2(texts.at(i).startsWith(m_names.at(i)), qPrintable(m_names.at(i)));
+    }
+    m_models = PagePictures::of(host.outputPath());
+    QCOMPARE(m_models.size(), m_names.size());
+}
+
+void TestCupsPrinting::init()
+{
+    CupsTest::init();
+    server().clearOutputs();
+    m_host = std::make_unique<CupsHost>();
+    QVERIFY(m_host->choosePrinter(queueName()));
+}
+
+void TestCupsPrinting::cleanup()
+{
+    m_host.reset();
+}
+
+QString TestCupsPrinting::recordsPrinted()
+{
+    if (!server().waitForJobs()) {
+        return QStringLiteral("The jobs do not end: ") + QString::fromLocal8Bit(server().log());
+    }
+    const QStringList files = server().outputs();
+    if (files.size() != 1) {
+        return QStringLiteral("Printed %1 files: ").arg(files.size()) +
+               QString::fromLocal8Bit(server().log());
+    }
+    QList<QImage> models = m_models;
+    models.prepend(QImage());
+    return PagePictures::recognised(PagePictures::of(files.at(0)), models);
+}
+
+void TestCupsPrinting::theQueueIsFound()
+{
+    QCOMPARE(m_host->offeredPrinters(), (QStringList{QStringLiteral("PDF file"), queueName()}));
+    QCOMPARE(m_host->shownLocation(), QStringLiteral("Hall 3, left"));
+    QCOMPARE(m_host->shownStatus(), QStringLiteral("Online"));
+}
+
+void TestCupsPrinting::printsRecords_data()
+{
+    QTest::addColumn<QString>("choice");
+    QTest::addColumn<int>("copies");
+    QTest::addColumn<QString>("records");
+
+    QTest::newRow("current") << QStringLiteral("current") << 1 << QStringLiteral("3");
+    QTest::newRow("list") << QStringLiteral("1,4-5") << 1 << QStringLiteral("1 4 5");
+    QTest::newRow("typed order") << QStringLiteral("7,2-3,7") << 1 << QStringLiteral("7 2 3 7");
+    QTest::newRow("copies") << QStringLiteral("2,1") << 3 << QStringLiteral("2 2 2 1 1 1");
+    QTest::newRow("copies of current") << QStringLiteral("current") << 2 << QStringLiteral("3 3");
+    QTest::newRow("all") << QStringLiteral("all") << 1 << QStringLiteral("all");
+}
+
+void TestCupsPrinting::printsRecords()
+{
+    QFETCH(QString, choice);
+    QFETCH(int, copies);
+    QFETCH(QString, records);
+
+    m_host->click("nextRecordButton");
+    m_host->click("nextRecordButton");
+    if (choice == QLatin1String("current")) {
+        m_host->click("currentRecordRadio");
+    } else if (choice == QLatin1String("all")) {
+        m_host->click("allRecordsRadio");
+        QStringList all;
+        for (qsizetype i = 1; i <= m_names.size(); ++i) {
+            all.append(QString::number(i));
+        }
+        records = all.join(QLatin1Char(' '));
+    } else {
+        m_host->typeList(choice);
+    }
+    for (int copy = 1; copy < copies; ++copy) {
+        m_host->click("plusButton");
+    }
+    QCOMPARE(m_host->print(), Outcome::Completed);
+    const qsizetype pages = records.count(QLatin1Char(' ')) + 1;
+    QCOMPARE(m_host->message, QStringLiteral("Printed %1 to printer \"Hall\"")
+                                  .arg(pages == 1 ? QStringLiteral("1 page")
+                                                  : QStringLiteral("%1 pages").arg(pages)));
+    QCOMPARE(recordsPrinted(), records);
+    QCOMPARE(m_host->outputFiles(), QStringList());
+}
+
+QTEST_MAIN(TestCupsPrinting)
+
+#include "tst_cupsprinting.moc"
