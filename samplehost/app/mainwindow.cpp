@@ -228,7 +228,11 @@ void MainWindow::showJob(PrintJob* job)
 
 void MainWindow::showOutcome(PrintJob::Outcome outcome, const QString& message)
 {
+    // What ended a job may be seen at its printer, too.
+    refreshPrinterStates();
     if (outcome == PrintJob::Outcome::Failed) {
+        // The message goes when it is read, the log stays.
+        m_log->add(tr("Host: %1").arg(message));
         showError(message);
     } else {
         statusBar()->showMessage(message);

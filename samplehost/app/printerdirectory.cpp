@@ -1,6 +1,7 @@
 #include "samplehost/app/printerdirectory.h"
 
 #include "samplehost/app/hostsettings.h"
+#include "samplehost/print/printqueue.h"
 
 #include <printpanels/printwidgetinterface.h>
 
@@ -52,7 +53,8 @@ PrinterState PrinterDirectory::state(const QString& name) const
     state.remote = info.isRemote();
     // A stopped printer keeps its jobs. Said twice, since "Remote" takes the place of "Offline".
     state.offline = info.state() == QPrinter::Error || info.state() == QPrinter::Aborted;
-    state.unavailable = state.offline;
+    state.unavailable =
+        state.offline || (PrintQueue::isSupported() && PrintQueue(name).refusesJobs());
     return state;
 }
 

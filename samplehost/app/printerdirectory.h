@@ -43,7 +43,8 @@ public:
 
     /**
      * The state of an entry, asked anew each time. A system printer that has gone is offline and
-     * unavailable; so is the PDF file while its folder cannot be written to.
+     * unavailable; so is a stopped one, and the PDF file while its folder cannot be written to. A
+     * printer that refuses jobs is unavailable.
      */
     PrinterState state(const QString& name) const;
 

@@ -1,5 +1,9 @@
 #include "samplehost/print/printtarget.h"
 
+#include "samplehost/print/printqueue.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
 #include <QtGui/QPageLayout>
 #include <QtGui/QPageSize>
 #include <QtGui/QPdfWriter>
@@ -14,6 +18,15 @@ void useSheet(QPagedPaintDevice& device, const QSizeF& sheetMm)
 {
     const QPageSize size(sheetMm, QPageSize::Millimeter, QString(), QPageSize::ExactMatch);
     device.setPageLayout(QPageLayout(size, QPageLayout::Portrait, QMarginsF()));
+}
+
+/** Whether a PDF file has its end, which one that met a full disk lacks. */
+bool isComplete(const QString& path)
+{
+    constexpr qint64 tail = 32;
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.seek(qMax<qint64>(0, file.size() - tail)) &&
+           file.read(tail).trimmed().endsWith("%%EOF");
 }
 
 } // namespace
@@ -86,8 +99,13 @@ QPagedPaintDevice* PrinterTarget::open(const QSizeF& sheetMm, QString& problem)
         return nullptr;
     }
     m_printer = std::make_unique<QPrinter>(info, QPrinter::HighResolution);
-    if (!m_printer->isValid()) {
+    const bool queues = PrintQueue::isSupported();
+    if (!m_printer->isValid() || (queues && PrintQueue(m_printerName).refusesJobs())) {
         problem = tr("The printer \"%1\" does not accept jobs.").arg(m_printerName);
+        m_printer.reset();
+        return nullptr;
+    }
+    if (queues && !openSpool(problem)) {
         m_printer.reset();
         return nullptr;
     }
@@ -96,6 +114,24 @@ QPagedPaintDevice* PrinterTarget::open(const QSizeF& sheetMm, QString& problem)
     m_printer->setFullPage(true);
     useSheet(*m_printer, sheetMm);
     return m_printer.get();
+}
+
+QString PrinterTarget::spoolPath() const
+{
+    // A name that ended in .pdf would make Qt forget the printer's margins.
+    return m_spool->filePath(QStringLiteral("job"));
+}
+
+bool PrinterTarget::openSpool(QString& problem)
+{
+    m_spool = std::make_unique<QTemporaryDir>();
+    if (!m_spool->isValid()) {
+        problem = tr("The job cannot be stored: %1.").arg(m_spool->errorString());
+        m_spool.reset();
+        return false;
+    }
+    m_printer->setOutputFileName(spoolPath());
+    return true;
 }
 
 bool PrinterTarget::isHealthy(QString& problem)
@@ -111,18 +147,31 @@ bool PrinterTarget::isHealthy(QString& problem)
 bool PrinterTarget::commit(QString& problem)
 {
     const bool healthy = isHealthy(problem);
+    const QString paper = healthy ? m_printer->pageLayout().pageSize().key() : QString();
     m_printer.reset();
-    return healthy;
+    const bool arrived = healthy && (!m_spool || submit(paper, problem));
+    m_spool.reset();
+    return arrived;
+}
+
+bool PrinterTarget::submit(const QString& paper, QString& problem)
+{
+    if (!isComplete(spoolPath())) {
+        problem = tr("The job cannot be stored: there is no room in %1.").arg(m_spool->path());
+        return false;
+    }
+    return PrintQueue(m_printerName).submit(spoolPath(), m_title, paper, problem);
 }
 
 bool PrinterTarget::abort()
 {
-    return !m_printer || m_printer->abort();
+    return m_spool || !m_printer || m_printer->abort();
 }
 
 void PrinterTarget::discard()
 {
     m_printer.reset();
+    m_spool.reset();
 }
 
 QString PrinterTarget::description() const

@@ -12,6 +12,7 @@
 class QPagedPaintDevice;
 class QPdfWriter;
 class QPrinter;
+class QTemporaryDir;
 
 namespace SampleHost {
 
@@ -78,7 +79,11 @@ private:
     std::unique_ptr<QPdfWriter> m_writer;
 };
 
-/** A printer of the system, by its name. */
+/**
+ * A printer of the system, by its name. Where there are queues the job is put together in a file
+ * first and handed over as a whole, so a job that is given up never gets there, and what the queue
+ * answers is known. Elsewhere the system gets every page as it is painted.
+ */
 class PrinterTarget : public PrintTarget
 {
     Q_DECLARE_TR_FUNCTIONS(PrinterTarget)
@@ -96,9 +101,15 @@ public:
     QString description() const override;
 
 private:
+    bool openSpool(QString& problem);
+    QString spoolPath() const;
+    bool submit(const QString& paper, QString& problem);
+
     QString m_printerName;
     QString m_title;
     std::unique_ptr<QPrinter> m_printer;
+    /** Where the job is put together; null where the system gets the pages at once. */
+    std::unique_ptr<QTemporaryDir> m_spool;
 };
 
 } // namespace SampleHost

@@ -7,6 +7,7 @@
 
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QMessageBox>
 
 #include <optional>
 
@@ -40,6 +41,13 @@ public:
 
     QString shownStatus() const { return find<QLabel>("statusLabel")->text(); }
     QString shownLocation() const { return find<QLabel>("locationLabel")->text(); }
+
+    /** The text of the message that the host shows; empty without one. */
+    QString shownMessage() const
+    {
+        const auto* box = window->findChild<QMessageBox*>(QStringLiteral("messageBox"));
+        return box != nullptr ? box->text() : QString();
+    }
 
     /** Presses Print and waits for the end of the job; nothing when there was no job. */
     std::optional<Outcome> print()
