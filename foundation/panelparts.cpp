@@ -25,6 +25,12 @@ int numberFromIndex(int index)
     return index == std::numeric_limits<int>::max() ? index : index + 1;
 }
 
+void moveWindow(QWidget* window, int x, int y)
+{
+    constexpr int farthest = QWIDGETSIZE_MAX;
+    window->move(qBound(-farthest, x, farthest), qBound(-farthest, y, farthest));
+}
+
 void setUpPrinterSettingsButton(QPushButton* button)
 {
     button->setStyleSheet(StyleSheets::printerSettingsButton());

@@ -4,6 +4,7 @@
 class QLineEdit;
 class QPushButton;
 class QString;
+class QWidget;
 
 namespace PrintPanels {
 
@@ -12,6 +13,12 @@ namespace PrintPanels {
 
 /** A host's 0-based index as a 1-based number; the highest index has no number above it. */
 int numberFromIndex(int index);
+
+/**
+ * Moves a window's top left corner to (x, y). Places beyond any screen are brought near enough for
+ * the other corner to have coordinates at all.
+ */
+void moveWindow(QWidget* window, int x, int y);
 
 /** The button beside the printer selector: 35 x 35 pixels, with the settings icon. */
 void setUpPrinterSettingsButton(QPushButton* button);

@@ -2,6 +2,7 @@
 
 #include "foundation/controlrefuge.h"
 #include "foundation/hostkit.h"
+#include "foundation/panelparts.h"
 #include "foundation/sharedconstants.h"
 #include "foundation/stylesheets.h"
 #include "preview/previewview.h"
@@ -92,5 +93,5 @@ void MultiPagePrintDialog::setTitle(const QString& title)
 
 void MultiPagePrintDialog::mouseMoveSlot(int x, int y)
 {
-    move(x, y);
+    PrintPanels::moveWindow(this, x, y);
 }

@@ -2,6 +2,7 @@
 
 #include "foundation/controlrefuge.h"
 #include "foundation/hostkit.h"
+#include "foundation/panelparts.h"
 #include "foundation/sharedconstants.h"
 #include "foundation/stylesheets.h"
 #include "preview/previewview.h"
@@ -276,5 +277,5 @@ void PrintPreviewDialog::zoomFit()
 
 void PrintPreviewDialog::mouseMoveSlot(int x, int y)
 {
-    move(QPoint(x, y));
+    PrintPanels::moveWindow(this, x, y);
 }

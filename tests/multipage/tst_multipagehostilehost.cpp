@@ -47,6 +47,8 @@ private Q_SLOTS:
     void panelDeletedLaterFromAnySignal();
     void numbersWithoutSense_data();
     void numbersWithoutSense();
+    void dialogAtAPlaceBeyondAnyScreen_data();
+    void dialogAtAPlaceBeyondAnyScreen();
     void longTexts();
     void operationsInAnyOrder();
     void manyPanelsAndDialogs();
@@ -181,6 +183,24 @@ void tst_MultiPageHostileHost::numbersWithoutSense()
         }
     }
     QCOMPARE(printed.size(), 15);
+}
+
+void tst_MultiPageHostileHost::dialogAtAPlaceBeyondAnyScreen_data()
+{
+    QTest::addColumn<int>("place");
+    QTest::addColumn<int>("expected");
+    QTest::newRow("highest") << highest << QWIDGETSIZE_MAX;
+    QTest::newRow("lowest") << lowest << -QWIDGETSIZE_MAX;
+}
+
+void tst_MultiPageHostileHost::dialogAtAPlaceBeyondAnyScreen()
+{
+    QFETCH(const int, place);
+    QFETCH(const int, expected);
+    MultiPagePrintDialog dialog(nullptr, nullptr, Qt::FramelessWindowHint);
+    dialog.mouseMoveSlot(place, place);
+    QCOMPARE(dialog.pos(), QPoint(expected, expected));
+    QCOMPARE(dialog.size(), QSize(1010, 540));
 }
 
 void tst_MultiPageHostileHost::longTexts()

@@ -60,6 +60,8 @@ private Q_SLOTS:
     void popupCanBeShownAgainAfterClosing();
     void dragOfTheTitleBarMovesThePopup();
     void mouseMoveSlotPlacesThePopup();
+    void placesBeyondAnyScreenKeepTheSize_data();
+    void placesBeyondAnyScreenKeepTheSize();
     void slotsCanBeCalledByName();
     void zoomButtonsZoomTheView();
     void zoomInStopsAboveTheCeiling();
@@ -463,6 +465,24 @@ void tst_PrintPreviewDialog::mouseMoveSlotPlacesThePopup()
     }
     Q_EMIT popup.bar()->signalMove(77, 66);
     QCOMPARE(popup.pos(), QPoint(77, 66));
+}
+
+void tst_PrintPreviewDialog::placesBeyondAnyScreenKeepTheSize_data()
+{
+    QTest::addColumn<int>("place");
+    QTest::addColumn<int>("expected");
+    QTest::newRow("highest") << std::numeric_limits<int>::max() << QWIDGETSIZE_MAX;
+    QTest::newRow("lowest") << std::numeric_limits<int>::min() << -QWIDGETSIZE_MAX;
+}
+
+void tst_PrintPreviewDialog::placesBeyondAnyScreenKeepTheSize()
+{
+    QFETCH(const int, place);
+    QFETCH(const int, expected);
+    Popup popup;
+    popup.mouseMoveSlot(place, place);
+    QCOMPARE(popup.pos(), QPoint(expected, expected));
+    QCOMPARE(popup.size(), QSize(860, 500));
 }
 
 void tst_PrintPreviewDialog::slotsCanBeCalledByName()
