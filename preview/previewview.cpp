@@ -17,6 +17,26 @@ constexpr double zoomInFactor = 1.1;
 constexpr double zoomOutFactor = 0.9090909090909091;
 constexpr double zoomInCeiling = 17.4495;
 
+// Painting looks every pixel's index up in the image's colour table without asking whether the
+// table goes that far. A table without any colour means grey, as it does when an image is
+// converted.
+void completeColorTable(QImage& image)
+{
+    const bool isIndexed = image.format() == QImage::Format_Indexed8 ||
+                           image.format() == QImage::Format_Mono ||
+                           image.format() == QImage::Format_MonoLSB;
+    const int indices = isIndexed ? 1 << image.depth() : 0;
+    if (image.colorCount() >= indices)
+        return;
+    QList<QRgb> colors = image.colorTable();
+    const bool isGrey = colors.isEmpty();
+    for (int i = int(colors.size()); i < indices; ++i) {
+        const int level = 255 * i / (indices - 1);
+        colors.append(isGrey ? qRgb(level, level, level) : qRgba(0, 0, 0, 0));
+    }
+    image.setColorTable(colors);
+}
+
 } // namespace
 
 PreviewView::PreviewView(const QImage& picture, const QSize& size) : preferredSize(size), drag(this)
@@ -38,6 +58,7 @@ void PreviewView::takeImage(const QImage& picture)
     image = picture;
     // Scales count image pixels, also in an image that was rendered for a high-resolution screen.
     image.setDevicePixelRatio(1.0);
+    completeColorTable(image);
     imageRect = QRectF(image.rect());
     imageRect.translate(-imageRect.center());
     zoom = 1.0;

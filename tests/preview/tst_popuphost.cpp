@@ -151,6 +151,15 @@ void tst_PopupHost::hostileImages_data()
     QImage wide(30000, 3, QImage::Format_Grayscale8);
     wide.fill(128);
     QTest::newRow("30000x3") << wide;
+    QImage indexed(40, 20, QImage::Format_Indexed8);
+    indexed.fill(255);
+    QTest::newRow("indexed without colours") << indexed;
+    indexed.setColorTable({qRgb(1, 2, 3)});
+    QTest::newRow("indexed with a colour too few") << indexed;
+    QImage mono(40, 20, QImage::Format_MonoLSB);
+    mono.fill(1);
+    mono.setColorCount(0);
+    QTest::newRow("one bit without colours") << mono;
     QTest::newRow("3x30000") << wide.transformed(QTransform().rotate(90));
 }
 
