@@ -25,7 +25,12 @@ JxLineEdit* createCopiesEdit()
     edit->setFont(ApplicationFont::getWidgetFont(true));
     edit->setText(QStringLiteral("1"));
     edit->setFixedSize(50, 35);
-    edit->setValidator(new QIntValidator(fewestCopies, mostCopies, edit));
+    auto* validator = new QIntValidator(fewestCopies, mostCopies, edit);
+    // What can be typed is what is read: plain digits, without the separators of any language.
+    QLocale plainDigits = QLocale::c();
+    plainDigits.setNumberOptions(QLocale::RejectGroupSeparator);
+    validator->setLocale(plainDigits);
+    edit->setValidator(validator);
     return edit;
 }
 

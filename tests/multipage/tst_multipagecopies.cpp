@@ -3,6 +3,8 @@
 
 #include <printpanels/multipageprintwidget.h>
 
+#include <QtCore/QLocale>
+#include <QtCore/QScopeGuard>
 #include <QtGui/QIntValidator>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QLineEdit>
@@ -40,6 +42,8 @@ private Q_SLOTS:
     void validatorTakesOneTo999_data();
     void validatorTakesOneTo999();
     void typingIsLimited();
+    void whatCanBeTypedIsRead_data();
+    void whatCanBeTypedIsRead();
     void stepButtonsRepeat();
     void copiesEmitNothing();
 };
@@ -171,6 +175,31 @@ void tst_MultiPageCopies::typingIsLimited()
     QTest::keyClicks(copies(panel), QStringLiteral("-1a2 345"));
     QCOMPARE(copies(panel)->text(), QStringLiteral("123"));
     QCOMPARE(panel.getNumberOfCopies(), 123);
+}
+
+void tst_MultiPageCopies::whatCanBeTypedIsRead_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("typed");
+    QTest::newRow("group separator") << QStringLiteral("en") << QStringLiteral("3,3");
+    QTest::newRow("another one") << QStringLiteral("de") << QStringLiteral("3.3");
+    QTest::newRow("other digits") << QStringLiteral("ar_EG") << QStringLiteral("\u06633\u06643");
+}
+
+void tst_MultiPageCopies::whatCanBeTypedIsRead()
+{
+    QFETCH(const QString, language);
+    QFETCH(const QString, typed);
+    const auto restored = qScopeGuard([old = QLocale()] { QLocale::setDefault(old); });
+    QLocale::setDefault(QLocale(language));
+    MultiPagePrintWidget panel(false, false, nullptr);
+    copies(panel)->clear();
+    for (const QChar character : typed) {
+        QTest::sendKeyEvent(QTest::Click, copies(panel), Qt::Key(character.unicode()),
+                            QString(character), Qt::NoModifier);
+    }
+    QCOMPARE(copies(panel)->text(), QStringLiteral("33"));
+    QCOMPARE(panel.getNumberOfCopies(), 33);
 }
 
 void tst_MultiPageCopies::stepButtonsRepeat()
