@@ -1,0 +1,31 @@
+#ifndef MONKEY_SUBJECTS_H
+#define MONKEY_SUBJECTS_H
+
+#include "subject.h"
+
+#include <QtCore/QStringList>
+#include <QtWidgets/QWidget>
+
+namespace Monkey {
+
+// One kind of panel each; see Subject::create().
+std::unique_ptr<Subject> createPrintWidgetSubject(World& world);
+std::unique_ptr<Subject> createQuickPrintSubject(World& world);
+std::unique_ptr<Subject> createMultiPageSubject(World& world);
+std::unique_ptr<Subject> createMultiPageDialogSubject(World& world);
+std::unique_ptr<Subject> createPreviewPopupSubject(World& world);
+std::unique_ptr<Subject> createPreviewViewSubject(World& world);
+
+/** A part of a panel by its object name, or null. */
+template <typename Part>
+Part* part(const QWidget* panel, const char* name)
+{
+    return panel->findChild<Part*>(QLatin1String(name));
+}
+
+/** How many of the buttons with these names are checked. */
+int countChecked(const QWidget* panel, const QByteArrayList& names);
+
+} // namespace Monkey
+
+#endif

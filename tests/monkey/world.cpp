@@ -1,0 +1,31 @@
+#include "world.h"
+
+#include "subject.h"
+
+namespace Monkey {
+
+void World::fail(const QString& check, const QString& detail)
+{
+    if (hasFailed())
+        return;
+    m_failure = check + QStringLiteral(": ") + detail;
+    trail.note(QStringLiteral("FAILS ") + m_failure);
+}
+
+void World::call(Subject& subject, QWidget& widget, const HostCall& hostCall)
+{
+    QVariantList arguments;
+    const HostCall::Thunk thunk = hostCall.prepare(random, arguments);
+    const QString who =
+        m_depth > 0 ? QStringLiteral("  host, in its handler: ") : QStringLiteral("host: ");
+    trail.note(who + QString::fromLatin1(hostCall.name()) + u'(' + describe(arguments) + u')');
+    subject.told(hostCall.name(), arguments);
+    const HostCall* const outer = m_underWay;
+    m_underWay = &hostCall;
+    ++m_depth;
+    thunk(widget);
+    --m_depth;
+    m_underWay = outer;
+}
+
+} // namespace Monkey
