@@ -1,6 +1,4 @@
 # Faults of the system around the host: full disks, files that cannot be written or read.
-set(stricttest "${PROJECT_SOURCE_DIR}/tests/support/stricttest.h")
-
 add_library(hostfaults STATIC
     faulthost.cpp faulthost.h fulldisk.cpp fulldisk.h hostprogram.cpp hostprogram.h)
 printpanels_configure_target(hostfaults)
@@ -11,6 +9,6 @@ add_dependencies(hostfaults samplehost)
 
 foreach(name IN ITEMS database disk document output)
     printpanels_add_test(tst_hostfaults_${name}
-        SOURCES tst_hostfaults_${name}.cpp "${stricttest}"
+        SOURCES tst_hostfaults_${name}.cpp
         LIBRARIES hostfaults)
 endforeach()
