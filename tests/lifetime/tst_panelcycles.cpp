@@ -60,7 +60,7 @@ void tst_PanelCycles::memoryStaysFlat_data()
 // A cache that grows does so once, in one of the three runs; what leaks grows in each of them.
 void tst_PanelCycles::memoryStaysFlat()
 {
-    constexpr int cyclesPerRun = 100;
+    constexpr int cyclesPerRun = 50;
     constexpr qint64 mostPerCycle = 32; // bytes; the smallest QObject takes more
     QFETCH(const int, row);
     const PanelCycle cycle = panelCycles().at(row);
