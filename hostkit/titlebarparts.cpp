@@ -4,6 +4,13 @@
 
 namespace HostKit {
 
+namespace {
+
+// More than any bar can show; keeps painting quick when a host gives a megabyte of text.
+constexpr qsizetype longestTitle = 1000;
+
+} // namespace
+
 TitleBarLabel::TitleBarLabel(const QString& text, QWidget* parent) : QLabel(text, parent)
 {
     setTextFormat(Qt::PlainText);
@@ -12,7 +19,7 @@ TitleBarLabel::TitleBarLabel(const QString& text, QWidget* parent) : QLabel(text
 
 bool TitleBarLabel::isElided() const
 {
-    return fontMetrics().horizontalAdvance(text()) > width();
+    return fontMetrics().horizontalAdvance(text().left(longestTitle)) > width();
 }
 
 QSize TitleBarLabel::minimumSizeHint() const
@@ -24,7 +31,8 @@ void TitleBarLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setPen(isEnabled() ? QColor(Qt::white) : QColor(0x84, 0x84, 0x84));
-    const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, width());
+    const QString shown =
+        fontMetrics().elidedText(text().left(longestTitle), Qt::ElideRight, width());
     painter.drawText(rect(), Qt::AlignVCenter | Qt::AlignLeading | Qt::TextSingleLine, shown);
 }
 

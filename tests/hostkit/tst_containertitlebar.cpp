@@ -21,6 +21,7 @@ private Q_SLOTS:
     void longTitleIsElidedAndStretchesNothing();
     void titleIsPlainText();
     void elidedTitleIsTheToolTip();
+    void onlyTheBeginningOfATitleIsPainted();
     void closeButtonTells();
     void closeButtonHasItsPicture();
     void dragTellsTheNewCornerOfTheWindow();
@@ -150,6 +151,19 @@ void TestContainerTitleBar::titleIsPlainText()
     };
     QVERIFY(ink(plain) > 0);
     QVERIFY(ink(marked) > 3 * ink(plain));
+}
+
+// Else a megabyte of text takes as long as a page of it at every painting.
+void TestContainerTitleBar::onlyTheBeginningOfATitleIsPainted()
+{
+    const QString start(1000, QChar(0x200b));
+    ContainerTitleBar bar(nullptr, start, QString(), 14);
+    bar.resize(300, 30);
+    const QImage none = bar.grab().toImage();
+    bar.setTitle(start + QStringLiteral("W"));
+    QCOMPARE(bar.grab().toImage(), none);
+    bar.setTitle(start.left(999) + QStringLiteral("W"));
+    QVERIFY(bar.grab().toImage() != none);
 }
 
 void TestContainerTitleBar::elidedTitleIsTheToolTip()
