@@ -1,7 +1,9 @@
 #include "preview/dragguard.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QMouseEvent>
 #include <QtWidgets/QWidget>
 
 namespace PrintPanels {
@@ -18,15 +20,17 @@ DragGuard::~DragGuard()
 
 void DragGuard::press()
 {
-    ++m_pushed;
+    // All of the application, because an open list takes the release for itself.
+    if (m_pushed++ == 0)
+        QCoreApplication::instance()->installEventFilter(this);
     QGuiApplication::setOverrideCursor(Qt::ClosedHandCursor);
     m_dragged->setMouseTracking(true);
 }
 
 void DragGuard::release()
 {
-    if (m_pushed > 0)
-        --m_pushed;
+    if (m_pushed > 0 && --m_pushed == 0)
+        QCoreApplication::instance()->removeEventFilter(this);
     QGuiApplication::restoreOverrideCursor();
     m_dragged->setMouseTracking(false);
 }
@@ -40,8 +44,15 @@ void DragGuard::abandon()
 bool DragGuard::eventFilter(QObject* watched, QEvent* event)
 {
     const QEvent::Type type = event->type();
+    if (watched != m_dragged) {
+        // A window as such gets the release before the widget in it does, so it does not count.
+        if (type == QEvent::MouseButtonRelease && watched->isWidgetType() &&
+            static_cast<QMouseEvent*>(event)->buttons() == Qt::NoButton)
+            abandon();
+        return false;
+    }
     const bool disabled = type == QEvent::EnabledChange && !m_dragged->isEnabled();
-    if (watched == m_dragged && (disabled || type == QEvent::Hide || type == QEvent::WindowBlocked))
+    if (disabled || type == QEvent::Hide || type == QEvent::WindowBlocked)
         abandon();
     return false;
 }

@@ -12,8 +12,9 @@ namespace PrintPanels {
  * mouse tracking of the dragged widget.
  *
  * The release that ends a drag never comes when the widget is hidden, disabled, blocked by a modal
- * window or destroyed under the pressed button. The guard watches for that and takes back exactly
- * what its presses pushed, so that the whole application does not keep the closed hand.
+ * window or destroyed under the pressed button, and goes elsewhere when a list or a menu opens
+ * meanwhile. The guard watches for that and takes back exactly what its presses pushed, so that the
+ * whole application does not keep the closed hand.
  */
 class DragGuard : public QObject
 {

@@ -5,6 +5,7 @@
 #include <QtCore/QPointer>
 #include <QtGui/QGuiApplication>
 #include <QtWidgets/QDialog>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QVBoxLayout>
 
 #include <memory>
@@ -96,6 +97,7 @@ private Q_SLOTS:
     void cursorOfTheHostComesBack();
     void closedHandNeverOutlivesTheDrag_data();
     void closedHandNeverOutlivesTheDrag();
+    void releaseThatAMenuTookEndsTheDrag();
     void hidingTakesBackWhatWasPushedAndNoMore();
     void viewThatWasHiddenInADragDoesNotPan();
     void viewMayBeDeletedWhileItDrags();
@@ -360,6 +362,22 @@ void tst_PreviewPan::closedHandNeverOutlivesTheDrag()
     QCOMPARE(cursorsLeft(), 0);
     if (shown.view)
         QVERIFY(!shown.view->hasMouseTracking());
+}
+
+void tst_PreviewPan::releaseThatAMenuTookEndsTheDrag()
+{
+    ShownView shown;
+    QVERIFY(QTest::qWaitForWindowExposed(&shown.window));
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    QWindow* window = shown.window.windowHandle();
+    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, QPoint(50, 50));
+    QVERIFY(handIsClosed());
+    QMenu menu;
+    menu.addAction(QStringLiteral("entry"));
+    menu.popup(shown.window.mapToGlobal(QPoint(100, 100)));
+    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, QPoint(60, 60));
+    QVERIFY(!shown.view->hasMouseTracking());
+    QCOMPARE(cursorsLeft(), 1);
 }
 
 void tst_PreviewPan::hidingTakesBackWhatWasPushedAndNoMore()
