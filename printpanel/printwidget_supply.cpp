@@ -168,12 +168,13 @@ void PrintWidget::updateSecondRibbon(const QStringList& colors, bool twoRibbons)
     ribbon1Menu->setTransparentColorVisible(true);
 }
 
-// A printer's only ribbon cannot be missing, so its menu then offers no transparent entry.
+// A printer's only ribbon cannot be missing, so its menu then offers no transparent entry. The page
+// goes before its tab: the bar tells the stack its new current index as it will be without the two.
 void PrintWidget::removeSecondRibbon()
 {
     ribbon2Color.clear();
-    colorTabBar->removeTab(secondRibbonTab);
     colorStack->removeWidget(ribbon2Menu);
+    colorTabBar->removeTab(secondRibbonTab);
     supplyTabIndex = 1;
     ribbon1Menu->setTransparentColorVisible(false);
 }

@@ -358,6 +358,7 @@ void tst_Supply::currentTabAndPageStayTogether_data()
     QTest::newRow("ribbon 1") << 0;
     QTest::newRow("ribbon 2") << 1;
     QTest::newRow("supply") << 2;
+    QTest::newRow("a menu of the host's") << 3;
 }
 
 void tst_Supply::currentTabAndPageStayTogether()
@@ -366,6 +367,8 @@ void tst_Supply::currentTabAndPageStayTogether()
     PrintWidget panel(false, nullptr);
     const QStringList loaded = colors({"#dc0b0b", "#248d4f", "#ffffff"});
     panel.showSupplyInfo(loaded, true, 4.0, 0, false);
+    if (current == 3)
+        panel.addMenuToStack(3, loaded.at(0), QStringLiteral("T"), QString(), new ColorMenu);
     colorTabs(panel)->setCurrentIndex(current);
     for (const bool two : {false, true, false, false, true, true}) {
         panel.showSupplyInfo(loaded, two, 4.0, 0, false);
