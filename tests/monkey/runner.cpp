@@ -64,6 +64,7 @@ void Runner::run(const std::function<bool()>& isFine)
             expectProgress();
         m_world.trail.beginStep(i);
         step();
+        ++m_world.tally.steps;
         if (!isFine())
             m_world.fail(QStringLiteral("the test is fine"), QStringLiteral("see above"));
         if (m_world.hasFailed())
@@ -96,6 +97,7 @@ void Runner::step()
 
 void Runner::beginLife()
 {
+    ++m_world.tally.panels;
     m_subject = Subject::create(m_plan.panel, m_world);
     m_stepsToLive = m_world.random.between(20, 400);
 }

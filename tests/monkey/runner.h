@@ -33,6 +33,7 @@ public:
     void run(const std::function<bool()>& isFine);
     /** What went wrong, what happened last and how to repeat it; empty if all is well. */
     QString report() const;
+    World::Tally tally() const { return m_world.tally; }
     quint64 fingerprint() const { return m_world.trail.fingerprint(); }
 
 private:

@@ -91,6 +91,7 @@ int Subject::qt_metacall(QMetaObject::Call call, int id, void** arguments)
         values.append(QVariant(method.parameterMetaType(i), arguments[i + 1]));
     world.trail.note(QStringLiteral("  signal %1(%2)")
                          .arg(QString::fromLatin1(method.name()), describe(values)));
+    ++world.tally.signalsHeard;
     const HostCall* cause = world.underWay();
     require(!cause || mayComeNow(method.name()), "a host hears nothing of its own changes",
             QString::fromLatin1(method.name()));

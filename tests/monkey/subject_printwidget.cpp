@@ -18,6 +18,17 @@ namespace Monkey {
 
 namespace {
 
+/** The code of the entry that a menu marks as selected. */
+QString checkedCode(const ColorMenu* menu)
+{
+    const QList<QAbstractButton*> entries = menu->findChildren<QAbstractButton*>();
+    for (const QAbstractButton* entry : entries) {
+        if (entry->isChecked())
+            return entry->objectName();
+    }
+    return QString();
+}
+
 /** The full print settings panel, for every module and in every layout. */
 class PrintWidgetSubject : public Subject
 {
@@ -124,16 +135,15 @@ void PrintWidgetSubject::checkColors(const QStringList& colors)
     require(menus && bar, "colours are told when there are any to choose", QString());
     if (world.underWay() || !menus || colors.size() != 3)
         return;
+    // The user picks from the page that is shown.
     const QByteArrayList names = {"ribbon1Menu", "ribbon2Menu", "supplyMenu"};
-    const QWidget* target = world.target;
     for (int i = 0; i < names.size(); ++i) {
         const auto* menu = part<ColorMenu>(m_panel, names.at(i).constData());
-        if (!target || !menu->isAncestorOf(target) || menus->currentWidget() != menu)
+        if (menus->currentWidget() != menu)
             continue;
-        const QString code = target->objectName();
-        const QString stored =
-            code == QLatin1String("transparent") ? QStringLiteral("#fffffe") : code;
-        require(!qobject_cast<const QAbstractButton*>(target) || colors.at(i) == stored,
+        const QString code = checkedCode(menu);
+        const bool nothing = code == QLatin1String("transparent");
+        require(colors.at(i) == (nothing ? QStringLiteral("#fffffe") : code),
                 "the colour told is the one picked", describe(QVariant(colors)));
     }
 }

@@ -126,7 +126,7 @@ extern "C" {
 Q_DECL_EXPORT const char* __asan_default_options();
 const char* __asan_default_options()
 {
-    return "abort_on_error=1:quarantine_size_mb=64";
+    return "abort_on_error=1:quarantine_size_mb=64:malloc_context_size=15";
 }
 Q_DECL_EXPORT const char* __ubsan_default_options();
 const char* __ubsan_default_options()

@@ -19,6 +19,7 @@ void World::call(Subject& subject, QWidget& widget, const HostCall& hostCall)
     const QString who =
         m_depth > 0 ? QStringLiteral("  host, in its handler: ") : QStringLiteral("host: ");
     trail.note(who + QString::fromLatin1(hostCall.name()) + u'(' + describe(arguments) + u')');
+    ++tally.hostCalls;
     subject.told(hostCall.name(), arguments);
     const HostCall* const outer = m_underWay;
     m_underWay = &hostCall;

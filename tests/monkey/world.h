@@ -25,6 +25,16 @@ public:
     /** The widget that the user addresses with the present action, if it is about one. */
     QPointer<QWidget> target;
 
+    /** How much happened in a run. */
+    struct Tally
+    {
+        int steps = 0;
+        int panels = 0;
+        int hostCalls = 0;
+        int signalsHeard = 0;
+    };
+    Tally tally;
+
     /** Keeps the first failure of a run: a check's name and what it found. */
     void fail(const QString& check, const QString& detail);
     bool hasFailed() const { return !m_failure.isEmpty(); }
