@@ -4,8 +4,8 @@
 
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
+#include <QtCore/QtMath>
 #include <QtGui/QPageLayout>
-#include <QtGui/QPageSize>
 #include <QtGui/QPdfWriter>
 #include <QtPrintSupport/QPrinter>
 #include <QtPrintSupport/QPrinterInfo>
@@ -18,6 +18,33 @@ void useSheet(QPagedPaintDevice& device, const QSizeF& sheetMm)
 {
     const QPageSize size(sheetMm, QPageSize::Millimeter, QString(), QPageSize::ExactMatch);
     device.setPageLayout(QPageLayout(size, QPageLayout::Portrait, QMarginsF()));
+}
+
+/**
+ * The name of a paper for a queue that knows these. It would put the nearest one that it knows in
+ * the place of an unknown name, so that paper goes by its size in points. The queue turns that into
+ * hundredths of a millimetre and back, and cuts off what is not a whole point then; without an
+ * excess a page would lose its edge.
+ */
+QString paperName(const QPageSize& paper, const QList<QPageSize>& known)
+{
+    const QSizeF points = paper.size(QPageSize::Point);
+    for (const QPageSize& other : known) {
+        if (other.key() == paper.key() && other.size(QPageSize::Point) == points) {
+            return other.key();
+        }
+    }
+    const auto side = [](qreal length) { return qCeil(length - 0.01) + 0.1; };
+    return QStringLiteral("Custom.%1x%2").arg(side(points.width())).arg(side(points.height()));
+}
+
+/** The smallest paper that has room for a page beside what it had room for; a queue turns pages. */
+QSizeF smallestRoom(const QSizeF& paper, const QSizeF& page)
+{
+    const QSizeF upright = paper.expandedTo(page);
+    const QSizeF turned = paper.expandedTo(page.transposed());
+    const auto area = [](const QSizeF& size) { return size.width() * size.height(); };
+    return area(turned) < area(upright) ? turned : upright;
 }
 
 /** Whether a PDF file has its end, which one that met a full disk lacks. */
@@ -109,6 +136,7 @@ QPagedPaintDevice* PrinterTarget::open(const QSizeF& sheetMm, QString& problem)
         m_printer.reset();
         return nullptr;
     }
+    m_knownPapers = info.supportedPageSizes();
     m_printer->setDocName(m_title);
     m_printer->setResolution(resolution);
     m_printer->setFullPage(true);
@@ -140,27 +168,43 @@ bool PrinterTarget::isHealthy(QString& problem)
                         m_printer->printerState() == QPrinter::Aborted;
     if (broken) {
         problem = tr("The printer \"%1\" stopped the job.").arg(m_printerName);
+    } else {
+        findRoomForPage();
     }
     return !broken;
+}
+
+// The health is asked for after every page, when the printer still has the page's size.
+void PrinterTarget::findRoomForPage()
+{
+    const QPageSize page = m_printer->pageLayout().pageSize();
+    const QSizeF size = page.size(QPageSize::Point);
+    const QSizeF before = m_paper.isValid() ? m_paper.size(QPageSize::Point) : size;
+    const QSizeF room = smallestRoom(before, size);
+    if (room == size) {
+        m_paper = page;
+    } else if (room != before) {
+        m_paper = QPageSize(room, QPageSize::Point, QString(), QPageSize::ExactMatch);
+    }
 }
 
 bool PrinterTarget::commit(QString& problem)
 {
     const bool healthy = isHealthy(problem);
-    const QString paper = healthy ? m_printer->pageLayout().pageSize().key() : QString();
     m_printer.reset();
-    const bool arrived = healthy && (!m_spool || submit(paper, problem));
+    const bool arrived = healthy && (!m_spool || submit(problem));
     m_spool.reset();
     return arrived;
 }
 
-bool PrinterTarget::submit(const QString& paper, QString& problem)
+bool PrinterTarget::submit(QString& problem)
 {
     if (!isComplete(spoolPath())) {
         problem = tr("The job cannot be stored: there is no room in %1.").arg(m_spool->path());
         return false;
     }
-    return PrintQueue(m_printerName).submit(spoolPath(), m_title, paper, problem);
+    return PrintQueue(m_printerName)
+        .submit(spoolPath(), m_title, paperName(m_paper, m_knownPapers), problem);
 }
 
 bool PrinterTarget::abort()

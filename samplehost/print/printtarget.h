@@ -4,8 +4,10 @@
 #include "samplehost/print/outputfile.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QList>
 #include <QtCore/QSizeF>
 #include <QtCore/QString>
+#include <QtGui/QPageSize>
 
 #include <memory>
 
@@ -103,13 +105,17 @@ public:
 private:
     bool openSpool(QString& problem);
     QString spoolPath() const;
-    bool submit(const QString& paper, QString& problem);
+    bool submit(QString& problem);
+    void findRoomForPage();
 
     QString m_printerName;
     QString m_title;
     std::unique_ptr<QPrinter> m_printer;
     /** Where the job is put together; null where the system gets the pages at once. */
     std::unique_ptr<QTemporaryDir> m_spool;
+    /** A paper that every page so far finds room on; a job has only one. */
+    QPageSize m_paper;
+    QList<QPageSize> m_knownPapers;
 };
 
 } // namespace SampleHost

@@ -14,7 +14,8 @@ namespace PagePictures {
 /** All pages of a file, in shades of grey; none when it cannot be read. */
 QList<QImage> of(const QString& path);
 
-/** The mean difference of two pictures' points, 0 to 255; 255 when their sizes differ. */
+/** The mean difference of two pictures' points, 0 to 255; 255 when their sizes differ by
+ * more than a point. */
 double difference(const QImage& a, const QImage& b);
 
 /**

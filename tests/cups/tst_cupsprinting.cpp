@@ -1,7 +1,7 @@
 #include "cups/cupshost.h"
 #include "cups/cupstest.h"
 
-#include <QtWidgets/QSpinBox>
+#include <QtCore/QProcess>
 
 using namespace SampleHost;
 using Outcome = PrintJob::Outcome;
@@ -18,12 +18,21 @@ private Q_SLOTS:
     void theQueueIsFound();
     void printsRecords_data();
     void printsRecords();
+    void printsSheets_data();
+    void printsSheets();
+    void programPrintsToTheQueue();
+    void programExplainsAMissingQueue();
 
 private:
     /** The records, counted from 1, on the pages of the only file that the queue put out. */
     QString recordsPrinted();
 
+    /** Runs the program; its exit code, or -1. What it said is in m_out and m_error. */
+    int runProgram(const QStringList& arguments);
+
     std::unique_ptr<CupsHost> m_host;
+    QString m_out;
+    QString m_error;
     QStringList m_names;
     QList<QImage> m_models;
 };
@@ -128,6 +137,69 @@ void TestCupsPrinting::printsRecords()
                                                   : QStringLiteral("%1 pages").arg(pages)));
     QCOMPARE(recordsPrinted(), records);
     QCOMPARE(m_host->outputFiles(), QStringList());
+}
+
+void TestCupsPrinting::printsSheets_data()
+{
+    QTest::addColumn<QString>("mode");
+    QTest::addColumn<QString>("printed");
+
+    QTest::newRow("sequencing") << QStringLiteral("sequencingRadio") << QStringLiteral("0 1");
+    QTest::newRow("replicating") << QStringLiteral("replicatingRadio")
+                                 << QStringLiteral("0 1 2 3 4");
+}
+
+// The models are the sheets of the same request in a PDF file.
+void TestCupsPrinting::printsSheets()
+{
+    QFETCH(QString, mode);
+    QFETCH(QString, printed);
+
+    m_host->window->settings().setNup(NupLayout{2, 2});
+    m_host->typeList(QStringLiteral("1-5"));
+    m_host->click(qPrintable(mode));
+    QVERIFY(m_host->choosePdfFile());
+    QCOMPARE(m_host->print(), Outcome::Completed);
+    const QList<QImage> models = PagePictures::of(m_host->outputPath());
+    QVERIFY(m_host->choosePrinter(queueName()));
+    QCOMPARE(m_host->print(), Outcome::Completed);
+    QVERIFY(server().waitForJobs());
+    QCOMPARE(server().outputs().size(), qsizetype(1));
+    QCOMPARE(PagePictures::recognised(PagePictures::of(server().outputs().at(0)), models), printed);
+}
+
+int TestCupsPrinting::runProgram(const QStringList& arguments)
+{
+    QProcess process;
+    process.start(QStringLiteral(SAMPLEHOST_PROGRAM),
+                  QStringList{QStringLiteral("--database"),
+                              m_host->folder.filePath(QStringLiteral("chemicals.db"))} +
+                      arguments);
+    const bool ended = process.waitForFinished(60000);
+    m_out = QString::fromLocal8Bit(process.readAllStandardOutput());
+    m_error = QString::fromLocal8Bit(process.readAllStandardError());
+    return ended && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+}
+
+void TestCupsPrinting::programPrintsToTheQueue()
+{
+    QCOMPARE(
+        runProgram({QStringLiteral("--print"), QStringLiteral("1,4-5"), QStringLiteral("--copies"),
+                    QStringLiteral("2"), QStringLiteral("--printer"), queueName()}),
+        0);
+    QCOMPARE(m_error, QString());
+    QCOMPARE(m_out, QStringLiteral("Printed 6 pages to printer \"Hall\"\n"));
+    QCOMPARE(recordsPrinted(), QStringLiteral("1 1 4 4 5 5"));
+}
+
+void TestCupsPrinting::programExplainsAMissingQueue()
+{
+    QCOMPARE(runProgram({QStringLiteral("--print"), QStringLiteral("1"),
+                         QStringLiteral("--printer"), QStringLiteral("Ramp")}),
+             1);
+    QCOMPARE(m_error, QStringLiteral("There is no printer \"Ramp\".\n"));
+    QCOMPARE(m_out, QString());
+    QCOMPARE(server().outputs(), QStringList());
 }
 
 QTEST_MAIN(TestCupsPrinting)
