@@ -173,7 +173,7 @@ void TestCupsDocuments::pagesAreWhole_data()
     QTest::newRow("on its side, then upright") << Sizes{{300, 200}, {200, 300}} << QSizeF(300, 200);
     QTest::newRow("smaller pages") << Sizes{{200, 300}, {100, 150}, {200, 100}} << QSizeF(200, 300);
     QTest::newRow("wider and higher pages")
-        << Sizes{{288, 216}, {200, 300}, {310, 220}} << QSizeF(310, 220);
+        << Sizes{{310, 200}, {288, 216}, {200, 305}} << QSizeF(310, 216);
 }
 
 // A job has one paper, so it has to be one that every page finds room on. A line along the
