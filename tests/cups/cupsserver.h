@@ -54,6 +54,8 @@ public:
 
 private:
     Q_DISABLE_COPY_MOVE(CupsServer)
+    /** A file of the system that the server's own need; empty when all are there. */
+    static QString missingFile();
     bool writeFiles();
     bool writeProgram(const QString& path, const QByteArray& text);
     bool write(const QString& path, const QByteArray& text);

@@ -1,7 +1,10 @@
 #include "cups/cupshost.h"
 #include "cups/cupstest.h"
+#include "samplehost/app/printprogressdialog.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
 
 using namespace SampleHost;
 using Outcome = PrintJob::Outcome;
@@ -20,6 +23,8 @@ private Q_SLOTS:
     void printsRecords();
     void printsSheets_data();
     void printsSheets();
+    void cancelLeavesNothing();
+    void closingTheHostLeavesNothing();
     void programPrintsToTheQueue();
     void programExplainsAMissingQueue();
 
@@ -30,6 +35,12 @@ private:
     /** Runs the program; its exit code, or -1. What it said is in m_out and m_error. */
     int runProgram(const QStringList& arguments);
 
+    /** Starts a job that is far from its end when some of its pages are painted. */
+    void printHalfOfAJob();
+    /** What a job may leave: in the queue, in its output and among the temporary files. */
+    QStringList traces();
+
+    QTemporaryDir m_temporary;
     std::unique_ptr<CupsHost> m_host;
     QString m_out;
     QString m_error;
@@ -44,6 +55,9 @@ void TestCupsPrinting::initTestCase()
     if (QTest::currentTestFailed() || !server().isRunning()) {
         return;
     }
+    // Others leave their files in the system's folder of temporary files.
+    QVERIFY(m_temporary.isValid());
+    qputenv("TMPDIR", QFile::encodeName(m_temporary.path()));
     CupsHost host;
     QVERIFY(host.choosePdfFile());
     host.click("allRecordsRadio");
@@ -166,6 +180,51 @@ void TestCupsPrinting::printsSheets()
     QVERIFY(server().waitForJobs());
     QCOMPARE(server().outputs().size(), qsizetype(1));
     QCOMPARE(PagePictures::recognised(PagePictures::of(server().outputs().at(0)), models), printed);
+}
+
+QStringList TestCupsPrinting::traces()
+{
+    const auto all = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
+    return server().jobs() + server().endedJobs() + server().outputs() +
+           QDir::temp().entryList(all);
+}
+
+void TestCupsPrinting::printHalfOfAJob()
+{
+    m_host->click("allRecordsRadio");
+    m_host->panel().setNumberOfCopies(999);
+    m_host->click("PrintButton");
+    PrintJob* job = m_host->labels().controller().job();
+    QVERIFY(job != nullptr);
+    QSignalSpy progress(job, &PrintJob::progressChanged);
+    QVERIFY(progress.wait());
+}
+
+void TestCupsPrinting::cancelLeavesNothing()
+{
+    const QStringList before = traces();
+    QSignalSpy jobEnded(&m_host->labels().controller(), &PrintController::jobEnded);
+    printHalfOfAJob();
+    auto* dialog = m_host->window->findChild<PrintProgressDialog*>();
+    QVERIFY(dialog != nullptr);
+    QTRY_VERIFY(dialog->isVisible());
+    QVERIFY(jobEnded.isEmpty());
+    QVERIFY(traces() != before);
+    QTest::mouseClick(dialog->findChild<QWidget*>(QStringLiteral("cancelPrintButton")),
+                      Qt::LeftButton);
+    QCOMPARE(jobEnded.size(), qsizetype(1));
+    QCOMPARE(jobEnded.at(0).at(0).value<Outcome>(), Outcome::Cancelled);
+    QCOMPARE(jobEnded.at(0).at(1).toString(), QStringLiteral("Printing was cancelled."));
+    QCOMPARE(traces(), before);
+}
+
+void TestCupsPrinting::closingTheHostLeavesNothing()
+{
+    const QStringList before = traces();
+    printHalfOfAJob();
+    QVERIFY(traces() != before);
+    m_host->window.reset();
+    QCOMPARE(traces(), before);
 }
 
 int TestCupsPrinting::runProgram(const QStringList& arguments)

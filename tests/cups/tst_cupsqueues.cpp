@@ -1,10 +1,7 @@
 #include "cups/cupshost.h"
 #include "cups/cupstest.h"
 #include "samplehost/app/eventlog.h"
-#include "samplehost/app/printprogressdialog.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QTemporaryDir>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QRadioButton>
@@ -18,7 +15,6 @@ class TestCupsQueues : public CupsTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void init();
     void cleanup();
     void statusFollowsTheQueue_data();
@@ -27,8 +23,6 @@ private Q_SLOTS:
     void refusalIsExplained_data();
     void refusalIsExplained();
     void addedQueueIsFound();
-    void cancelLeavesNothing();
-    void closingTheHostLeavesNothing();
     void goneServerIsExplained_data();
     void goneServerIsExplained();
 
@@ -43,23 +37,9 @@ private:
     void makeChoice();
     bool choiceIsKept() const;
     void printInTrouble(Trouble trouble, bool whilePrinting);
-    /** Starts a job that is far from its end when some of its pages are painted. */
-    void printHalfOfAJob();
-    /** What a job may leave: in the queue, in its output and among the temporary files. */
-    QStringList traces();
-
-    QTemporaryDir m_temporary;
 
     std::unique_ptr<CupsHost> m_host;
 };
-
-// Others leave their files in the system's folder of temporary files.
-void TestCupsQueues::initTestCase()
-{
-    CupsTest::initTestCase();
-    QVERIFY(m_temporary.isValid());
-    qputenv("TMPDIR", QFile::encodeName(m_temporary.path()));
-}
 
 void TestCupsQueues::init()
 {
@@ -238,51 +218,6 @@ void TestCupsQueues::addedQueueIsFound()
     QVERIFY(server().waitForJobs());
     QCOMPARE(server().outputs().size(), qsizetype(1));
     QVERIFY(server().removeQueue(added));
-}
-
-QStringList TestCupsQueues::traces()
-{
-    const auto all = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
-    return server().jobs() + server().endedJobs() + server().outputs() +
-           QDir::temp().entryList(all);
-}
-
-void TestCupsQueues::printHalfOfAJob()
-{
-    m_host->click("allRecordsRadio");
-    m_host->panel().setNumberOfCopies(999);
-    m_host->click("PrintButton");
-    PrintJob* job = m_host->labels().controller().job();
-    QVERIFY(job != nullptr);
-    QSignalSpy progress(job, &PrintJob::progressChanged);
-    QVERIFY(progress.wait());
-}
-
-void TestCupsQueues::cancelLeavesNothing()
-{
-    const QStringList before = traces();
-    QSignalSpy jobEnded(&m_host->labels().controller(), &PrintController::jobEnded);
-    printHalfOfAJob();
-    auto* dialog = m_host->window->findChild<PrintProgressDialog*>();
-    QVERIFY(dialog != nullptr);
-    QTRY_VERIFY(dialog->isVisible());
-    QVERIFY(jobEnded.isEmpty());
-    QVERIFY(traces() != before);
-    QTest::mouseClick(dialog->findChild<QWidget*>(QStringLiteral("cancelPrintButton")),
-                      Qt::LeftButton);
-    QCOMPARE(jobEnded.size(), qsizetype(1));
-    QCOMPARE(jobEnded.at(0).at(0).value<Outcome>(), Outcome::Cancelled);
-    QCOMPARE(jobEnded.at(0).at(1).toString(), QStringLiteral("Printing was cancelled."));
-    QCOMPARE(traces(), before);
-}
-
-void TestCupsQueues::closingTheHostLeavesNothing()
-{
-    const QStringList before = traces();
-    printHalfOfAJob();
-    QVERIFY(traces() != before);
-    m_host->window.reset();
-    QCOMPARE(traces(), before);
 }
 
 void TestCupsQueues::goneServerIsExplained_data()
