@@ -2,6 +2,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>
+#include <QtCore/QTimer>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QWidget>
@@ -41,14 +42,27 @@ void DragGuard::abandon()
         release();
 }
 
+// A window gets the release before a widget in it does, and sometimes no widget gets it then: the
+// first one after a list has closed goes nowhere.
+void DragGuard::releasedElsewhere(bool arrived)
+{
+    if (arrived) {
+        abandon();
+        return;
+    }
+    QTimer::singleShot(0, this, [this] {
+        if (QGuiApplication::mouseButtons() == Qt::NoButton)
+            abandon();
+    });
+}
+
 bool DragGuard::eventFilter(QObject* watched, QEvent* event)
 {
     const QEvent::Type type = event->type();
     if (watched != m_dragged) {
-        // A window as such gets the release before the widget in it does, so it does not count.
-        if (type == QEvent::MouseButtonRelease && watched->isWidgetType() &&
+        if (type == QEvent::MouseButtonRelease &&
             static_cast<QMouseEvent*>(event)->buttons() == Qt::NoButton)
-            abandon();
+            releasedElsewhere(watched->isWidgetType());
         return false;
     }
     const bool disabled = type == QEvent::EnabledChange && !m_dragged->isEnabled();

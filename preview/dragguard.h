@@ -39,6 +39,8 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void releasedElsewhere(bool arrived);
+
     QWidget* m_dragged;
     int m_pushed = 0;
 };

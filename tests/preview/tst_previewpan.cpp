@@ -97,6 +97,7 @@ private Q_SLOTS:
     void cursorOfTheHostComesBack();
     void closedHandNeverOutlivesTheDrag_data();
     void closedHandNeverOutlivesTheDrag();
+    void releaseThatAMenuTookEndsTheDrag_data();
     void releaseThatAMenuTookEndsTheDrag();
     void hidingTakesBackWhatWasPushedAndNoMore();
     void viewThatWasHiddenInADragDoesNotPan();
@@ -364,8 +365,16 @@ void tst_PreviewPan::closedHandNeverOutlivesTheDrag()
         QVERIFY(!shown.view->hasMouseTracking());
 }
 
+void tst_PreviewPan::releaseThatAMenuTookEndsTheDrag_data()
+{
+    QTest::addColumn<bool>("closed");
+    QTest::newRow("menu is open") << false;
+    QTest::newRow("menu was closed again") << true;
+}
+
 void tst_PreviewPan::releaseThatAMenuTookEndsTheDrag()
 {
+    QFETCH(const bool, closed);
     ShownView shown;
     QVERIFY(QTest::qWaitForWindowExposed(&shown.window));
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
@@ -375,8 +384,10 @@ void tst_PreviewPan::releaseThatAMenuTookEndsTheDrag()
     QMenu menu;
     menu.addAction(QStringLiteral("entry"));
     menu.popup(shown.window.mapToGlobal(QPoint(100, 100)));
+    if (closed)
+        menu.close();
     QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, QPoint(60, 60));
-    QVERIFY(!shown.view->hasMouseTracking());
+    QTRY_VERIFY(!shown.view->hasMouseTracking());
     QCOMPARE(cursorsLeft(), 1);
 }
 
