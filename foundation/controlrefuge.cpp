@@ -61,11 +61,15 @@ QList<QPointer<QWidget>> controlsOf(const QWidget* panel)
     return controls;
 }
 
-void outliveSignal(const QObject* sender, const QList<QPointer<QWidget>>& controls)
+void leaveSilently(QWidget* panel, const QObject* sender, const QList<QPointer<QWidget>>& controls)
 {
+    panel->blockSignals(true);
     if (sender == nullptr)
         return;
     auto* refuge = new Refuge;
+    // A control that is just opening its list holds on to its style, and the style that comes of a
+    // style sheet ends with the last widget that has it.
+    refuge->setStyle(panel->style());
     for (const QPointer<QWidget>& control : controls) {
         if (control)
             silence(control);

@@ -21,11 +21,14 @@ namespace PrintPanels {
 QList<QPointer<QWidget>> controlsOf(const QWidget* panel);
 
 /**
- * To be called first in the destructor of a panel. Does nothing without a @p sender; otherwise the
- * @p controls fall silent, leave the panel and outlive it.
+ * To be called first in the destructor of a panel, which then emits nothing any more: while Qt
+ * takes a window apart its edits lose the focus, and a handler would call a panel that is half
+ * gone.
+ *
+ * With a @p sender the @p controls fall silent, too, leave the panel and outlive it.
  * @param sender the panel's own sender(): whose signal the panel hears right now, or null
  */
-void outliveSignal(const QObject* sender, const QList<QPointer<QWidget>>& controls);
+void leaveSilently(QWidget* panel, const QObject* sender, const QList<QPointer<QWidget>>& controls);
 
 } // namespace PrintPanels
 

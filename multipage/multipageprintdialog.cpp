@@ -47,10 +47,13 @@ MultiPagePrintDialog::MultiPagePrintDialog(QWidget* settingsPanel, QWidget* pare
     ownControls.removeAll(panel);
 }
 
-// The settings panel is not among them: it sees to its own controls.
+// The settings panel is not among the controls, because it sees to its own, but it loses the focus
+// before its own end comes.
 MultiPagePrintDialog::~MultiPagePrintDialog()
 {
-    PrintPanels::outliveSignal(sender(), ownControls);
+    if (panel && isAncestorOf(panel))
+        panel->blockSignals(true);
+    PrintPanels::leaveSilently(this, sender(), ownControls);
 }
 
 QFrame* MultiPagePrintDialog::createPreviewFrame()

@@ -31,7 +31,7 @@ MultiPagePrintWidget::MultiPagePrintWidget(bool fitToPage, bool withInterfaceFla
 
 MultiPagePrintWidget::~MultiPagePrintWidget()
 {
-    PrintPanels::outliveSignal(sender(), ownControls);
+    PrintPanels::leaveSilently(this, sender(), ownControls);
 }
 
 // Each step adds its section below the one before.

@@ -119,7 +119,7 @@ PrintPreviewDialog::PrintPreviewDialog(QWidget* parent, Qt::WindowFlags flags, c
 
 PrintPreviewDialog::~PrintPreviewDialog()
 {
-    PrintPanels::outliveSignal(sender(), ownControls);
+    PrintPanels::leaveSilently(this, sender(), ownControls);
 }
 
 void PrintPreviewDialog::createTitleBar()

@@ -27,7 +27,7 @@ PrintWidget::PrintWidget(bool withPrintToFile, QWidget* parent)
 
 PrintWidget::~PrintWidget()
 {
-    PrintPanels::outliveSignal(sender(), ownControls);
+    PrintPanels::leaveSilently(this, sender(), ownControls);
 }
 
 // Each step adds its section below the one before.

@@ -91,7 +91,7 @@ QuickPrintWidget::QuickPrintWidget(bool quickPrint, QWidget* parent)
 
 QuickPrintWidget::~QuickPrintWidget()
 {
-    PrintPanels::outliveSignal(sender(), ownControls);
+    PrintPanels::leaveSilently(this, sender(), ownControls);
 }
 
 void QuickPrintWidget::createWidgetLayout()

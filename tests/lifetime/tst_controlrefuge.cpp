@@ -7,10 +7,16 @@
 
 #include <QtCore/QEventLoop>
 #include <QtCore/QTimer>
+#include <QtTest/QSignalSpy>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
+
+#include <memory>
+
+using Create = QWidget* (*)();
+Q_DECLARE_METATYPE(Create)
 
 /** What becomes of the controls of a panel that is deleted in a handler of its own signals. */
 class tst_ControlRefuge : public StrictTest
@@ -30,6 +36,8 @@ private Q_SLOTS:
     void printersReplacedBeforeThePanelGoes();
     void supplyHiddenWhileItsWidthIsEdited();
     void otherListenersOfTheControlAreStillCalled();
+    void dyingPanelTellsNothing_data();
+    void dyingPanelTellsNothing();
 };
 
 namespace {
@@ -201,6 +209,40 @@ void tst_ControlRefuge::otherListenersOfTheControlAreStillCalled()
     fit->click();
     QVERIFY(panel.isNull());
     QCOMPARE(heard, 1);
+}
+
+void tst_ControlRefuge::dyingPanelTellsNothing_data()
+{
+    QTest::addColumn<Create>("create");
+    QTest::addColumn<QByteArray>("edit");
+    QTest::addColumn<QByteArray>("signal");
+    QTest::newRow("print panel") << Create(newPrintPanel) << QByteArray("supplyWidthEdit")
+                                 << QByteArray(SIGNAL(supplyWidthChangedSignal(double)));
+    QTest::newRow("multi-page panel")
+        << Create(newMultiPagePanel) << QByteArray("copiesEdit") << QByteArray(SIGNAL(focusLost()));
+    QTest::newRow("multi-page dialog") << Create(newMultiPageDialog) << QByteArray("copiesEdit")
+                                       << QByteArray(SIGNAL(focusLost()));
+}
+
+// A window that is taken apart loses the keyboard before its edits are gone.
+void tst_ControlRefuge::dyingPanelTellsNothing()
+{
+    QFETCH(const Create, create);
+    QFETCH(const QByteArray, edit);
+    QFETCH(const QByteArray, signal);
+    std::unique_ptr<QWidget> window(create());
+    QVERIFY(showActive(*window));
+    auto* panel = window->findChild<PrintWidgetInterface*>();
+    if (!panel)
+        panel = qobject_cast<PrintWidgetInterface*>(window.get());
+    QSignalSpy told(panel, signal.constData());
+    auto* typed = part<QLineEdit>(*window, edit.constData());
+    typed->setFocus();
+    QTest::keyClick(typed, Qt::Key_9);
+    QVERIFY(typed->hasFocus());
+    QVERIFY(told.isEmpty());
+    window.reset();
+    QCOMPARE(told.size(), 0);
 }
 
 QTEST_MAIN(tst_ControlRefuge)

@@ -263,6 +263,10 @@ void addMultiPageFields(QList<UserAction>& rows)
         copies(panel);
         click(part<QWidget>(*panel, "PrinterListCombo"));
     });
+    focus("multi page: copies left for the list of printers", [copies](const Panel& panel) {
+        copies(panel);
+        part<QComboBox>(*panel, "PrinterListCombo")->showPopup();
+    });
     focus("multi page: copies left for their context menu", [copies](const Panel& panel) {
         QLineEdit* edit = copies(panel);
         QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(5, 5),
