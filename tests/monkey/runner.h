@@ -53,6 +53,7 @@ private:
     QObject m_nestedLoops;
     int m_stepsToLive = 0;
     bool m_answering = false;
+    int m_idleLoops = 0;
 };
 
 } // namespace Monkey

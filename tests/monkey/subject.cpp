@@ -1,12 +1,11 @@
 #include "subject.h"
 
-#include "deletion.h"
-
 #include <QtCore/QCoreApplication>
-#include <QtCore/QScopeGuard>
+#include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QVBoxLayout>
 
@@ -108,6 +107,13 @@ bool Subject::mayComeNow(const QByteArray& signal) const
     return atAnyTime.contains(signal) || world.underWay()->mayEmit.split(' ').contains(signal);
 }
 
+// What the panels promise; in all other cases a handler has to use deleteLater().
+bool Subject::mayDeleteAtOnce(const QByteArray& signal) const
+{
+    return signal != "printWidgetShowSignal" && !world.windowsChange &&
+           QApplication::activeWindow() == window();
+}
+
 // What a host does in the handler of a signal.
 void Subject::react(const QByteArray& signal)
 {
@@ -131,6 +137,7 @@ void Subject::hostActs()
     QWidget* const shown = window();
     if (shown && !shown->isVisible() && world.random.coin()) {
         world.trail.note(QStringLiteral("host: shows the window"));
+        const QScopedValueRollback<bool> change(world.windowsChange, true);
         m_panel->show();
         shown->show();
         return;
@@ -146,6 +153,7 @@ void Subject::hostActs()
         widget = widget->window();
     const int index =
         world.random.pickWeighted(calls, [](const HostCall& call) { return call.weight; });
+    const QScopedValueRollback<bool> change(world.windowsChange, world.windowsChange || asWidget);
     world.call(*this, *widget, calls.at(index));
 }
 
@@ -165,7 +173,8 @@ void Subject::typedTextChanged(const QLineEdit* edit, const QByteArrayList& chan
         return;
     }
     // Keys go to the focus of their window, also while another window is the active one.
-    bool meant = QApplication::activePopupWidget() != nullptr;
+    // A menu is no popup any more when what was chosen in it is done.
+    bool meant = QApplication::activePopupWidget() || qobject_cast<QMenu*>(world.target);
     for (const QWidget* addressed : {world.target.data(), edit->window()->focusWidget()})
         meant = meant || addressed == edit ||
                 (addressed && changers.contains(addressed->objectName().toLatin1()));

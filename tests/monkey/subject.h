@@ -72,6 +72,7 @@ private:
     void typedTextChanged(const QLineEdit* edit, const QByteArrayList& changers);
     void react(const QByteArray& signal);
     bool mayComeNow(const QByteArray& signal) const;
+    bool mayDeleteAtOnce(const QByteArray& signal) const;
 
     QPointer<QWidget> m_panel;
     QPointer<QWidget> m_host;

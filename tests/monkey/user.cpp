@@ -2,6 +2,7 @@
 
 #include "subject.h"
 
+#include <QtCore/QScopedValueRollback>
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
@@ -69,6 +70,7 @@ void User::moveFocus(QWidget* panel)
     if (world.random.oneIn(4)) {
         QWidget* const next = world.random.coin() ? &m_desk : panel;
         world.trail.note(QStringLiteral("user: goes to ") + next->objectName());
+        const QScopedValueRollback<bool> change(world.windowsChange, true);
         next->activateWindow();
         QCoreApplication::processEvents();
         return;
@@ -116,6 +118,7 @@ void User::goAway(QWidget* panel)
     // The window system hides, closes and moves windows without asking anybody.
     const int choice = world.random.below(3);
     world.trail.note(QStringLiteral("user: window away, in the way %1").arg(choice));
+    const QScopedValueRollback<bool> change(world.windowsChange, true);
     if (choice == 0)
         panel->close();
     else if (choice == 1)

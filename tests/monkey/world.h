@@ -24,6 +24,8 @@ public:
     Trail trail;
     /** The widget that the user addresses with the present action, if it is about one. */
     QPointer<QWidget> target;
+    /** Whether windows come, go or change places, so that Qt is not done with the panel's. */
+    bool windowsChange = false;
 
     /** How much happened in a run. */
     struct Tally
