@@ -108,7 +108,7 @@ void ExpandingTabBar::initStyleOption(QStyleOptionTab* option, int tabIndex) con
     const QSize size = contentsSize(tabIndex);
     if (size.isEmpty())
         return;
-    option->icon = QIcon(contents(tabIndex));
+    option->icon = contentsIcon(tabIndex);
     option->iconSize = size;
     if (!pictureFile(tabText(tabIndex)).isEmpty()) {
         // Without a text to fill the tab the style would keep the icon at its left end. It centres
@@ -142,6 +142,31 @@ QSize ExpandingTabBar::contentsSize(int index) const
     const int width = (hasIcon ? icon.width() : 0) + (hasColorRect ? icon.width() : 0) +
                       (hasIcon && hasColorRect ? spacing : 0) + (hasPicture ? 0 : spacing);
     return QSize(width, icon.height());
+}
+
+// Everything that contents() depends on.
+QString ExpandingTabBar::contentsKey(int index) const
+{
+    const QSize size = iconSize();
+    const QStringList parts = {pictureFile(tabText(index)),
+                               QString::number(tabIcon(index).cacheKey()),
+                               tabColorRect(index),
+                               QString::number(size.width()),
+                               QString::number(size.height()),
+                               QString::number(devicePixelRatioF()),
+                               QString::number(int(isRightToLeft()))};
+    return parts.join(u'|');
+}
+
+QIcon ExpandingTabBar::contentsIcon(int index) const
+{
+    const QString key = contentsKey(index);
+    if (const QIcon* known = m_contents.object(key))
+        return *known;
+    const QIcon icon(contents(index));
+    m_contents.setMaxCost(qMax(m_contents.maxCost(), qsizetype(count())));
+    m_contents.insert(key, new QIcon(icon));
+    return icon;
 }
 
 // The picture or the tab's own icon, and the colour rectangle behind it, as one image.

@@ -3,6 +3,7 @@
 
 #include <hostkit_export.h>
 
+#include <QtCore/QCache>
 #include <QtCore/QHash>
 #include <QtGui/QIcon>
 #include <QtWidgets/QTabBar>
@@ -51,13 +52,16 @@ protected:
 
 private:
     QSize contentsSize(int index) const;
+    QString contentsKey(int index) const;
+    QIcon contentsIcon(int index) const;
     QPixmap contents(int index) const;
     QIcon pictureIcon(const QString& file) const;
     bool isVertical() const;
     void updateAccessibleName(int index);
 
-    // By file. Kept, because Qt caches the picture of every new icon anew.
+    // Kept, because Qt caches the picture of every new icon anew: by file, and by contentsKey().
     mutable QHash<QString, QIcon> m_pictures;
+    mutable QCache<QString, QIcon> m_contents;
 };
 
 #endif

@@ -5,6 +5,7 @@
 #include <QtGui/QAccessible>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QStackedWidget>
+#include <QtWidgets/QStyleOptionTab>
 
 class TestExpandingTabBar : public StrictTest
 {
@@ -23,6 +24,8 @@ private Q_SLOTS:
     void pictureStandsForAGlyph_data();
     void pictureStandsForAGlyph();
     void otherTextsAreDrawnAsText();
+    void paintsTheSameIconAgain_data();
+    void paintsTheSameIconAgain();
     void tabsShareTheWidthOfTheBar();
     void tabMakesRoomForRectangleAndPicture();
     void toolTipNamesAGlyphTab();
@@ -55,6 +58,14 @@ struct Bar : ExpandingTabBar
     {
         show();
         return grab(tabRect(index)).toImage();
+    }
+
+    // What Qt caches the painted icon under.
+    qint64 iconKey(int index) const
+    {
+        QStyleOptionTab option;
+        initStyleOption(&option, index);
+        return option.icon.cacheKey();
     }
 
     // How many pixels of the tab have exactly this colour.
@@ -256,6 +267,41 @@ void TestExpandingTabBar::otherTextsAreDrawnAsText()
     plain.addTab(QStringLiteral("!!"));
     plain.show();
     QCOMPARE(bar.picture(0), plain.grab(plain.tabRect(0)).toImage());
+}
+
+void TestExpandingTabBar::paintsTheSameIconAgain_data()
+{
+    QTest::addColumn<QString>("tabText");
+    QTest::newRow("picture") << QStringLiteral("!");
+    QTest::newRow("text") << QStringLiteral("x");
+}
+
+// Each new icon would take memory of Qt's picture cache.
+void TestExpandingTabBar::paintsTheSameIconAgain()
+{
+    QFETCH(QString, tabText);
+    Bar bar;
+    for (int i = 0; i < 200; ++i) {
+        bar.addTab(tabText);
+        bar.setTabColorRect(i, QStringLiteral("#%1").arg(i, 6, 16, QLatin1Char('0')));
+    }
+    QList<qint64> keys;
+    for (int i = 0; i < bar.count(); ++i)
+        keys.append(bar.iconKey(i));
+    for (int i = 0; i < 100; ++i)
+        bar.picture(0);
+    for (int i = 0; i < bar.count(); ++i)
+        QCOMPARE(bar.iconKey(i), keys.at(i));
+    bar.setTabColorRect(0, QStringLiteral("#248d4f"));
+    QVERIFY(bar.iconKey(0) != keys.at(0));
+    QPixmap own(10, 10);
+    own.fill(Qt::green);
+    const qint64 before = bar.iconKey(1);
+    bar.setTabIcon(1, QIcon(own));
+    QVERIFY(bar.iconKey(1) != before);
+    const qint64 small = bar.iconKey(2);
+    bar.setIconSize(QSize(40, 40));
+    QVERIFY(bar.iconKey(2) != small);
 }
 
 void TestExpandingTabBar::tabsShareTheWidthOfTheBar()

@@ -12,6 +12,7 @@
 #include <QtGui/QImage>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QVBoxLayout>
 
 namespace {
 
@@ -78,13 +79,35 @@ QWidget* newPreviewPopup()
                                   QSizeF(4, 2), false, true, false, 1, 5, QString());
 }
 
+QList<PanelKind> panelKinds()
+{
+    return {{"print panel", newPrintPanel},
+            {"quick print panel", newQuickPanel},
+            {"multi-page panel", newMultiPagePanel},
+            {"multi-page dialog", newMultiPageDialog},
+            {"preview popup", newPreviewPopup}};
+}
+
+QWidget* newWindowAround(QWidget* panel)
+{
+    auto* window = new QWidget;
+    auto* inner = new QWidget;
+    (new QVBoxLayout(window))->addWidget(inner);
+    (new QVBoxLayout(inner))->addWidget(panel);
+    panel->show();
+    return window;
+}
+
 QStringList widgetsLeft()
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QStringList names;
     const QWidgetList left = QApplication::allWidgets();
-    for (const QWidget* widget : left)
-        names.append(QString::fromLatin1(widget->metaObject()->className()));
+    for (const QWidget* widget : left) {
+        // Qt makes one for itself when the mouse leaves a window, and keeps it.
+        if (widget->windowType() != Qt::Desktop)
+            names.append(QString::fromLatin1(widget->metaObject()->className()));
+    }
     return names;
 }
 

@@ -20,6 +20,19 @@ QWidget* newMultiPagePanel();
 QWidget* newMultiPageDialog();
 QWidget* newPreviewPopup();
 
+/** A panel, or a window around one. */
+struct PanelKind
+{
+    const char* name;
+    QWidget* (*create)();
+};
+
+/** One for each of the functions above. */
+QList<PanelKind> panelKinds();
+
+/** A window of a host that holds @p panel two levels down. */
+QWidget* newWindowAround(QWidget* panel);
+
 /** Class names of what is alive once all that was to be deleted later is deleted. */
 QStringList widgetsLeft();
 

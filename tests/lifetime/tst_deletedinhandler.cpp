@@ -4,7 +4,6 @@
 #include "useractions.h"
 
 #include <QtCore/QPointer>
-#include <QtWidgets/QVBoxLayout>
 
 #include <memory>
 
@@ -40,17 +39,6 @@ void addRows(bool every)
         if (every || !action.leavesWindow)
             QTest::newRow(action.name) << action;
     }
-}
-
-/** A window of a host that holds @p panel two levels down. */
-QWidget* newWindowAround(QWidget* panel)
-{
-    auto* window = new QWidget;
-    auto* inner = new QWidget;
-    (new QVBoxLayout(window))->addWidget(inner);
-    (new QVBoxLayout(inner))->addWidget(panel);
-    panel->show();
-    return window;
 }
 
 } // namespace
