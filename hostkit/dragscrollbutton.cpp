@@ -2,6 +2,7 @@
 
 #include "dragscroller.h"
 
+#include <QtCore/QPointer>
 #include <QtGui/QMouseEvent>
 
 DragScrollButton::DragScrollButton(QWidget* parent) : DragScrollButton(QString(), parent) {}
@@ -28,12 +29,13 @@ void DragScrollButton::mousePressEvent(QMouseEvent* event)
 void DragScrollButton::mouseMoveEvent(QMouseEvent* event)
 {
     const bool wasDragging = m_scroller->isDragging();
+    const QPointer<DragScrollButton> guard(this);
     if (!m_scroller->move(event)) {
         QPushButton::mouseMoveEvent(event);
         return;
     }
     event->accept();
-    if (!wasDragging && isDown()) {
+    if (guard && !wasDragging && isDown()) {
         // A button that is no longer down neither repeats nor clicks when the mouse is released.
         setDown(false);
         Q_EMIT released();

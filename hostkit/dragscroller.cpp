@@ -42,9 +42,11 @@ bool DragScroller::move(const QMouseEvent* event)
         return false;
     m_dragging = true;
     const QPoint offset = m_pressOffset - distance;
-    QScrollBar* vertical = m_scrollArea->verticalScrollBar();
+    const QPointer<QScrollBar> vertical = m_scrollArea->verticalScrollBar();
+    // Nothing of this object after here.
     m_scrollArea->horizontalScrollBar()->setValue(offset.x());
-    vertical->setValue(offset.y());
+    if (vertical)
+        vertical->setValue(offset.y());
     return true;
 }
 

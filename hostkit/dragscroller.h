@@ -23,7 +23,10 @@ public:
     /** The left button went down; false if there is nothing around the widget that could scroll. */
     bool press(const QMouseEvent* event);
 
-    /** The mouse moved; scrolls and answers true if the press has become a drag. */
+    /**
+     * The mouse moved; scrolls and answers true if the press has become a drag. Whoever hears of
+     * the scrolling may delete the widget, and with it the scroller.
+     */
     bool move(const QMouseEvent* event);
 
     /** The press is over, or cannot go on. */

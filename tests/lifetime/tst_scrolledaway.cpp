@@ -1,0 +1,130 @@
+#include "executioner.h"
+#include "hostkit/inputevents.h"
+#include "livepanel.h"
+#include "support/stricttest.h"
+
+#include <QtCore/QPointer>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QScrollBar>
+
+#include <memory>
+
+/** Hosts that delete a panel in a scroll area when it is scrolled, as by a drag on the panel. */
+class tst_ScrolledAway : public StrictTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void byADragOnThePanel_data();
+    void byADragOnThePanel();
+    void byTheAreasOwnBar();
+    void whileTheCanvasIsDragged();
+};
+
+namespace {
+
+/** An area that is too small for its panel, inside a window. */
+struct Scrolled
+{
+    explicit Scrolled(QWidget* what) : panel(what)
+    {
+        window->resize(300, 300);
+        area->resize(250, 250);
+        area->setWidget(panel);
+        panel->setMinimumSize(900, 900);
+    }
+
+    std::unique_ptr<QWidget> window = std::make_unique<QWidget>();
+    QPointer<QScrollArea> area = new QScrollArea(window.get());
+    QPointer<QWidget> panel;
+};
+
+} // namespace
+
+void tst_ScrolledAway::cleanup()
+{
+    deleteWidgetsLeft();
+}
+
+void tst_ScrolledAway::byADragOnThePanel_data()
+{
+    QTest::addColumn<QByteArray>("pressed");
+    QTest::addColumn<bool>("wholeArea");
+    QTest::addColumn<bool>("sideways");
+    for (const char* name : {"PrintButton", "PreferencesButton", "stackGroup", "#000000"}) {
+        for (const bool sideways : {false, true}) {
+            const char* way = sideways ? "sideways" : "up";
+            QTest::addRow("%s %s, panel", name, way) << QByteArray(name) << false << sideways;
+            QTest::addRow("%s %s, area", name, way) << QByteArray(name) << true << sideways;
+        }
+    }
+}
+
+void tst_ScrolledAway::byADragOnThePanel()
+{
+    QFETCH(const QByteArray, pressed);
+    QFETCH(const bool, wholeArea);
+    QFETCH(const bool, sideways);
+    const Scrolled scrolled(newPrintPanel());
+    QVERIFY(showActive(*scrolled.window));
+    auto* grip = part<QWidget>(*scrolled.panel, pressed.constData());
+    const QPoint corner = grip->mapTo(scrolled.panel, QPoint(4, 4));
+    scrolled.area->ensureVisible(corner.x(), corner.y());
+    QScrollBar* bar =
+        sideways ? scrolled.area->horizontalScrollBar() : scrolled.area->verticalScrollBar();
+    bar->setValue(qMax(bar->value(), 1));
+    const QPointer<QWidget> gripThen(grip);
+    Executioner host;
+    host.victim = wholeArea ? scrolled.area.data() : scrolled.panel.data();
+    QVERIFY(connect(bar, SIGNAL(valueChanged(int)), &host, SLOT(deleteNow())));
+    const QPoint step = sideways ? QPoint(15, 0) : QPoint(0, 15);
+    MouseDrag drag(grip, QPoint(4, 4));
+    for (int i = 1; i < 4; ++i)
+        drag.moveBy(i * step.x(), i * step.y());
+    drag.release();
+    QVERIFY(host.calls > 0);
+    QVERIFY(gripThen.isNull());
+    QVERIFY(scrolled.panel.isNull());
+    QCOMPARE(scrolled.area.isNull(), wholeArea);
+}
+
+void tst_ScrolledAway::byTheAreasOwnBar()
+{
+    const Scrolled scrolled(newPrintPanel());
+    QVERIFY(showActive(*scrolled.window));
+    Executioner host;
+    host.victim = scrolled.panel;
+    QScrollBar* bar = scrolled.area->verticalScrollBar();
+    QVERIFY(connect(bar, SIGNAL(valueChanged(int)), &host, SLOT(deleteNow())));
+    MouseDrag press(bar, QPoint(bar->width() / 2, bar->height() - 3));
+    QVERIFY(scrolled.panel.isNull());
+    QTest::qWait(700); // as long as it takes until the bar's button repeats
+    press.release();
+    QVERIFY(host.calls > 0);
+    QCOMPARE(scrolled.area->widget(), nullptr);
+}
+
+void tst_ScrolledAway::whileTheCanvasIsDragged()
+{
+    const Scrolled scrolled(newQuickPanel());
+    QVERIFY(showActive(*scrolled.window));
+    auto* canvas = part<QWidget>(*scrolled.panel, "PreviewView");
+    scrolled.area->ensureWidgetVisible(canvas);
+    Executioner host;
+    host.victim = scrolled.panel;
+    QScrollBar* bar = scrolled.area->verticalScrollBar();
+    QVERIFY(connect(bar, SIGNAL(valueChanged(int)), &host, SLOT(deleteNow())));
+    MouseDrag drag(canvas, QPoint(50, 50));
+    drag.moveBy(5, 5);
+    QVERIFY(QApplication::overrideCursor() != nullptr);
+    bar->setValue(bar->maximum());
+    drag.moveBy(10, 10);
+    drag.release();
+    QVERIFY(scrolled.panel.isNull());
+    QCOMPARE(QApplication::overrideCursor(), nullptr);
+}
+
+QTEST_MAIN(tst_ScrolledAway)
+#include "tst_scrolledaway.moc"
