@@ -1,0 +1,265 @@
+#include "livepanel.h"
+#include "support/stricttest.h"
+
+#include <colormenu.h>
+#include <containertitlebar.h>
+#include <dragscrollbutton.h>
+#include <dragscrollgroupbox.h>
+#include <expandingtabbar.h>
+#include <jxcombobox.h>
+#include <jxlineedit.h>
+#include <jxpushbuttonstyleproxy.h>
+#include <jxspinbox.h>
+#include <suffixdoublevalidator.h>
+
+#include <QtCore/QPointer>
+#include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QStyleFactory>
+#include <QtWidgets/QVBoxLayout>
+
+#include <algorithm>
+#include <memory>
+
+using Create = QWidget* (*)();
+Q_DECLARE_METATYPE(Create)
+using Parts = QList<QPointer<QObject>>;
+
+/** That nothing of the kit, in a panel or alone, outlives its owner or needs its neighbours. */
+class tst_KitLifetime : public StrictTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void everythingInAPanelDiesWithIt_data();
+    void everythingInAPanelDiesWithIt();
+    void inAnyOrder_data();
+    void inAnyOrder();
+    void openListDiesWithItsBox();
+    void openMenuDiesWithItsEdit();
+    void baseStyleDiesWithItsProxy();
+    void proxyBeforeItsButton();
+    void validatorBeforeItsEdit();
+};
+
+namespace {
+
+bool isGone(const QPointer<QObject>& part)
+{
+    return part.isNull();
+}
+
+void addHelpers(Parts& parts, const QWidget& widget)
+{
+    QStyle* style = widget.style();
+    // The style of a style sheet is shared by all widgets, as the application's own is.
+    if (style != QApplication::style() && !style->inherits("QStyleSheetStyle"))
+        parts.append(style);
+    if (const auto* edit = qobject_cast<const QLineEdit*>(&widget))
+        parts.append(const_cast<QValidator*>(edit->validator()));
+    if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) {
+        for (QObject* helper : std::initializer_list<QObject*>{
+                 combo->view(), combo->model(), combo->itemDelegate(), combo->view()->window()})
+            parts.append(helper);
+    }
+}
+
+/** What a panel consists of: its children, and what these hold without being its parent. */
+Parts partsOf(QWidget* panel)
+{
+    Parts parts = {panel};
+    const QObjectList children = panel->findChildren<QObject*>();
+    for (QObject* child : children) {
+        parts.append(child);
+        if (const auto* widget = qobject_cast<const QWidget*>(child))
+            addHelpers(parts, *widget);
+    }
+    parts.removeAll(QPointer<QObject>());
+    return parts;
+}
+
+/** One of each, in a window, all of them in use. */
+struct Kit
+{
+    Kit();
+    std::unique_ptr<QWidget> window = std::make_unique<QWidget>();
+    Parts parts;
+};
+
+void place(QScrollArea* area)
+{
+    auto* contents = new QWidget;
+    contents->setMinimumSize(600, 600);
+    auto* column = new QVBoxLayout(contents);
+    column->addWidget(new DragScrollButton(QStringLiteral("button")));
+    column->addWidget(new DragScrollGroupBox);
+    area->setWidget(contents);
+    area->setFixedSize(200, 100);
+}
+
+Kit::Kit()
+{
+    auto* column = new QVBoxLayout(window.get());
+    auto* combo = new JxComboBox;
+    combo->addItems({QStringLiteral("one"), QStringLiteral("two")});
+    auto* menu = new ColorMenu;
+    menu->setColorPalette({QStringLiteral("#000000"), QStringLiteral("transparent")}, {});
+    auto* tabs = new ExpandingTabBar;
+    tabs->addTab(QStringLiteral("!"));
+    tabs->setTabColorRect(0, QStringLiteral("#000000"));
+    auto* edit = new JxLineEdit;
+    edit->setValidator(new SuffixDoubleValidator(0, 9, 2, window.get()));
+    auto* styled = new DragScrollButton(QStringLiteral("styled"));
+    auto* style = new JxPushButtonStyleProxy(nullptr);
+    style->setParent(window.get());
+    styled->setStyle(style);
+    auto* area = new QScrollArea;
+    place(area);
+    auto* bar = new ContainerTitleBar(nullptr, QStringLiteral("title"), QString(), 14);
+    for (QWidget* widget : std::initializer_list<QWidget*>{combo, menu, tabs, edit, styled, area,
+                                                           bar, new JxSpinBox(nullptr)}) {
+        column->addWidget(widget);
+        parts.append(widget);
+    }
+    parts.append({style, const_cast<QValidator*>(edit->validator()),
+                  area->findChild<DragScrollButton*>(), area->findChild<DragScrollGroupBox*>()});
+}
+
+void addKindRows()
+{
+    QTest::addColumn<Create>("create");
+    const QList<PanelKind> kinds = panelKinds();
+    for (const PanelKind& kind : kinds)
+        QTest::newRow(kind.name) << kind.create;
+}
+
+} // namespace
+
+void tst_KitLifetime::cleanup()
+{
+    deleteWidgetsLeft();
+}
+
+void tst_KitLifetime::everythingInAPanelDiesWithIt_data()
+{
+    addKindRows();
+}
+
+void tst_KitLifetime::everythingInAPanelDiesWithIt()
+{
+    QFETCH(const Create, create);
+    std::unique_ptr<QWidget> panel(create());
+    QVERIFY(showActive(*panel));
+    const QList<QComboBox*> combos = panel->findChildren<QComboBox*>();
+    for (QComboBox* combo : combos) {
+        combo->showPopup();
+        combo->hidePopup();
+    }
+    const Parts parts = partsOf(panel.get());
+    QVERIFY(parts.size() > 10);
+    panel.reset();
+    QStringList left;
+    for (const QPointer<QObject>& part : parts) {
+        if (part)
+            left.append(QString::fromLatin1(part->metaObject()->className()));
+    }
+    QCOMPARE(left, QStringList());
+    QVERIFY(QApplication::style() != nullptr);
+}
+
+void tst_KitLifetime::inAnyOrder_data()
+{
+    QTest::addColumn<int>("first");
+    QTest::addColumn<bool>("backwards");
+    const Kit kit;
+    for (int first = 0; first < kit.parts.size(); ++first) {
+        const char* name = kit.parts.at(first)->metaObject()->className();
+        QTest::addRow("%d, %s, then onwards", first, name) << first << false;
+        QTest::addRow("%d, %s, then back", first, name) << first << true;
+    }
+}
+
+void tst_KitLifetime::inAnyOrder()
+{
+    QFETCH(const int, first);
+    QFETCH(const bool, backwards);
+    Kit kit;
+    QVERIFY(showActive(*kit.window));
+    Parts order = kit.parts;
+    std::rotate(order.begin(), order.begin() + first, order.end());
+    if (backwards)
+        std::reverse(order.begin() + 1, order.end());
+    for (const QPointer<QObject>& victim : std::as_const(order)) {
+        delete victim.data();
+        kit.window->grab();
+        QCoreApplication::processEvents();
+    }
+    kit.window.reset();
+    QVERIFY(std::all_of(order.begin(), order.end(), isGone));
+    QCOMPARE(QApplication::allWidgets(), QWidgetList());
+}
+
+void tst_KitLifetime::openListDiesWithItsBox()
+{
+    Kit kit;
+    QVERIFY(showActive(*kit.window));
+    auto* combo = kit.window->findChild<JxComboBox*>();
+    combo->showPopup();
+    const QPointer<QWidget> list(combo->view()->window());
+    QVERIFY(list->isVisible());
+    delete combo;
+    QVERIFY(list.isNull());
+    QCOMPARE(QApplication::activePopupWidget(), nullptr);
+}
+
+void tst_KitLifetime::openMenuDiesWithItsEdit()
+{
+    Kit kit;
+    QVERIFY(showActive(*kit.window));
+    auto* edit = kit.window->findChild<JxLineEdit*>();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), edit->mapToGlobal(QPoint()));
+    QCoreApplication::sendEvent(edit, &event);
+    const QPointer<QWidget> menu(QApplication::activePopupWidget());
+    QVERIFY(menu);
+    delete edit;
+    QVERIFY(menu.isNull());
+    QCOMPARE(QApplication::activePopupWidget(), nullptr);
+}
+
+void tst_KitLifetime::baseStyleDiesWithItsProxy()
+{
+    const QPointer<QStyle> base(QStyleFactory::create(QStringLiteral("fusion")));
+    QVERIFY(base);
+    auto proxy = std::make_unique<JxPushButtonStyleProxy>(base);
+    proxy.reset();
+    QVERIFY(base.isNull());
+}
+
+void tst_KitLifetime::proxyBeforeItsButton()
+{
+    DragScrollButton button(QStringLiteral("text"));
+    auto proxy = std::make_unique<JxPushButtonStyleProxy>(nullptr);
+    button.setStyle(proxy.get());
+    QVERIFY(showActive(button));
+    proxy.reset();
+    button.grab();
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QCOMPARE(button.style(), QApplication::style());
+}
+
+void tst_KitLifetime::validatorBeforeItsEdit()
+{
+    JxLineEdit edit;
+    auto validator = std::make_unique<SuffixDoubleValidator>(0, 9, 2);
+    edit.setValidator(validator.get());
+    QTest::keyClicks(&edit, QStringLiteral("x1"));
+    QCOMPARE(edit.text(), QStringLiteral("1"));
+    validator.reset();
+    QTest::keyClicks(&edit, QStringLiteral("x"));
+    QCOMPARE(edit.text(), QStringLiteral("1x"));
+}
+
+QTEST_MAIN(tst_KitLifetime)
+#include "tst_kitlifetime.moc"
