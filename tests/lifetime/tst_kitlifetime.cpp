@@ -53,10 +53,6 @@ bool isGone(const QPointer<QObject>& part)
 
 void addHelpers(Parts& parts, const QWidget& widget)
 {
-    QStyle* style = widget.style();
-    // The style of a style sheet is shared by all widgets, as the application's own is.
-    if (style != QApplication::style() && !style->inherits("QStyleSheetStyle"))
-        parts.append(style);
     if (const auto* edit = qobject_cast<const QLineEdit*>(&widget))
         parts.append(const_cast<QValidator*>(edit->validator()));
     if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) {
