@@ -8,6 +8,8 @@
 #include <memory>
 
 Q_DECLARE_METATYPE(UserAction)
+using HostAct = void (*)(QWidget&);
+Q_DECLARE_METATYPE(HostAct)
 
 /** Hosts that delete a panel, or the window around it, in a handler of the panel's own signals. */
 class tst_DeletedInHandler : public StrictTest
@@ -24,6 +26,8 @@ private Q_SLOTS:
     void windowDeletedAtOnce();
     void panelDeletedSoon_data();
     void panelDeletedSoon();
+    void deletedSoonWhileTheHostActs_data();
+    void deletedSoonWhileTheHostActs();
 };
 
 namespace {
@@ -119,6 +123,38 @@ void tst_DeletedInHandler::panelDeletedSoon()
     action.act(host.victim);
     QTRY_VERIFY(host.victim.isNull());
     QVERIFY(host.calls > 0);
+    QCOMPARE(widgetsLeft(), QStringList());
+}
+
+void tst_DeletedInHandler::deletedSoonWhileTheHostActs_data()
+{
+    QTest::addColumn<HostAct>("act");
+    QTest::addColumn<QByteArray>("signal");
+    const QByteArray shown = SIGNAL(printWidgetShowSignal());
+    const QByteArray left = SIGNAL(focusLost());
+    QTest::newRow("shows") << HostAct([](QWidget& panel) {
+        panel.hide();
+        panel.show();
+    }) << shown;
+    QTest::newRow("hides") << HostAct([](QWidget& panel) { panel.hide(); }) << left;
+    QTest::newRow("disables") << HostAct([](QWidget& panel) { panel.setEnabled(false); }) << left;
+    QTest::newRow("closes") << HostAct([](QWidget& panel) { panel.close(); }) << left;
+}
+
+// Where Qt itself goes on with the panel, so that a host must not delete it at once.
+void tst_DeletedInHandler::deletedSoonWhileTheHostActs()
+{
+    QFETCH(const HostAct, act);
+    QFETCH(const QByteArray, signal);
+    Executioner host;
+    host.victim = newMultiPagePanel();
+    QVERIFY(showActive(*host.victim));
+    part<QWidget>(*host.victim, "copiesEdit")->setFocus();
+    QVERIFY(connect(host.victim, signal, &host, SLOT(deleteSoon())));
+    act(*host.victim);
+    QVERIFY(host.calls > 0);
+    QVERIFY(host.victim);
+    QTRY_VERIFY(host.victim.isNull());
     QCOMPARE(widgetsLeft(), QStringList());
 }
 
