@@ -136,10 +136,17 @@ void ColorMenu::addSwatch(const QString& name, const QString& code)
     m_swatches.append(swatch);
 }
 
-// Starts on an empty grid. Buttons stand being deleted while they deliver their click.
+// Starts on an empty grid. The old swatches go later: a press on one takes the focus from an edit
+// first, whose new value may make the host give a new palette, and Qt goes on with the swatch then.
 void ColorMenu::replaceContents()
 {
+    for (ColorSwatch* swatch : std::as_const(m_swatches))
+        swatch->disconnect(this);
     m_swatches.clear();
+    if (QWidget* old = m_scrollArea->takeWidget()) {
+        old->hide();
+        old->deleteLater();
+    }
     auto* contents = new QWidget;
     auto* grid = new QGridLayout(contents);
     grid->setContentsMargins(margin, margin, margin, margin);
