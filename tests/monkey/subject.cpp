@@ -111,7 +111,7 @@ bool Subject::mayComeNow(const QByteArray& signal) const
 bool Subject::mayDeleteAtOnce(const QByteArray& signal) const
 {
     return signal != "printWidgetShowSignal" && !world.windowsChange &&
-           QApplication::activeWindow() == window();
+           !(world.windowInUse && m_panel->isWindow()) && QApplication::activeWindow() == window();
 }
 
 // What a host does in the handler of a signal.

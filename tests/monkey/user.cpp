@@ -33,6 +33,9 @@ void User::act(Subject& subject)
     };
     QWidget* const panel = subject.window();
     world.target = nullptr;
+    // The window hands its keys and clicks on to an open list.
+    const QScopedValueRollback<bool> use(world.windowInUse, QApplication::activePopupWidget() ||
+                                                                m_heldButton == Qt::RightButton);
     if (holdsButton() && (++m_heldFor > 8 || world.random.oneIn(4))) {
         release(panel);
         return;

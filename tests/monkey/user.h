@@ -40,6 +40,8 @@ private:
     QPoint chooseSpot(QWidget* target, QWidget* window);
     bool reach(QWidget* panel, QWidget** window, QPoint* spot);
 
+    void useForContextMenu(Qt::MouseButton button);
+
     void click(QWidget* panel);
     void press(QWidget* panel);
     void moveMouse(QWidget* panel);

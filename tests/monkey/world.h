@@ -27,6 +27,9 @@ public:
     /** Whether windows come, go or change places, so that Qt is not done with the panel's. */
     bool windowsChange = false;
 
+    /** Whether Qt goes on with the window after what the user does, even if the window is gone. */
+    bool windowInUse = false;
+
     /** How much happened in a run. */
     struct Tally
     {
