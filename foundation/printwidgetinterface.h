@@ -22,7 +22,8 @@ class QFrame;
  * this library's panels outlive their own signal, hidden, until control is back in the event loop.
  * It has to use deleteLater() where Qt itself goes on with the panel or its window: in a handler of
  * printWidgetShowSignal(); while the host hides, closes or disables the panel or its window; when
- * the window loses the keyboard to another one; and where the handler runs
+ * the window loses the keyboard to another one; for the window, when the user clicks with the right
+ * button or an open list takes the key or click; and where the handler runs
  * QCoreApplication::processEvents(), in which the panel is then deleted.
  */
 class PRINTPANELS_EXPORT PrintWidgetInterface : public QWidget

@@ -23,7 +23,7 @@ class PreviewView;
  * pushes page images. The dialog has a fixed size of 1010 x 540 pixels and starts hidden. Closing
  * only hides it, so that its owner may show it again; the owner deletes it, if need be at once in a
  * handler of the panel's signals or of accepted(), rejected() and finished(), also while the dialog
- * executes.
+ * executes; PrintWidgetInterface tells the exceptions.
  */
 class PRINTPANELS_EXPORT MultiPagePrintDialog : public QDialog
 {

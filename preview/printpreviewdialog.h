@@ -28,7 +28,8 @@ class PreviewView;
  * like any QWidget; it owns all it shows. Its size is fixed at 860 x 500 pixels. Sizes are numbers
  * in the unit that @e metric names: millimetres if true, inches if false.
  *
- * A handler of its signals may delete it, or a parent of it, at once.
+ * A handler of its signals may delete it, or a parent of it, at once; PrintWidgetInterface tells
+ * the exceptions.
  */
 class PRINTPANELS_EXPORT PrintPreviewDialog : public QWidget
 {
