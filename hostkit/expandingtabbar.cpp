@@ -10,6 +10,9 @@
 
 namespace {
 constexpr int spacing = 6;
+// Pixels and characters. Beyond any screen, but near enough for Qt to paint.
+constexpr int longestTab = 2000;
+constexpr int longestText = 1000;
 
 // The picture for a character of the host's icon font; empty for any other text.
 QString pictureFile(const QString& text)
@@ -92,7 +95,7 @@ QSize ExpandingTabBar::tabSizeHint(int index) const
 {
     // The base counts the text and the tab's own icon; where the icon became part of the contents
     // it has been counted twice, which only adds some air.
-    const QSize hint = QTabBar::tabSizeHint(index);
+    const QSize hint = QTabBar::tabSizeHint(index).boundedTo(QSize(longestTab, longestTab));
     const QSize extra = contentsSize(index);
     if (extra.isEmpty())
         return hint;
@@ -105,6 +108,7 @@ QSize ExpandingTabBar::tabSizeHint(int index) const
 void ExpandingTabBar::initStyleOption(QStyleOptionTab* option, int tabIndex) const
 {
     QTabBar::initStyleOption(option, tabIndex);
+    option->text.truncate(longestText);
     const QSize size = contentsSize(tabIndex);
     if (size.isEmpty())
         return;
@@ -119,8 +123,8 @@ void ExpandingTabBar::initStyleOption(QStyleOptionTab* option, int tabIndex) con
         option->iconSize.setWidth(qMax(size.width(), length - padding));
     } else if (elideMode() != Qt::ElideNone) {
         const QRect room = style()->subElementRect(QStyle::SE_TabBarTabText, option, this);
-        option->text = fontMetrics().elidedText(tabText(tabIndex), elideMode(), room.width(),
-                                                Qt::TextShowMnemonic);
+        option->text = fontMetrics().elidedText(tabText(tabIndex).left(longestText), elideMode(),
+                                                room.width(), Qt::TextShowMnemonic);
     }
 }
 

@@ -11,7 +11,7 @@ namespace HostKit {
 
 /**
  * The text to hand to QToolTip so that @p text is shown letter for letter, where QToolTip would
- * take some texts for markup.
+ * take some texts for markup. What nobody would read to its end is broken into lines and cut off.
  */
 QString plainToolTip(const QString& text);
 

@@ -33,6 +33,8 @@ private Q_SLOTS:
     void connectsByText();
     void paintsInEveryShape_data();
     void paintsInEveryShape();
+    void endlessTextIsCutOff_data();
+    void endlessTextIsCutOff();
 };
 
 namespace {
@@ -412,6 +414,30 @@ void TestExpandingTabBar::paintsInEveryShape()
     }
     QVERIFY(red > 50);
     QVERIFY(green > 50);
+}
+
+void TestExpandingTabBar::endlessTextIsCutOff_data()
+{
+    QTest::addColumn<int>("shape");
+    QTest::newRow("north") << int(QTabBar::RoundedNorth);
+    QTest::newRow("west") << int(QTabBar::RoundedWest);
+}
+
+// Qt's painting ends beyond some thousands of pixels, by reading memory that is not its own.
+void TestExpandingTabBar::endlessTextIsCutOff()
+{
+    QFETCH(int, shape);
+    ExpandingTabBar bar(nullptr);
+    bar.setStyleSheet(tabSheet);
+    bar.setUsesScrollButtons(false);
+    bar.setShape(QTabBar::Shape(shape));
+    bar.addTab(QString(900000, u'x'));
+    bar.addTab(QStringLiteral("!"));
+    bar.setTabColorRect(0, QStringLiteral("#dc0b0b"));
+    const QSize size = bar.sizeHint();
+    QVERIFY2(qMax(size.width(), size.height()) < 3000, qPrintable(QString::number(size.width())));
+    bar.resize(size);
+    QVERIFY(!bar.grab().isNull());
 }
 
 QTEST_MAIN(TestExpandingTabBar)

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void itemToolTipIsShownLetterForLetter();
     void textThatDoesNotFitIsTheItemsToolTip();
     void toolTipsWorkInAReplacedList();
+    void endlessToolTipIsCutOff();
     void longTextIsElidedAndStretchesNothing();
     void onlyTheBeginningOfATextIsPainted();
     void lineBreaksAreShownAsBlanks();
@@ -256,6 +257,21 @@ void TestJxComboBox::toolTipsWorkInAReplacedList()
     QAbstractItemView* view = window.combo->view();
     askForToolTip(view->viewport(), view->visualRect(window.combo->model()->index(1, 0)).center());
     QCOMPARE(visibleToolTip(), QStringLiteral("<b>x</b>"));
+}
+
+// A tip as long as its text would be too wide to be painted.
+void TestJxComboBox::endlessToolTipIsCutOff()
+{
+    Window window;
+    window.combo->setToolTip(QString(1000000, u'x'));
+    askForToolTip(window.combo, QPoint(5, 5));
+    QCOMPARE(visibleToolTip(), QString(2000, u'x') + QChar(0x2026));
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* tip : windows) {
+        QVERIFY(tip->width() < 32767);
+        QVERIFY(!tip->grab().isNull());
+    }
+    QCOMPARE(window.combo->toolTip().size(), 1000000);
 }
 
 void TestJxComboBox::longTextIsElidedAndStretchesNothing()
