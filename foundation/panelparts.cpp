@@ -3,6 +3,7 @@
 #include "foundation/recordlist.h"
 #include "foundation/stylesheets.h"
 
+#include <QtCore/QEvent>
 #include <QtCore/QSize>
 #include <QtCore/QString>
 #include <QtGui/QRegularExpressionValidator>
@@ -17,6 +18,26 @@ namespace {
 
 constexpr QSize squareButton(35, 35);
 constexpr int listEditHeight = 36;
+
+/**
+ * Ends the repetition of a button that is hidden while it is held. Its release never comes then,
+ * and only in the active window does it lose the focus, which would end it, too.
+ */
+class RepeatEnd : public QObject
+{
+public:
+    explicit RepeatEnd(QAbstractButton* button) : QObject(button)
+    {
+        button->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Hide)
+            static_cast<QAbstractButton*>(watched)->setDown(false);
+        return false;
+    }
+};
 
 } // namespace
 
@@ -40,6 +61,7 @@ void setUpPrinterSettingsButton(QPushButton* button)
 
 void setUpStepButton(QPushButton* button, const QString& styleSheet)
 {
+    new RepeatEnd(button);
     button->setStyleSheet(styleSheet);
     button->setFixedSize(squareButton);
     button->setAutoRepeat(true);
