@@ -167,6 +167,9 @@ void Subject::watchTyping(QLineEdit* edit, const QByteArrayList& changers)
 
 void Subject::typedTextChanged(const QLineEdit* edit, const QByteArrayList& changers)
 {
+    // A handler of this very change may have deleted the panel before.
+    if (!m_panel)
+        return;
     if (const HostCall* call = world.underWay()) {
         require(changers.contains(call->name()), "only what is meant to changes a typed text",
                 edit->objectName() + QStringLiteral(" by ") + QString::fromLatin1(call->name()));
@@ -175,7 +178,8 @@ void Subject::typedTextChanged(const QLineEdit* edit, const QByteArrayList& chan
     // Keys go to the focus of their window, also while another window is the active one.
     // A menu is no popup any more when what was chosen in it is done.
     bool meant = QApplication::activePopupWidget() || qobject_cast<QMenu*>(world.target);
-    for (const QWidget* addressed : {world.target.data(), edit->window()->focusWidget()})
+    for (const QWidget* addressed :
+         {world.target.data(), world.heldTarget.data(), edit->window()->focusWidget()})
         meant = meant || addressed == edit ||
                 (addressed && changers.contains(addressed->objectName().toLatin1()));
     require(meant, "only what is meant to changes a typed text", edit->objectName());

@@ -36,6 +36,11 @@ void store(char* place, int room, const QByteArray& text)
 constexpr int fatalSignals[] = {SIGABRT, SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGTERM, SIGALRM};
 struct sigaction oldActions[std::size(fatalSignals)];
 
+[[maybe_unused]] constexpr bool isFault(int number)
+{
+    return number != SIGABRT && number != SIGTERM && number != SIGALRM;
+}
+
 void put(const char* text)
 {
     // There is nothing to do about an output that fails while the process dies.
@@ -63,7 +68,7 @@ void installHandlers()
         action.sa_handler = tellAndDie;
         sigaction(fatalSignals[i], &action, &oldActions[i]);
 #ifdef __SANITIZE_ADDRESS__
-        if (fatalSignals[i] != SIGABRT && fatalSignals[i] != SIGTERM)
+        if (isFault(fatalSignals[i]))
             sigaction(fatalSignals[i], &oldActions[i], nullptr);
 #endif
     }

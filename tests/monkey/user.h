@@ -40,6 +40,7 @@ private:
     QPoint chooseSpot(QWidget* target, QWidget* window);
     bool reach(QWidget* panel, QWidget** window, QPoint* spot);
 
+    void clickAway();
     void useForContextMenu(Qt::MouseButton button);
 
     void click(QWidget* panel);

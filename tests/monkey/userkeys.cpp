@@ -81,6 +81,12 @@ void User::paste(QWidget* panel)
 
 void User::answerMenu()
 {
+    // One whose window the host has disabled hears no keys, but a click beside it ends it.
+    const QWidget* const menu = QApplication::activePopupWidget();
+    if (menu && !menu->isEnabled()) {
+        clickAway();
+        return;
+    }
     const Qt::Key answers[] = {Qt::Key_Escape, Qt::Key_Down, Qt::Key_Up, Qt::Key_Return};
     const Qt::Key key = world.random.pick(answers);
     world.trail.note(QStringLiteral("user: answers a menu with %1").arg(int(key), 0, 16));

@@ -98,6 +98,7 @@ void User::press(QWidget* panel)
     m_heldButton = world.random.oneIn(6) ? Qt::RightButton : Qt::LeftButton;
     m_heldFor = 0;
     useForContextMenu(m_heldButton);
+    world.heldTarget = world.target;
     world.trail.note(QStringLiteral("user: presses %1").arg(m_heldButton));
     QTest::mousePress(window->windowHandle(), m_heldButton, {}, spot);
 }
@@ -118,6 +119,7 @@ void User::release(QWidget* panel)
     QPoint spot;
     const Qt::MouseButton button = m_heldButton;
     m_heldButton = Qt::NoButton;
+    world.heldTarget = nullptr;
     if (!panel || !reach(panel, &window, &spot)) {
         window = &m_desk;
         spot = QPoint(5, 5);
@@ -141,6 +143,12 @@ void User::turnWheel(QWidget* panel)
     // Only an event from a device moves the focus and goes on to the parents.
     QSpontaneKeyEvent::setSpontaneous(&event);
     qApp->notify(world.target, &event);
+}
+
+void User::clickAway()
+{
+    world.trail.note(QStringLiteral("user: clicks beside the menu"));
+    QTest::mouseClick(m_desk.windowHandle(), Qt::LeftButton, {}, QPoint(3, 3));
 }
 
 void User::finish()

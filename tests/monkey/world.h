@@ -24,6 +24,8 @@ public:
     Trail trail;
     /** The widget that the user addresses with the present action, if it is about one. */
     QPointer<QWidget> target;
+    /** The widget on which a mouse button was pressed that is still down. */
+    QPointer<QWidget> heldTarget;
     /** Whether windows come, go or change places, so that Qt is not done with the panel's. */
     bool windowsChange = false;
 
