@@ -83,6 +83,8 @@ void tst_ControlRefuge::controlsOutliveTheSignalHiddenAndSilent()
 void tst_ControlRefuge::controlsDieWithThePanelOutsideOfASignal()
 {
     const LivePrintPanel live;
+    // Without the palettes that were replaced while it was set up.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     delete live.panel.data();
     QVERIFY(live.printers.isNull());
     QCOMPARE(QApplication::allWidgets(), QWidgetList());
