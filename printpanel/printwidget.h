@@ -19,7 +19,6 @@ class QLabel;
 class QRadioButton;
 class QStackedWidget;
 class QVBoxLayout;
-
 class ColorMenu;
 class DragScrollButton;
 class ExpandingTabBar;
@@ -34,14 +33,10 @@ struct RibbonLook;
 
 /**
  * The full print settings panel, for modules that design labels.
- *
  * Top to bottom: the ammonia tag choice (pipe marking only), printer with location and status,
  * copies, loaded supply, records to print with the N-up choice, user background, test controls, and
  * the Print and Print Preview buttons. It never prints: see PrintWidgetInterface for the requests
- * it emits.
- *
- * The host owns the panel like any QWidget; the panel owns all it shows. Print and preview buttons
- * start disabled.
+ * it emits. The host owns the panel like any QWidget. Print and preview buttons start disabled.
  */
 class PRINTPANELS_EXPORT PrintWidget : public PrintWidgetInterface
 {
@@ -193,8 +188,7 @@ private:
     void createUserBackgroundCheck();
     void createBottomSeparator();
     const bool printToFile;
-    // What outlives the panel when it is deleted in a handler of its own signals.
-    QList<QPointer<QWidget>> ownControls;
+    QList<QPointer<QWidget>> ownControls; // outlive a panel that its own signal's handler deletes
     QVBoxLayout* mainLayout = nullptr;
     QCheckBox* userBackgroundCheck = nullptr;
     QFrame* bottomSeparator = nullptr;
