@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 // The panels under loads that no user has but a faulty host may cause, side by side with the plain
 // Qt widget that one would use instead. Both sides run in turns in one process; the ratio counts,
 // because absolute times say little on a shared machine.

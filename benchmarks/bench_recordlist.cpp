@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 // Record lists, side by side with what a host would write with QString::split() and
 // QRegularExpression. Both sides run in turns in one process; the median of the rounds is printed,
 // and the ratio, because absolute times say little on a shared machine.

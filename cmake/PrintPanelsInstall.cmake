@@ -1,4 +1,8 @@
-# Installs the library, the stand-in kit if it was built, their headers and the CMake package.
+# SPDX-FileCopyrightText: 2026 The PrintPanels developers
+# SPDX-License-Identifier: MIT
+
+# Installs the library, the stand-in kit if it was built, their headers and the CMake package. The
+# component Runtime is what a program needs to run, Devel what it needs to be built.
 include(CMakePackageConfigHelpers)
 
 set(printpanels_package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/PrintPanels")
@@ -14,34 +18,43 @@ endif()
 
 install(TARGETS ${printpanels_installed_targets}
     EXPORT PrintPanelsTargets
-    RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
-    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
-    ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+    RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT Runtime
+    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT Runtime NAMELINK_COMPONENT Devel
+    ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT Devel)
 install(EXPORT PrintPanelsTargets
     NAMESPACE PrintPanels::
-    DESTINATION "${printpanels_package_dir}")
+    DESTINATION "${printpanels_package_dir}"
+    COMPONENT Devel)
 
 get_target_property(printpanels_headers printpanels PRINTPANELS_PUBLIC_HEADERS)
 install(FILES
     ${printpanels_headers}
     "${PROJECT_BINARY_DIR}/include/printpanels/printpanels_export.h"
     "${PROJECT_BINARY_DIR}/include/printpanels/printpanels_version.h"
-    DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/printpanels")
+    DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/printpanels"
+    COMPONENT Devel)
 if(TARGET printpanels_hostkit)
     get_target_property(hostkit_headers printpanels_hostkit PRINTPANELS_PUBLIC_HEADERS)
     install(FILES
         ${hostkit_headers}
         "${PROJECT_BINARY_DIR}/include/printpanels-hostkit/hostkit_export.h"
-        DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/printpanels-hostkit")
+        DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/printpanels-hostkit"
+        COMPONENT Devel)
 endif()
 
 configure_package_config_file(
     "${CMAKE_CURRENT_LIST_DIR}/PrintPanelsConfig.cmake.in"
     "${PROJECT_BINARY_DIR}/PrintPanelsConfig.cmake"
     INSTALL_DESTINATION "${printpanels_package_dir}")
+# While the major version is 0, every minor version may change the interface.
+set(printpanels_compatibility SameMajorVersion)
+if(PROJECT_VERSION_MAJOR EQUAL 0)
+    set(printpanels_compatibility SameMinorVersion)
+endif()
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/PrintPanelsConfigVersion.cmake"
-    COMPATIBILITY SameMajorVersion)
+    COMPATIBILITY ${printpanels_compatibility})
 install(FILES
     "${PROJECT_BINARY_DIR}/PrintPanelsConfig.cmake"
     "${PROJECT_BINARY_DIR}/PrintPanelsConfigVersion.cmake"
-    DESTINATION "${printpanels_package_dir}")
+    DESTINATION "${printpanels_package_dir}"
+    COMPONENT Devel)

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 #ifndef PRINTPANELS_HOSTKIT_H
 #define PRINTPANELS_HOSTKIT_H
 

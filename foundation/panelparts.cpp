@@ -1,7 +1,11 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 #include "foundation/panelparts.h"
 
-#include "foundation/recordlist.h"
 #include "foundation/stylesheets.h"
+
+#include <printpanels/recordlist.h>
 
 #include <QtCore/QEvent>
 #include <QtCore/QSize>

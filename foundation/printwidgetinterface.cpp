@@ -1,4 +1,7 @@
-#include "foundation/printwidgetinterface.h"
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include <printpanels/printwidgetinterface.h>
 
 #include <QtGui/QPalette>
 #include <QtWidgets/QFrame>

@@ -1,5 +1,8 @@
-#ifndef PRINTWIDGETINTERFACE_H
-#define PRINTWIDGETINTERFACE_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_PRINTWIDGETINTERFACE_H
+#define PRINTPANELS_PRINTWIDGETINTERFACE_H
 
 #include <jxmoduleinfo.h>
 #include <printpanels/printpanels_export.h>

@@ -1,4 +1,7 @@
-#include "foundation/recordlist.h"
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include <printpanels/recordlist.h>
 
 #include <QtCore/QStringTokenizer>
 

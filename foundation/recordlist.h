@@ -1,5 +1,8 @@
-#ifndef RECORDLIST_H
-#define RECORDLIST_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_RECORDLIST_H
+#define PRINTPANELS_RECORDLIST_H
 
 #include <printpanels/printpanels_export.h>
 

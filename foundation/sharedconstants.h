@@ -1,5 +1,8 @@
-#ifndef SHAREDCONSTANTS_H
-#define SHAREDCONSTANTS_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_SHAREDCONSTANTS_H
+#define PRINTPANELS_SHAREDCONSTANTS_H
 
 #include <QtCore/QList>
 #include <QtCore/QObject>

@@ -1,5 +1,8 @@
-#ifndef STYLESHEETS_H
-#define STYLESHEETS_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_STYLESHEETS_H
+#define PRINTPANELS_STYLESHEETS_H
 
 #include <QtCore/QString>
 

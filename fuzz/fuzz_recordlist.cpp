@@ -1,5 +1,8 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 // Input: the number of records, a line; then the list.
-#include "foundation/recordlist.h"
+#include <printpanels/recordlist.h>
 
 #include "fuzz/fuzzinput.h"
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 // Input: lower bound, upper bound, decimals, suffix, a line each; then the text to judge.
 #include "fuzz/fuzzinput.h"
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 // Input: a character that says what is tried (see LLVMFuzzerTestOneInput), then as many lines as
 // that needs: design width and height, printed width and height of a title; length and width of
 // quick print; or two texts that the user types into its size fields.

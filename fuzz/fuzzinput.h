@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 #ifndef PRINTPANELS_FUZZINPUT_H
 #define PRINTPANELS_FUZZINPUT_H
 

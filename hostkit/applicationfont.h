@@ -1,5 +1,8 @@
-#ifndef APPLICATIONFONT_H
-#define APPLICATIONFONT_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_HOSTKIT_APPLICATIONFONT_H
+#define PRINTPANELS_HOSTKIT_APPLICATIONFONT_H
 
 #include <hostkit_export.h>
 

@@ -1,5 +1,8 @@
-#ifndef COLORMENU_H
-#define COLORMENU_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_HOSTKIT_COLORMENU_H
+#define PRINTPANELS_HOSTKIT_COLORMENU_H
 
 #include <hostkit_export.h>
 

@@ -1,5 +1,8 @@
-#ifndef CONTAINERTITLEBAR_H
-#define CONTAINERTITLEBAR_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_HOSTKIT_CONTAINERTITLEBAR_H
+#define PRINTPANELS_HOSTKIT_CONTAINERTITLEBAR_H
 
 #include <hostkit_export.h>
 

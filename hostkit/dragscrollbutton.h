@@ -1,5 +1,8 @@
-#ifndef DRAGSCROLLBUTTON_H
-#define DRAGSCROLLBUTTON_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_HOSTKIT_DRAGSCROLLBUTTON_H
+#define PRINTPANELS_HOSTKIT_DRAGSCROLLBUTTON_H
 
 #include <hostkit_export.h>
 

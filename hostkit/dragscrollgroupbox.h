@@ -1,5 +1,8 @@
-#ifndef DRAGSCROLLGROUPBOX_H
-#define DRAGSCROLLGROUPBOX_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_HOSTKIT_DRAGSCROLLGROUPBOX_H
+#define PRINTPANELS_HOSTKIT_DRAGSCROLLGROUPBOX_H
 
 #include <hostkit_export.h>
 

@@ -1,5 +1,8 @@
-#ifndef EXPANDINGTABBAR_H
-#define EXPANDINGTABBAR_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_HOSTKIT_EXPANDINGTABBAR_H
+#define PRINTPANELS_HOSTKIT_EXPANDINGTABBAR_H
 
 #include <hostkit_export.h>
 

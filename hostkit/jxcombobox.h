@@ -1,5 +1,8 @@
-#ifndef JXCOMBOBOX_H
-#define JXCOMBOBOX_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_HOSTKIT_JXCOMBOBOX_H
+#define PRINTPANELS_HOSTKIT_JXCOMBOBOX_H
 
 #include <hostkit_export.h>
 

@@ -1,5 +1,8 @@
-#ifndef JXLINEEDIT_H
-#define JXLINEEDIT_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_HOSTKIT_JXLINEEDIT_H
+#define PRINTPANELS_HOSTKIT_JXLINEEDIT_H
 
 #include <hostkit_export.h>
 

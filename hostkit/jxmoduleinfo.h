@@ -1,5 +1,8 @@
-#ifndef JXMODULEINFO_H
-#define JXMODULEINFO_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_HOSTKIT_JXMODULEINFO_H
+#define PRINTPANELS_HOSTKIT_JXMODULEINFO_H
 
 #include <hostkit_export.h>
 

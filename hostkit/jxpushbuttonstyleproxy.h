@@ -1,5 +1,8 @@
-#ifndef JXPUSHBUTTONSTYLEPROXY_H
-#define JXPUSHBUTTONSTYLEPROXY_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_HOSTKIT_JXPUSHBUTTONSTYLEPROXY_H
+#define PRINTPANELS_HOSTKIT_JXPUSHBUTTONSTYLEPROXY_H
 
 #include <hostkit_export.h>
 

@@ -1,5 +1,8 @@
-#ifndef JXSPINBOX_H
-#define JXSPINBOX_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_HOSTKIT_JXSPINBOX_H
+#define PRINTPANELS_HOSTKIT_JXSPINBOX_H
 
 #include <hostkit_export.h>
 

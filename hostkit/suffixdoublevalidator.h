@@ -1,5 +1,8 @@
-#ifndef SUFFIXDOUBLEVALIDATOR_H
-#define SUFFIXDOUBLEVALIDATOR_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_HOSTKIT_SUFFIXDOUBLEVALIDATOR_H
+#define PRINTPANELS_HOSTKIT_SUFFIXDOUBLEVALIDATOR_H
 
 #include <hostkit_export.h>
 

@@ -1,5 +1,8 @@
-#ifndef WHITESPACE_H
-#define WHITESPACE_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_HOSTKIT_WHITESPACE_H
+#define PRINTPANELS_HOSTKIT_WHITESPACE_H
 
 #include <hostkit_export.h>
 

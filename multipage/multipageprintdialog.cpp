@@ -1,11 +1,15 @@
-#include "multipage/multipageprintdialog.h"
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include <printpanels/multipageprintdialog.h>
 
 #include "foundation/controlrefuge.h"
 #include "foundation/hostkit.h"
 #include "foundation/panelparts.h"
-#include "foundation/sharedconstants.h"
 #include "foundation/stylesheets.h"
 #include "preview/previewview.h"
+
+#include <printpanels/sharedconstants.h>
 
 #include <QtWidgets/QFrame>
 #include <QtWidgets/QHBoxLayout>

@@ -1,5 +1,8 @@
-#ifndef MULTIPAGEPRINTDIALOG_H
-#define MULTIPAGEPRINTDIALOG_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_MULTIPAGEPRINTDIALOG_H
+#define PRINTPANELS_MULTIPAGEPRINTDIALOG_H
 
 #include <printpanels/printpanels_export.h>
 

@@ -1,6 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 // ---- Construction, modules and buttons ----
 
-#include "multipage/multipageprintwidget.h"
+#include <printpanels/multipageprintwidget.h>
 
 #include "foundation/controlrefuge.h"
 #include "foundation/hostkit.h"

@@ -1,5 +1,8 @@
-#ifndef MULTIPAGEPRINTWIDGET_H
-#define MULTIPAGEPRINTWIDGET_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_MULTIPAGEPRINTWIDGET_H
+#define PRINTPANELS_MULTIPAGEPRINTWIDGET_H
 
 #include <printpanels/printpanels_export.h>
 #include <printpanels/printwidgetinterface.h>

@@ -1,6 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 // ---- Copies: the number between its step buttons ----
 
-#include "multipage/multipageprintwidget.h"
+#include <printpanels/multipageprintwidget.h>
 
 #include "foundation/hostkit.h"
 #include "foundation/panelparts.h"

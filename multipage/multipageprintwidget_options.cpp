@@ -1,11 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 // ---- Options: form fill, fit to page, orientation, and the Print button ----
 
-#include "multipage/multipageprintwidget.h"
+#include <printpanels/multipageprintwidget.h>
 
-#include "foundation/connectionpause.h"
 #include "foundation/hostkit.h"
-#include "foundation/sharedconstants.h"
 #include "foundation/stylesheets.h"
+#include "foundation/widgets/connectionblocker.h"
+
+#include <printpanels/sharedconstants.h>
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QGridLayout>
@@ -13,7 +17,7 @@
 #include <QtWidgets/QRadioButton>
 #include <QtWidgets/QVBoxLayout>
 
-using PrintPanels::ConnectionPause;
+using PrintPanels::ConnectionBlocker;
 
 namespace {
 
@@ -73,7 +77,7 @@ void MultiPagePrintWidget::createOptionsLayout(bool fitToPage)
 void MultiPagePrintWidget::setFormFillOption(bool visible, bool checked)
 {
     formFillCheck->setVisible(visible);
-    const ConnectionPause pause(formFillCheck, stateSignal, this, formFillSignal);
+    const ConnectionBlocker blocker(formFillCheck, stateSignal, this, formFillSignal);
     formFillCheck->setChecked(checked);
 }
 
@@ -84,7 +88,7 @@ void MultiPagePrintWidget::set180OrientationVisible(bool visible)
 
 void MultiPagePrintWidget::set180OrientationCheck(bool orientation180)
 {
-    const ConnectionPause pause(orientationCheck, stateSignal, this, orientationSignal);
+    const ConnectionBlocker blocker(orientationCheck, stateSignal, this, orientationSignal);
     orientationCheck->setChecked(orientation180);
 }
 

@@ -1,10 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 // ---- Printer: selector, settings button, and the orientation below them ----
 
-#include "multipage/multipageprintwidget.h"
+#include <printpanels/multipageprintwidget.h>
 
-#include "foundation/connectionpause.h"
 #include "foundation/hostkit.h"
 #include "foundation/panelparts.h"
+#include "foundation/widgets/connectionblocker.h"
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QGridLayout>
@@ -12,7 +15,7 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
-using PrintPanels::ConnectionPause;
+using PrintPanels::ConnectionBlocker;
 
 namespace {
 
@@ -72,7 +75,7 @@ void MultiPagePrintWidget::updateListOfPrinters(const QStringList& printers, int
 
 void MultiPagePrintWidget::fillPrinterCombo(const QStringList& printers, int currentIndex)
 {
-    const ConnectionPause pause(printerCombo, indexSignal, this, indexSlot);
+    const ConnectionBlocker blocker(printerCombo, indexSignal, this, indexSlot);
     printerCombo->clear();
     if (printers.isEmpty())
         printerCombo->addItem(QStringLiteral("No printer"));
@@ -89,7 +92,7 @@ QString MultiPagePrintWidget::getSelectedPrinter() const
 
 void MultiPagePrintWidget::setSelectedPrinter(const QString& name)
 {
-    const ConnectionPause pause(printerCombo, indexSignal, this, indexSlot);
+    const ConnectionBlocker blocker(printerCombo, indexSignal, this, indexSlot);
     printerCombo->setCurrentIndex(
         printerCombo->findData(name, Qt::DisplayRole, Qt::MatchExactly | Qt::MatchCaseSensitive));
 }

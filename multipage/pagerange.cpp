@@ -1,6 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 #include "multipage/pagerange.h"
 
-#include "foundation/recordlist.h"
+#include <printpanels/recordlist.h>
 
 namespace PrintPanels {
 

@@ -1,11 +1,15 @@
-#include "preview/printpreviewdialog.h"
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include <printpanels/printpreviewdialog.h>
 
 #include "foundation/controlrefuge.h"
 #include "foundation/hostkit.h"
 #include "foundation/panelparts.h"
-#include "foundation/sharedconstants.h"
 #include "foundation/stylesheets.h"
 #include "preview/previewview.h"
+
+#include <printpanels/sharedconstants.h>
 
 #include <QtGui/QIcon>
 #include <QtWidgets/QBoxLayout>

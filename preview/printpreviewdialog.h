@@ -1,5 +1,8 @@
-#ifndef PRINTPREVIEWDIALOG_H
-#define PRINTPREVIEWDIALOG_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_PRINTPREVIEWDIALOG_H
+#define PRINTPANELS_PRINTPREVIEWDIALOG_H
 
 #include <printpanels/printpanels_export.h>
 

@@ -1,5 +1,8 @@
-#ifndef PRINTWIDGET_H
-#define PRINTWIDGET_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_PRINTWIDGET_H
+#define PRINTPANELS_PRINTWIDGET_H
 
 #include <printpanels/printpanels_export.h>
 #include <printpanels/printwidgetinterface.h>

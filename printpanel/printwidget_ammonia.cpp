@@ -1,6 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 // ---- Ammonia tags: the label or one of its tags ----
 
-#include "printpanel/printwidget.h"
+#include <printpanels/printwidget.h>
 
 #include "foundation/hostkit.h"
 

@@ -1,6 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 // ---- Copies and requests: the copy row, the Print and Print Preview buttons ----
 
-#include "printpanel/printwidget.h"
+#include <printpanels/printwidget.h>
 
 #include "foundation/hostkit.h"
 #include "foundation/panelparts.h"

@@ -1,6 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 // ---- N-up: replicating or sequencing ----
 
-#include "printpanel/printwidget.h"
+#include <printpanels/printwidget.h>
 
 #include "foundation/hostkit.h"
 #include "foundation/stylesheets.h"

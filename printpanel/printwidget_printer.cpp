@@ -1,17 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 // ---- Printer: selector, preferences button, location and status ----
 
-#include "printpanel/printwidget.h"
+#include <printpanels/printwidget.h>
 
-#include "foundation/connectionpause.h"
-#include "foundation/elidedlabel.h"
 #include "foundation/hostkit.h"
 #include "foundation/panelparts.h"
+#include "foundation/widgets/connectionblocker.h"
+#include "foundation/widgets/elidedlabel.h"
 
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QVBoxLayout>
 
-using PrintPanels::ConnectionPause;
+using PrintPanels::ConnectionBlocker;
 using PrintPanels::ElidedLabel;
 
 namespace {
@@ -104,7 +107,7 @@ QGridLayout* PrintWidget::createPrinterStatusLayout()
 
 void PrintWidget::updateListOfPrinters(const QStringList& printers, int currentIndex)
 {
-    const ConnectionPause pause(printerCombo, indexSignal, this, indexSlot);
+    const ConnectionBlocker blocker(printerCombo, indexSignal, this, indexSlot);
     printerCombo->clear();
     for (const QString& name : printers) {
         printerCombo->addItem(name);
@@ -119,7 +122,7 @@ void PrintWidget::updateListOfPrinters(const QStringList& printers, int currentI
 
 void PrintWidget::addPrinterToList(const QString& name, bool atTop)
 {
-    const ConnectionPause pause(printerCombo, indexSignal, this, indexSlot);
+    const ConnectionBlocker blocker(printerCombo, indexSignal, this, indexSlot);
     const int index = atTop ? 0 : printerCombo->count();
     printerCombo->insertItem(index, name);
     printerCombo->setItemData(index, name, Qt::ToolTipRole);
@@ -131,7 +134,7 @@ void PrintWidget::addPrinterToList(const QString& name, bool atTop)
 
 void PrintWidget::setSelectedPrinter(const QString& name)
 {
-    const ConnectionPause pause(printerCombo, indexSignal, this, indexSlot);
+    const ConnectionBlocker blocker(printerCombo, indexSignal, this, indexSlot);
     printerCombo->setCurrentText(name);
     // The host names the printer that counts, even one that the list does not hold.
     printerCombo->setToolTip(name);

@@ -1,10 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 // ---- Records: current, all, or a typed list ----
 
-#include "printpanel/printwidget.h"
+#include <printpanels/printwidget.h>
 
 #include "foundation/hostkit.h"
 #include "foundation/panelparts.h"
-#include "foundation/recordlist.h"
+
+#include <printpanels/recordlist.h>
 
 #include <QtWidgets/QButtonGroup>
 #include <QtWidgets/QFrame>

@@ -1,10 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 // ---- Supply and ribbon colours: the menus behind the tabs ----
 
-#include "printpanel/printwidget.h"
+#include <printpanels/printwidget.h>
 
 #include "foundation/hostkit.h"
-#include "foundation/sharedconstants.h"
 #include "printpanel/ribbonlook.h"
+
+#include <printpanels/sharedconstants.h>
 
 #include <QtWidgets/QStackedWidget>
 

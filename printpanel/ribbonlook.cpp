@@ -1,6 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 #include "printpanel/ribbonlook.h"
 
-#include "printpanel/printwidget.h"
+#include <printpanels/printwidget.h>
 
 namespace PrintPanels {
 

@@ -1,12 +1,16 @@
-#include "quickprint/quickprintwidget.h"
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include <printpanels/quickprintwidget.h>
 
 #include "foundation/controlrefuge.h"
 #include "foundation/hostkit.h"
 #include "foundation/panelparts.h"
-#include "foundation/sharedconstants.h"
 #include "foundation/stylesheets.h"
 #include "preview/previewview.h"
 #include "quickprint/wrappedlabel.h"
+
+#include <printpanels/sharedconstants.h>
 
 #include <QtWidgets/QFrame>
 #include <QtWidgets/QGridLayout>

@@ -1,5 +1,8 @@
-#ifndef QUICKPRINTWIDGET_H
-#define QUICKPRINTWIDGET_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_QUICKPRINTWIDGET_H
+#define PRINTPANELS_QUICKPRINTWIDGET_H
 
 #include <printpanels/printpanels_export.h>
 #include <printpanels/printwidgetinterface.h>

@@ -1,7 +1,10 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 #ifndef PRINTPANELS_WRAPPEDLABEL_H
 #define PRINTPANELS_WRAPPEDLABEL_H
 
-#include "foundation/elidedlabel.h"
+#include "foundation/widgets/elidedlabel.h"
 
 #include <QtCore/QStringList>
 

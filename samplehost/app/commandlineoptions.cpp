@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 #include "samplehost/app/commandlineoptions.h"
 
 #include "samplehost/app/catalogcommand.h"

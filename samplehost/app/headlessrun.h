@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 #ifndef SAMPLEHOST_HEADLESSRUN_H
 #define SAMPLEHOST_HEADLESSRUN_H
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 #ifndef SAMPLEHOST_HOSTSETTINGS_H
 #define SAMPLEHOST_HOSTSETTINGS_H
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 #include "samplehost/app/mainwindow.h"
 
 #include "samplehost/app/eventlog.h"

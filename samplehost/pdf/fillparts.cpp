@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 #include "samplehost/pdf/fillparts.h"
 
 #include "samplehost/pdf/fillmark.h"

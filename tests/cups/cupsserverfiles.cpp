@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 // What a server of the test's own finds in its folder.
 #include "cups/cupsserver.h"
 

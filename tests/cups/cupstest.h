@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 #ifndef TESTS_CUPS_CUPSTEST_H
 #define TESTS_CUPS_CUPSTEST_H
 

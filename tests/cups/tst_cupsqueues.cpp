@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 #include "cups/cupshost.h"
 #include "cups/cupstest.h"
 #include "samplehost/app/eventlog.h"

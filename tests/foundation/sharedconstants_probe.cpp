@@ -1,5 +1,8 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 // A library whose only content is its own copy of the shared constants.
-#include "foundation/sharedconstants.h"
+#include <printpanels/sharedconstants.h>
 
 extern "C" Q_DECL_EXPORT void translatedConstants(QStringList* texts)
 {

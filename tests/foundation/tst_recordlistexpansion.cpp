@@ -1,5 +1,9 @@
-#include "foundation/recordlist.h"
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 #include "support/stricttest.h"
+
+#include <printpanels/recordlist.h>
 
 #include <QtCore/QRandomGenerator>
 

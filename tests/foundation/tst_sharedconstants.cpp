@@ -1,6 +1,10 @@
-#include "foundation/sharedconstants.h"
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 #include "support/stricttest.h"
 #include "support/translationrecorder.h"
+
+#include <printpanels/sharedconstants.h>
 
 #include <jxmoduleinfo.h>
 

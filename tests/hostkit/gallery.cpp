@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 // Shows every widget of the stand-in kit, to be looked at: hostkit_gallery [--screenshot FILE.png]
 
 #include "foundation/stylesheets.h"

@@ -1,7 +1,10 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include "hostkit/private/colorswatch.h"
 #include "support/stricttest.h"
 
 #include <colormenu.h>
-#include <colorswatch.h>
 
 #include <QtCore/QPointer>
 #include <QtTest/QSignalSpy>

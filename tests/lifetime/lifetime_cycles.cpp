@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 // Run by hand, through scripts/lifetime: creates, shows, uses and destroys panels many times and
 // prints what is in use of the heap.
 //     lifetime_cycles [CYCLES [NAME]]

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 #include "executioner.h"
 #include "livepanel.h"
 #include "support/stricttest.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 #ifndef MONKEY_STOPPEDCLOCK_H
 #define MONKEY_STOPPEDCLOCK_H
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 #ifndef MONKEY_TRAIL_H
 #define MONKEY_TRAIL_H
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 #ifndef MULTIPAGEPROBE_H
 #define MULTIPAGEPROBE_H
 

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The PrintPanels developers
+# SPDX-License-Identifier: MIT
+
 # The library shows its interface and nothing else: every exported symbol belongs to a public class or
 # to the record lists.
 include("${CMAKE_CURRENT_LIST_DIR}/steps.cmake")

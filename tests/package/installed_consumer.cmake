@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The PrintPanels developers
+# SPDX-License-Identifier: MIT
+
 # Installs the package, moves it, and builds and runs a consumer against it: nothing that is installed
 # may remember the build tree or the place of installation.
 include("${CMAKE_CURRENT_LIST_DIR}/steps.cmake")

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The PrintPanels developers
+# SPDX-License-Identifier: MIT
+
 # Helpers of the package tests.
 
 # Runs a command and stops the test with its output when it fails.

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 // A library that brings the panels with it when it is loaded.
 #include <printpanels/printpreviewdialog.h>
 

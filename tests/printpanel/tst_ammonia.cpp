@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 #include "panelprobe.h"
 #include "support/layoutdescription.h"
 #include "support/stricttest.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 #include "supplyprobe.h"
 #include "support/stricttest.h"
 #include "support/translationrecorder.h"

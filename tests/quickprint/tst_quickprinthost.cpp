@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 // What hosts do to the panel from inside its own signals, and with what they should not hand it.
 #include "preview/referencecanvas.h"
 #include "quickpanel.h"

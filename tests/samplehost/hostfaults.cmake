@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The PrintPanels developers
+# SPDX-License-Identifier: MIT
+
 # Faults of the system around the host: full disks, files that cannot be written or read.
 add_library(hostfaults STATIC
     faulthost.cpp faulthost.h fulldisk.cpp fulldisk.h hostprogram.cpp hostprogram.h)

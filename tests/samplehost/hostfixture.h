@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 #ifndef TESTS_SAMPLEHOST_HOSTFIXTURE_H
 #define TESTS_SAMPLEHOST_HOSTFIXTURE_H
 

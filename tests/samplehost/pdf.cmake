@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The PrintPanels developers
+# SPDX-License-Identifier: MIT
+
 # Tests of samplehost/pdf/.
 find_package(Qt6 6.4 REQUIRED COMPONENTS Pdf)
 find_package(qpdf 11 REQUIRED)

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The PrintPanels developers
+# SPDX-License-Identifier: MIT
+
 # Tests of the page of documents in samplehost/app/.
 foreach(name IN ITEMS pdfpage pdfpanel pdfprinting)
     printpanels_add_test(tst_${name}

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The PrintPanels developers
+# SPDX-License-Identifier: MIT
+
 find_package(Qt6 6.4 REQUIRED COMPONENTS Pdf)
 
 printpanels_add_test(tst_pageplan

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 #include "hostfixture.h"
 #include "samplehost/app/catalogdesign.h"
 #include "samplehost/app/catalogsize.h"

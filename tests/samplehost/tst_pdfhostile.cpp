@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 #include "samplehost/pdf/pdfdocument.h"
 #include "samplehost/pdf/pdfprinting.h"
 #include "samplehost/pdfoutput.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
 // Uses the installed library as a host does: public headers only, answers checked, exit code tells.
 #include <printpanels-hostkit/jxcombobox.h>
 #include <printpanels/printpanels_version.h>

@@ -1,5 +1,8 @@
-#ifndef PRINTPANELS_CONNECTIONPAUSE_H
-#define PRINTPANELS_CONNECTIONPAUSE_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_CONNECTIONBLOCKER_H
+#define PRINTPANELS_CONNECTIONBLOCKER_H
 
 #include <QtCore/QPointer>
 
@@ -12,14 +15,14 @@ namespace PrintPanels {
  * which is why the signal is not blocked. After the scope the connection stands exactly once, also
  * when a listener pauses it again meanwhile.
  */
-class ConnectionPause
+class ConnectionBlocker
 {
-    Q_DISABLE_COPY_MOVE(ConnectionPause)
+    Q_DISABLE_COPY_MOVE(ConnectionBlocker)
 
 public:
     /** @p signal and @p slot are SIGNAL() and SLOT() texts and must outlive the pause. */
-    ConnectionPause(QObject* sender, const char* signal, QObject* receiver, const char* slot);
-    ~ConnectionPause();
+    ConnectionBlocker(QObject* sender, const char* signal, QObject* receiver, const char* slot);
+    ~ConnectionBlocker();
 
 private:
     QPointer<QObject> m_sender;

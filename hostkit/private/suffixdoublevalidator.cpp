@@ -1,4 +1,7 @@
-#include "suffixdoublevalidator.h"
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include <suffixdoublevalidator.h>
 
 #include <QtCore/QLocale>
 

@@ -1,4 +1,7 @@
-#include "jxpushbuttonstyleproxy.h"
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include <jxpushbuttonstyleproxy.h>
 
 #include <QtWidgets/QApplication>
 

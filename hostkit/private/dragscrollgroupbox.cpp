@@ -1,4 +1,7 @@
-#include "dragscrollgroupbox.h"
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include <dragscrollgroupbox.h>
 
 #include "dragscroller.h"
 

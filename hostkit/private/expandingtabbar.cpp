@@ -1,4 +1,7 @@
-#include "expandingtabbar.h"
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include <expandingtabbar.h>
 
 #include "colortext.h"
 #include "plaintooltip.h"

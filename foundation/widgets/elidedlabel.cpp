@@ -1,4 +1,7 @@
-#include "foundation/elidedlabel.h"
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include "foundation/widgets/elidedlabel.h"
 
 #include <QtGui/QHelpEvent>
 #include <QtGui/QPainter>

@@ -1,4 +1,7 @@
-#include "jxlineedit.h"
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include <jxlineedit.h>
 
 JxLineEdit::JxLineEdit(QWidget* parent) : QLineEdit(parent) {}
 

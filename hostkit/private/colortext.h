@@ -1,5 +1,8 @@
-#ifndef COLORTEXT_H
-#define COLORTEXT_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_HOSTKIT_COLORTEXT_H
+#define PRINTPANELS_HOSTKIT_COLORTEXT_H
 
 #include <QtCore/QString>
 

@@ -1,4 +1,7 @@
-#include "jxspinbox.h"
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include <jxspinbox.h>
 
 #include <QtGui/QWheelEvent>
 

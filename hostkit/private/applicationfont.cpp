@@ -1,4 +1,7 @@
-#include "applicationfont.h"
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include <applicationfont.h>
 
 #include <QtGui/QGuiApplication>
 

@@ -1,7 +1,10 @@
-#ifndef COLORSWATCH_H
-#define COLORSWATCH_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
 
-#include "dragscrollbutton.h"
+#ifndef PRINTPANELS_HOSTKIT_COLORSWATCH_H
+#define PRINTPANELS_HOSTKIT_COLORSWATCH_H
+
+#include <dragscrollbutton.h>
 
 namespace HostKit {
 

@@ -1,9 +1,12 @@
-#include "foundation/connectionpause.h"
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include "foundation/widgets/connectionblocker.h"
 #include "support/stricttest.h"
 
 #include <memory>
 
-using PrintPanels::ConnectionPause;
+using PrintPanels::ConnectionBlocker;
 
 /** Emits and counts. */
 class Talker : public QObject
@@ -25,30 +28,30 @@ public Q_SLOTS:
     void hearToo(int) { heard += 100; }
 };
 
-class tst_ConnectionPause : public StrictTest
+class tst_ConnectionBlocker : public StrictTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void theConnectionPausesInsideTheScope();
+    void theConnectionIsBlockedInsideTheScope();
     void theConnectionStandsOnceAfterwards();
     void otherConnectionsOfTheSignalGoOn();
     void otherReceiversGoOn();
     void otherSignalsOfThePairGoOn();
-    void nestedPausesLeaveOneConnection();
+    void nestedBlockersLeaveOneConnection();
     void anExceptionalExitRestoresTheConnection();
     void aSenderDeletedInsideTheScopeIsLeftAlone();
     void aReceiverDeletedInsideTheScopeIsLeftAlone();
     void aListenerMayDeleteTheReceiver();
 };
 
-void tst_ConnectionPause::theConnectionPausesInsideTheScope()
+void tst_ConnectionBlocker::theConnectionIsBlockedInsideTheScope()
 {
     Talker talker;
     Talker listener;
     connect(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
     {
-        const ConnectionPause pause(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
+        const ConnectionBlocker blocker(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
         talker.say(1);
         QCOMPARE(listener.heard, 0);
         QCOMPARE(talker.receiversOfSaid(), 0);
@@ -56,14 +59,14 @@ void tst_ConnectionPause::theConnectionPausesInsideTheScope()
     QCOMPARE(listener.heard, 0);
 }
 
-void tst_ConnectionPause::theConnectionStandsOnceAfterwards()
+void tst_ConnectionBlocker::theConnectionStandsOnceAfterwards()
 {
     Talker talker;
     Talker listener;
     connect(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
     for (int i = 1; i <= 3; ++i) {
         {
-            const ConnectionPause pause(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
+            const ConnectionBlocker blocker(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
         }
         talker.say(1);
         QCOMPARE(listener.heard, i);
@@ -71,14 +74,14 @@ void tst_ConnectionPause::theConnectionStandsOnceAfterwards()
     }
 }
 
-void tst_ConnectionPause::otherConnectionsOfTheSignalGoOn()
+void tst_ConnectionBlocker::otherConnectionsOfTheSignalGoOn()
 {
     Talker talker;
     Talker listener;
     connect(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
     connect(&talker, SIGNAL(said(int)), &listener, SLOT(hearToo(int)));
     {
-        const ConnectionPause pause(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
+        const ConnectionBlocker blocker(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
         talker.say(1);
         QCOMPARE(listener.heard, 100);
     }
@@ -86,40 +89,40 @@ void tst_ConnectionPause::otherConnectionsOfTheSignalGoOn()
     QCOMPARE(listener.heard, 201);
 }
 
-void tst_ConnectionPause::otherReceiversGoOn()
+void tst_ConnectionBlocker::otherReceiversGoOn()
 {
     Talker talker;
     Talker paused;
     Talker other;
     connect(&talker, SIGNAL(said(int)), &paused, SLOT(hear(int)));
     connect(&talker, SIGNAL(said(int)), &other, SLOT(hear(int)));
-    const ConnectionPause pause(&talker, SIGNAL(said(int)), &paused, SLOT(hear(int)));
+    const ConnectionBlocker blocker(&talker, SIGNAL(said(int)), &paused, SLOT(hear(int)));
     talker.say(1);
     QCOMPARE(paused.heard, 0);
     QCOMPARE(other.heard, 1);
     QVERIFY(!talker.signalsBlocked());
 }
 
-void tst_ConnectionPause::otherSignalsOfThePairGoOn()
+void tst_ConnectionBlocker::otherSignalsOfThePairGoOn()
 {
     Talker talker;
     Talker listener;
     connect(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
     connect(&talker, SIGNAL(whispered(int)), &listener, SLOT(hear(int)));
-    const ConnectionPause pause(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
+    const ConnectionBlocker blocker(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
     Q_EMIT talker.whispered(1);
     QCOMPARE(listener.heard, 1);
 }
 
-void tst_ConnectionPause::nestedPausesLeaveOneConnection()
+void tst_ConnectionBlocker::nestedBlockersLeaveOneConnection()
 {
     Talker talker;
     Talker listener;
     connect(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
     {
-        const ConnectionPause outer(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
+        const ConnectionBlocker outer(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
         {
-            const ConnectionPause inner(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
+            const ConnectionBlocker inner(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
         }
         talker.say(1);
         QCOMPARE(listener.heard, 0);
@@ -129,13 +132,13 @@ void tst_ConnectionPause::nestedPausesLeaveOneConnection()
     QCOMPARE(talker.receiversOfSaid(), 1);
 }
 
-void tst_ConnectionPause::anExceptionalExitRestoresTheConnection()
+void tst_ConnectionBlocker::anExceptionalExitRestoresTheConnection()
 {
     Talker talker;
     Talker listener;
     connect(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
     try {
-        const ConnectionPause pause(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
+        const ConnectionBlocker blocker(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
         throw 1;
     } catch (int) {
     }
@@ -143,43 +146,45 @@ void tst_ConnectionPause::anExceptionalExitRestoresTheConnection()
     QCOMPARE(listener.heard, 1);
 }
 
-void tst_ConnectionPause::aSenderDeletedInsideTheScopeIsLeftAlone()
+void tst_ConnectionBlocker::aSenderDeletedInsideTheScopeIsLeftAlone()
 {
     auto talker = std::make_unique<Talker>();
     Talker listener;
     connect(talker.get(), SIGNAL(said(int)), &listener, SLOT(hear(int)));
     {
-        const ConnectionPause pause(talker.get(), SIGNAL(said(int)), &listener, SLOT(hear(int)));
+        const ConnectionBlocker blocker(talker.get(), SIGNAL(said(int)), &listener,
+                                        SLOT(hear(int)));
         talker.reset();
     }
     QCOMPARE(listener.heard, 0);
 }
 
-void tst_ConnectionPause::aReceiverDeletedInsideTheScopeIsLeftAlone()
+void tst_ConnectionBlocker::aReceiverDeletedInsideTheScopeIsLeftAlone()
 {
     Talker talker;
     auto listener = std::make_unique<Talker>();
     connect(&talker, SIGNAL(said(int)), listener.get(), SLOT(hear(int)));
     {
-        const ConnectionPause pause(&talker, SIGNAL(said(int)), listener.get(), SLOT(hear(int)));
+        const ConnectionBlocker blocker(&talker, SIGNAL(said(int)), listener.get(),
+                                        SLOT(hear(int)));
         listener.reset();
     }
     talker.say(1);
     QCOMPARE(talker.receiversOfSaid(), 0);
 }
 
-void tst_ConnectionPause::aListenerMayDeleteTheReceiver()
+void tst_ConnectionBlocker::aListenerMayDeleteTheReceiver()
 {
     Talker talker;
     auto* listener = new Talker;
     connect(&talker, SIGNAL(said(int)), listener, SLOT(hear(int)));
     connect(&talker, &Talker::said, &talker, [listener] { delete listener; });
     {
-        const ConnectionPause pause(&talker, SIGNAL(said(int)), listener, SLOT(hear(int)));
+        const ConnectionBlocker blocker(&talker, SIGNAL(said(int)), listener, SLOT(hear(int)));
         talker.say(1);
     }
     QCOMPARE(talker.receiversOfSaid(), 1);
 }
 
-QTEST_GUILESS_MAIN(tst_ConnectionPause)
-#include "tst_connectionpause.moc"
+QTEST_GUILESS_MAIN(tst_ConnectionBlocker)
+#include "tst_connectionblocker.moc"

@@ -1,4 +1,7 @@
-#include "jxcombobox.h"
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include <jxcombobox.h>
 
 #include "plaintooltip.h"
 

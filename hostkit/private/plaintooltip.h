@@ -1,5 +1,8 @@
-#ifndef PLAINTOOLTIP_H
-#define PLAINTOOLTIP_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_HOSTKIT_PLAINTOOLTIP_H
+#define PRINTPANELS_HOSTKIT_PLAINTOOLTIP_H
 
 #include <QtCore/QString>
 

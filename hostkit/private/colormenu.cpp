@@ -1,4 +1,7 @@
-#include "colormenu.h"
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include <colormenu.h>
 
 #include "colorswatch.h"
 #include "colortext.h"
@@ -144,7 +147,7 @@ void ColorMenu::replaceContents()
         swatch->disconnect(this);
     m_swatches.clear();
     if (QWidget* old = m_scrollArea->takeWidget()) {
-        old->hide();
+        old->setParent(this); // so that it goes with the menu if that goes first
         old->deleteLater();
     }
     auto* contents = new QWidget;

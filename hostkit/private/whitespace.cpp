@@ -1,4 +1,7 @@
-#include "whitespace.h"
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include <whitespace.h>
 
 #include <algorithm>
 

@@ -1,11 +1,14 @@
-#include "foundation/connectionpause.h"
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include "foundation/widgets/connectionblocker.h"
 
 #include <QtCore/QObject>
 
 namespace PrintPanels {
 
-ConnectionPause::ConnectionPause(QObject* sender, const char* signal, QObject* receiver,
-                                 const char* slot)
+ConnectionBlocker::ConnectionBlocker(QObject* sender, const char* signal, QObject* receiver,
+                                     const char* slot)
     : m_sender(sender),
       m_receiver(receiver),
       m_signal(signal),
@@ -14,7 +17,7 @@ ConnectionPause::ConnectionPause(QObject* sender, const char* signal, QObject* r
 {
 }
 
-ConnectionPause::~ConnectionPause()
+ConnectionBlocker::~ConnectionBlocker()
 {
     // The change itself may have run a listener that deleted one of the two.
     if (m_wasConnected && m_sender && m_receiver)

@@ -1,4 +1,7 @@
-#include "dragscrollbutton.h"
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include <dragscrollbutton.h>
 
 #include "dragscroller.h"
 

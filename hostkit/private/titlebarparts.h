@@ -1,5 +1,8 @@
-#ifndef TITLEBARPARTS_H
-#define TITLEBARPARTS_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_HOSTKIT_TITLEBARPARTS_H
+#define PRINTPANELS_HOSTKIT_TITLEBARPARTS_H
 
 #include <QtGui/QIcon>
 #include <QtWidgets/QAbstractButton>

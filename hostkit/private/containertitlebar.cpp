@@ -1,4 +1,7 @@
-#include "containertitlebar.h"
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include <containertitlebar.h>
 
 #include "plaintooltip.h"
 #include "titlebarparts.h"

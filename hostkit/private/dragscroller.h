@@ -1,5 +1,8 @@
-#ifndef DRAGSCROLLER_H
-#define DRAGSCROLLER_H
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_HOSTKIT_DRAGSCROLLER_H
+#define PRINTPANELS_HOSTKIT_DRAGSCROLLER_H
 
 #include <QtCore/QPoint>
 #include <QtCore/QPointer>

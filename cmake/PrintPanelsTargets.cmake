@@ -1,0 +1,107 @@
+# SPDX-FileCopyrightText: 2026 The PrintPanels developers
+# SPDX-License-Identifier: MIT
+
+# What the targets of this build share. Nothing here reaches a consumer.
+
+if(MSVC)
+    set(printpanels_warnings /W4 /permissive- /utf-8)
+    set(printpanels_warnings_as_errors /WX)
+else()
+    set(printpanels_warnings
+        -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Wconversion)
+    set(printpanels_warnings_as_errors -Werror)
+endif()
+
+# Language level, hidden symbols and strict warnings.
+#   printpanels_configure_target(<target> [WITHOUT_WIDGETS])
+# WITHOUT_WIDGETS is for targets that do not link Qt Widgets: they cannot share the precompiled headers.
+function(printpanels_configure_target target)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "WITHOUT_WIDGETS" "" "")
+    target_compile_features(${target} PUBLIC cxx_std_17)
+    set_target_properties(${target} PROPERTIES
+        CXX_EXTENSIONS OFF
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON)
+    target_compile_definitions(${target} PRIVATE
+        QT_NO_CAST_FROM_ASCII
+        QT_NO_CAST_TO_ASCII
+        QT_NO_KEYWORDS
+        QT_STRICT_ITERATORS
+        QT_NO_URL_CAST_FROM_STRING)
+    target_compile_options(${target} PRIVATE ${printpanels_warnings})
+    if(PRINTPANELS_WERROR)
+        target_compile_options(${target} PRIVATE ${printpanels_warnings_as_errors})
+    endif()
+    if(PRINTPANELS_PCH AND NOT arg_WITHOUT_WIDGETS)
+        target_precompile_headers(${target} REUSE_FROM printpanels_pch)
+    endif()
+endfunction()
+
+# The Qt headers that nearly every source file includes. Building with them takes half the time but
+# hides missing includes, so some builds do without.
+if(PRINTPANELS_PCH)
+    set(printpanels_pch_source "${CMAKE_BINARY_DIR}/printpanels_pch.cpp")
+    file(CONFIGURE OUTPUT "${printpanels_pch_source}" CONTENT "// Carries the precompiled headers.\n")
+    add_library(printpanels_pch OBJECT "${printpanels_pch_source}")
+    printpanels_configure_target(printpanels_pch WITHOUT_WIDGETS)
+    target_link_libraries(printpanels_pch PRIVATE Qt6::Widgets)
+    target_precompile_headers(printpanels_pch PRIVATE
+        <QtCore/QHash>
+        <QtCore/QList>
+        <QtCore/QMap>
+        <QtCore/QObject>
+        <QtCore/QPointer>
+        <QtCore/QStringList>
+        <QtCore/QTimer>
+        <QtCore/QVariant>
+        <QtGui/QImage>
+        <QtGui/QPainter>
+        <QtGui/QtEvents>
+        <QtWidgets/QApplication>
+        <QtWidgets/QComboBox>
+        <QtWidgets/QLabel>
+        <QtWidgets/QLayout>
+        <QtWidgets/QLineEdit>
+        <QtWidgets/QPushButton>)
+endif()
+
+# One of the libraries that are installed.
+#   printpanels_configure_library(<target> <name in the package>)
+function(printpanels_configure_library target export_name)
+    printpanels_configure_target(${target})
+    # While the major version is 0, every minor version may change the interface.
+    set(soversion ${PROJECT_VERSION_MAJOR})
+    if(PROJECT_VERSION_MAJOR EQUAL 0)
+        set(soversion ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+    endif()
+    set_target_properties(${target} PROPERTIES
+        EXPORT_NAME ${export_name}
+        POSITION_INDEPENDENT_CODE ON
+        SOVERSION ${soversion}
+        VERSION ${PROJECT_VERSION})
+    if(BUILD_SHARED_LIBS AND NOT WIN32 AND NOT APPLE AND NOT PRINTPANELS_FUZZERS)
+        # A missing symbol shows when the library is linked, not when a host loads it.
+        target_link_options(${target} PRIVATE "LINKER:--no-undefined")
+    endif()
+    # The only folder with public headers: a target in the tree sees what an installed consumer sees.
+    target_include_directories(${target} PUBLIC
+        "$<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>"
+        "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>")
+    if(NOT BUILD_SHARED_LIBS)
+        string(TOUPPER ${target} base_name)
+        target_compile_definitions(${target} PUBLIC ${base_name}_STATIC_DEFINE)
+    endif()
+endfunction()
+
+# Public headers are written <printpanels/name.h> by everybody: the library itself, the sample host and
+# a consumer of the installed package. In the build tree that name is a forwarding header.
+#   printpanels_public_headers(<target> <include folder> <header>...)
+function(printpanels_public_headers target folder)
+    foreach(header IN LISTS ARGN)
+        get_filename_component(path "${header}" ABSOLUTE)
+        get_filename_component(name "${header}" NAME)
+        file(CONFIGURE OUTPUT "${PROJECT_BINARY_DIR}/include/${folder}/${name}"
+            CONTENT "#include \"${path}\"\n")
+        set_property(TARGET ${target} APPEND PROPERTY PRINTPANELS_PUBLIC_HEADERS "${path}")
+    endforeach()
+endfunction()
