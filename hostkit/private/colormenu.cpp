@@ -139,15 +139,22 @@ void ColorMenu::addSwatch(const QString& name, const QString& code)
     m_swatches.append(swatch);
 }
 
-// Starts on an empty grid. The old swatches go later: a press on one takes the focus from an edit
-// first, whose new value may make the host give a new palette, and Qt goes on with the swatch then.
+// Starts with an empty grid. The old swatches are deleted later: a press on a swatch first takes the
+// focus from an edit, whose new value may make the host set a new palette, and Qt then delivers the
+// press. Until then they are hidden children of the menu, so that nothing outlives it, and neither
+// named nor checked, so that nobody takes them for entries.
 void ColorMenu::replaceContents()
 {
-    for (ColorSwatch* swatch : std::as_const(m_swatches))
+    for (ColorSwatch* swatch : std::as_const(m_swatches)) {
         swatch->disconnect(this);
+        swatch->setObjectName(QString());
+        swatch->setChecked(false);
+        swatch->hide();
+    }
     m_swatches.clear();
     if (QWidget* old = m_scrollArea->takeWidget()) {
-        old->setParent(this); // so that it goes with the menu if that goes first
+        old->hide();
+        old->setParent(this);
         old->deleteLater();
     }
     auto* contents = new QWidget;

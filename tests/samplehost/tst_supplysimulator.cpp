@@ -16,6 +16,8 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QTabBar>
 
+#include <algorithm>
+
 using namespace SampleHost;
 using Report = SupplySimulator::Report;
 
@@ -81,7 +83,10 @@ ColorMenu* TestSupplySimulator::ribbonMenu(const PrintWidget& panel)
 
 int TestSupplySimulator::entries(const PrintWidget& panel)
 {
-    return int(ribbonMenu(panel)->findChildren<QAbstractButton*>().size());
+    const QList<QAbstractButton*> buttons = ribbonMenu(panel)->findChildren<QAbstractButton*>();
+    // Entries are named after their codes; those of a palette that was replaced are not.
+    return int(std::count_if(buttons.begin(), buttons.end(),
+                             [](const QObject* button) { return !button->objectName().isEmpty(); }));
 }
 
 void TestSupplySimulator::nothingHidesTheSection()
