@@ -8,19 +8,22 @@
 
 #include <QtGui/QFont>
 
-/** The fonts of the host application's panels, in the family of QGuiApplication::font(). */
+/** The fonts of the host application's panels, based on QGuiApplication::font(). */
 class HOSTKIT_EXPORT ApplicationFont
 {
 public:
     ApplicationFont() = delete;
 
     /**
-     * The font of labels, buttons and entries, of a size for rows 35 pixels high: 15 pixels for a
-     * @p prominent widget, 14 for others.
+     * Returns the font for labels, buttons and input fields in rows 35 pixels high. Its size is 15
+     * pixels if @p prominent is true, otherwise 14 pixels.
      */
     static QFont getWidgetFont(bool prominent);
 
-    /** The font of side information: 13 pixels for a @p prominent widget, 12 for others. */
+    /**
+     * Returns the font for secondary text. Its size is 13 pixels if @p prominent is true, otherwise
+     * 12 pixels.
+     */
     static QFont getWidgetFontSmall(bool prominent);
 };
 

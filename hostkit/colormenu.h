@@ -15,48 +15,54 @@ class ColorSwatch;
 class QScrollArea;
 
 /**
- * A grid of colour swatches of touch size, at most one of which is checked. The user picks one with
- * the mouse, or with the arrow keys and Space or Enter. Every entry is a child button whose object
- * name is its code.
+ * A grid of touch-sized colour swatches, at most one of which is checked.
+ *
+ * The user selects a swatch with the mouse, or with the arrow keys and Space, Return or Enter. Each
+ * entry is a button inside the menu whose object name is its colour code.
  */
 class HOSTKIT_EXPORT ColorMenu : public QWidget
 {
     Q_OBJECT
 
 public:
-    /** Creates a menu without entries; @p parent (may be null) owns it. */
+    /** Creates a menu without entries. @p parent (may be null) owns it. */
     explicit ColorMenu(QWidget* parent = nullptr);
     ~ColorMenu() override;
 
     /**
-     * Replaces the entries. With both lists filled, entry i has the name names[i], shown as its
-     * tool tip, and the code codes[i]; what one list has more than the other is ignored. With one
-     * list empty the other alone gives the codes, and names are found for those the kit knows. Two
-     * empty lists leave a menu without entries.
+     * Replaces the entries.
      *
-     * A code is "#" and hexadecimal digits, a colour name that QColor knows, or "transparent" for
-     * the entry for no colour. Entries with any other text are left out, and so is everything
-     * beyond the first 256 entries. The selected colour stays selected if the new entries have it.
-     * Emits nothing, and may be called while colorSignal() is being delivered.
+     * Entry i has the code codes[i] and the name names[i], which is its tool tip; surplus elements
+     * of the longer list are ignored. If one list is empty, the other holds the codes, and an entry
+     * is named after its colour if the kit knows it, otherwise after its code. If both lists are
+     * empty, the menu has no entries.
+     *
+     * A code is "#" followed by hexadecimal digits or a colour name, as QColor accepts them, or
+     * "transparent" for no colour. Entries with any other code are left out, as are all entries
+     * after the first 256 valid ones. If the selected colour is among the new entries, it stays
+     * selected.
+     *
+     * Emits no signal. May be called from a slot connected to colorSignal().
      */
     void setColorPalette(QList<QString> names, QList<QString> codes);
 
     /**
-     * Checks the first entry whose code is exactly @p color (letter case counts) and no other; none
-     * if there is no such entry. Emits nothing.
+     * Selects the colour @p color: checks the first entry with this code (case-sensitive), or none
+     * if there is no such entry, and unchecks all others. Emits no signal.
      */
     void updateSelectedColor(QString color);
 
     /**
-     * Shows or hides the "transparent" entry of the palette, now and after every later
-     * setColorPalette(). Hidden at first. A palette without that entry gets none.
+     * Shows or hides the "transparent" entry of the current palette and of palettes set later. By
+     * default it is hidden. Does not add the entry to a palette without it.
      */
     void setTransparentColorVisible(bool visible);
 
 Q_SIGNALS:
     /**
-     * The user picked an entry, be it the checked one again; @p code is its code as
-     * setColorPalette() got it. The entry is checked by then. The menu may be deleted from a slot.
+     * Emitted when the user selects an entry, even if it was already selected. @p code is the code
+     * of the entry as it was passed to setColorPalette(). The entry is checked before the signal is
+     * emitted. A connected slot may delete the menu.
      */
     void colorSignal(QString code);
 

@@ -17,9 +17,10 @@ class TitleBarLabel;
 } // namespace HostKit
 
 /**
- * The title bar of a frameless window: a title, a close button, and a surface by which the user
- * drags the window. The bar moves and closes nothing itself; its signals say what the window should
- * do.
+ * The title bar of a frameless window, with a title and a close button.
+ *
+ * The title bar does not close the window or move it when dragged; it emits signals for the window
+ * to handle.
  */
 class HOSTKIT_EXPORT ContainerTitleBar : public QWidget
 {
@@ -27,29 +28,30 @@ class HOSTKIT_EXPORT ContainerTitleBar : public QWidget
 
 public:
     /**
-     * Creates a bar with the text @p title, shown as plain text and elided when it is too long, in
-     * a font of @p titlePixelSize pixels (kept as it is when that is not positive). @p closeToolTip
-     * is the tool tip of the close button; empty for none. @p parent (may be null) owns the bar. A
-     * later setFont() changes the title's font.
+     * Creates a title bar that shows @p title as plain text, elided if it does not fit.
+     *
+     * The font size is @p titlePixelSize pixels, or unchanged if that is not positive; setFont()
+     * changes the font of the title. @p closeToolTip is the tool tip of the close button; if empty,
+     * there is none. @p parent (may be null) owns the title bar.
      */
     ContainerTitleBar(QWidget* parent, const QString& title, const QString& closeToolTip,
                       int titlePixelSize);
     ~ContainerTitleBar() override;
 
-    /** The whole title, also while it is shown elided. */
+    /** Returns the full title, even if it is shown elided. */
     QString title() const;
 
-    /** Replaces the title. */
+    /** Sets the title to @p title. */
     void setTitle(const QString& title);
 
 Q_SIGNALS:
-    /** The user clicked the close button. */
+    /** Emitted when the user clicks the close button. */
     void closeButtonClicked();
 
     /**
-     * The user drags the bar with the left mouse button: the window that holds the bar should have
-     * its top left corner at (@p x, @p y) of the screen, in device-independent pixels, for
-     * QWidget::move().
+     * Emitted while the user drags the title bar with the left mouse button. The window should move
+     * to the screen position (@p x, @p y), in device-independent pixels, with QWidget::move(). Not
+     * emitted if the window is already there.
      */
     void signalMove(int x, int y);
 
@@ -64,7 +66,7 @@ protected:
 private:
     HostKit::TitleBarLabel* m_label = nullptr;
     HostKit::TitleBarButton* m_closeButton = nullptr;
-    // From the pointer to the window's corner, while the user drags.
+    // The window's position relative to the pointer, while the user drags.
     std::optional<QPoint> m_grip;
 };
 

@@ -15,19 +15,20 @@ class DragScroller;
 }
 
 /**
- * A push button for panels that lie in a scroll area: a press that turns into a drag (beyond
- * QApplication::startDragDistance()) scrolls the nearest enclosing QScrollArea that has something
- * to scroll. Such a press ends in released() without clicked(), and auto-repeat stops. Outside a
- * scroll area it is a plain QPushButton.
+ * A push button for use in a scroll area, which scrolls when the user drags the button.
+ *
+ * A drag of at least QApplication::startDragDistance() scrolls the nearest enclosing QScrollArea
+ * whose contents do not fit. When it starts, the button emits released(), but not clicked(), and
+ * stops auto-repeating. Without such a scroll area it behaves like a QPushButton.
  */
 class HOSTKIT_EXPORT DragScrollButton : public QPushButton
 {
     Q_OBJECT
 
 public:
-    /** Creates a button without a text; @p parent (may be null) owns it. */
+    /** Creates a button without text. @p parent (may be null) owns it. */
     explicit DragScrollButton(QWidget* parent = nullptr);
-    /** Creates a button with @p text; @p parent (may be null) owns it. */
+    /** Creates a button with the text @p text. @p parent (may be null) owns it. */
     explicit DragScrollButton(const QString& text, QWidget* parent = nullptr);
     ~DragScrollButton() override;
 

@@ -15,16 +15,18 @@ class DragScroller;
 }
 
 /**
- * A plain container. A drag that starts on it, or on a child that does not use the mouse itself,
- * scrolls the nearest enclosing QScrollArea that has something to scroll. It paints the background
- * and border that a style sheet gives it.
+ * A container for use in a scroll area, which scrolls when the user drags the container.
+ *
+ * A drag that starts on the container, or on a child that ignores mouse events, scrolls the nearest
+ * enclosing QScrollArea whose contents do not fit. The background and border set by a style sheet
+ * are painted.
  */
 class HOSTKIT_EXPORT DragScrollGroupBox : public QWidget
 {
     Q_OBJECT
 
 public:
-    /** Creates an empty container without a layout; @p parent (may be null) owns it. */
+    /** Creates an empty container without a layout. @p parent (may be null) owns it. */
     explicit DragScrollGroupBox(QWidget* parent = nullptr);
     ~DragScrollGroupBox() override;
 

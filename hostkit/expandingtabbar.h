@@ -12,38 +12,42 @@
 #include <QtWidgets/QTabBar>
 
 /**
- * A tab bar whose tabs share its width and can each show a small rectangle of a colour.
+ * A tab bar whose tabs expand to fill its width and can each show a colour rectangle.
  *
- * Three tab texts are characters of the host's icon font and are drawn as pictures: "!" (a ribbon),
- * U+E92A (a blank ribbon) and U+E917 (the supply). tabText() answers the character all the same. A
- * screen reader hears the tab's tool tip in place of such a character.
+ * Three tab texts are characters of the host's icon font and are drawn as images: "!" (ribbon),
+ * U+E92A (blank ribbon) and U+E917 (supply). tabText() still returns the character. The accessible
+ * name of such a tab is its tool tip.
  */
 class HOSTKIT_EXPORT ExpandingTabBar : public QTabBar
 {
     Q_OBJECT
 
 public:
-    /** Creates a bar without tabs; @p parent (may be null) owns it. */
+    /** Creates a tab bar without tabs. @p parent (may be null) owns it. */
     explicit ExpandingTabBar(QWidget* parent = nullptr);
     ~ExpandingTabBar() override;
 
     /**
-     * Shows a rectangle of the colour @p color on tab @p index (zero-based). The text is a colour
-     * code
-     * ("#" and hexadecimal digits) or a colour name that QColor knows; "transparent" shows a
-     * see-through rectangle, "blank" a dashed empty outline, and an empty text takes the rectangle
-     * away. Any other text, and an index without a tab, changes nothing.
+     * Shows a rectangle of the colour @p color on the tab at position @p index (0-based).
      *
-     * The rectangle belongs to its tab and moves with it. It is kept as the tab's data (tabData()).
+     * @p color is "#" followed by hexadecimal digits or a colour name, as QColor accepts them,
+     * "transparent" for a chequered rectangle with a line through it, or "blank" for a dashed
+     * outline. An empty text removes the rectangle. Does nothing if @p color is anything else or
+     * @p index is out of range.
+     *
+     * The rectangle moves with its tab; @p color is stored as the tab's data (tabData()).
      */
     void setTabColorRect(int index, const QString& color);
 
-    /** The text last accepted by setTabColorRect() for tab @p index; empty without one. */
+    /**
+     * Returns the colour text of the tab at position @p index (0-based), as passed to
+     * setTabColorRect(). It is empty if the tab has no rectangle or @p index is out of range.
+     */
     QString tabColorRect(int index) const;
 
     /**
-     * Sets the tool tip of tab @p index, which also names a tab that shows a picture. It is shown
-     * letter for letter, never as markup.
+     * Sets the tool tip of the tab at position @p index (0-based), shown as plain text. It is also
+     * the accessible name of a tab that shows an image. Does nothing if @p index is out of range.
      */
     void setTabToolTip(int index, const QString& toolTip);
 
@@ -62,7 +66,8 @@ private:
     bool isVertical() const;
     void updateAccessibleName(int index);
 
-    // Kept, because Qt caches the picture of every new icon anew: by file, and by contentsKey().
+    // Cached by file name and by contentsKey(), because Qt would cache the pixmaps of every new
+    // QIcon again.
     mutable QHash<QString, QIcon> m_pictures;
     mutable QCache<QString, QIcon> m_contents;
 };

@@ -9,40 +9,40 @@
 #include <QtWidgets/QComboBox>
 
 /**
- * A combo box for touch: rows as high as the style sheet says, long texts elided, and a wheel that
- * passes over it changes nothing unless the box has the focus.
+ * A combo box for touch screens. The height of its items is set by a style sheet, long texts are
+ * elided, and the mouse wheel changes the current item only if the combo box has the focus.
  *
- * Texts are data, never markup: item texts, tool tips of items and the box's own tool tip are shown
- * letter for letter, while toolTip() and the item data keep what was set. An item without a tool
- * tip whose text does not fit shows its text as one.
+ * Item texts, item tool tips and the tool tip of the combo box are shown as plain text, never as
+ * rich text; toolTip() and the item data return what was set. An item without a tool tip shows its
+ * text as the tool tip if it does not fit.
  *
- * The focus policy starts as Qt::StrongFocus, so that the wheel does not give the focus either;
- * with Qt::NoFocus the box is still operated by mouse.
+ * The focus policy is Qt::StrongFocus by default, so that the wheel does not give the combo box the
+ * focus. With Qt::NoFocus it can still be used with the mouse.
  */
 class HOSTKIT_EXPORT JxComboBox : public QComboBox
 {
     Q_OBJECT
 
 public:
-    /** Creates an empty box that is not editable; @p parent (may be null) owns it. */
+    /** Creates an empty combo box that is not editable. @p parent (may be null) owns it. */
     explicit JxComboBox(QWidget* parent = nullptr);
     ~JxComboBox() override;
 
-    /** The item's index, as QComboBox emits it; stays reachable beside the signal with the text. */
+    /** QComboBox::activated(int), which the overload below would hide. */
     using QComboBox::activated;
 
-    /** The size of the contents, but never so wide that one long text would stretch a panel. */
+    /** Returns the size that fits the items, but at most 320 pixels wide. */
     QSize sizeHint() const override;
-    /** See sizeHint(). */
+    /** Returns the minimum size of QComboBox, but at most 120 pixels wide. */
     QSize minimumSizeHint() const override;
 
-    /** Opens the list; the tool tips in it are shown as plain text. */
+    /** Shows the list of items, with their tool tips as plain text. */
     void showPopup() override;
 
 Q_SIGNALS:
     /**
-     * The user picked the item with the text @p text, also when it was the current one. Changes
-     * made by the program do not emit it.
+     * Emitted when the user selects the item with the text @p text, even if it is already the
+     * current item. Not emitted when the current item is changed programmatically.
      */
     void activated(const QString& text);
 

@@ -8,20 +8,20 @@
 
 #include <QtWidgets/QLineEdit>
 
-/** A line edit that also tells when it loses the keyboard focus, whatever its text is worth. */
+/** A line edit that emits a signal whenever it loses the keyboard focus, even with invalid text. */
 class HOSTKIT_EXPORT JxLineEdit : public QLineEdit
 {
     Q_OBJECT
 
 public:
-    /** Creates an empty edit; @p parent (may be null) owns it. */
+    /** Creates an empty line edit. @p parent (may be null) owns it. */
     explicit JxLineEdit(QWidget* parent = nullptr);
     ~JxLineEdit() override;
 
 Q_SIGNALS:
     /**
-     * The edit lost the keyboard focus, for whatever reason. Emitted after editingFinished(), and
-     * also when a validator that is not satisfied keeps editingFinished() back.
+     * Emitted when the line edit loses the keyboard focus for any reason, after editingFinished().
+     * Also emitted if the validator does not accept the text and editingFinished() is not emitted.
      */
     void focusLost();
 

@@ -8,13 +8,13 @@
 
 #include <QtCore/QObject>
 
-/** The modules of the host application. */
+/** Identifies the modules of the host application. */
 class HOSTKIT_EXPORT JxModuleInfo
 {
     Q_GADGET
 
 public:
-    /** The module on whose behalf a panel is shown. The values are part of the host's interface. */
+    /** The module that shows a panel. The values are part of the host's interface. */
     enum JxModuleTypes {
         Unspecified = 0,
         JxLabelEditor = 1,

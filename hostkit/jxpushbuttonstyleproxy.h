@@ -9,11 +9,11 @@
 #include <QtWidgets/QProxyStyle>
 
 /**
- * A style for push buttons of the host's look: no frame inside the button that has the focus, and a
- * text that stays in its place while the button is pressed.
+ * A style for the host's push buttons: it draws no focus frame and does not shift the text of a
+ * pressed button.
  *
- * QWidget::setStyle() does not take a style over: whoever creates the proxy keeps it alive as long
- * as the widget uses it, best by QObject::setParent() with that widget.
+ * QWidget::setStyle() does not take ownership of the style. Keep it alive as long as a widget uses
+ * it, for example by making that widget its parent.
  */
 class HOSTKIT_EXPORT JxPushButtonStyleProxy : public QProxyStyle
 {
@@ -21,15 +21,17 @@ class HOSTKIT_EXPORT JxPushButtonStyleProxy : public QProxyStyle
 
 public:
     /**
-     * Creates a proxy of @p baseStyle, which it takes over; so never give it a style that another
-     * widget uses. With null, or QApplication::style(), it works on a style of its own of the
-     * application's kind.
+     * Creates a style that overrides @p baseStyle and takes ownership of it, so @p baseStyle must
+     * not be used by any widget. If @p baseStyle is null or QApplication::style(), the base style
+     * is a new instance of QProxyStyle's default.
      */
     explicit JxPushButtonStyleProxy(QStyle* baseStyle = nullptr);
     ~JxPushButtonStyleProxy() override;
 
+    /** Draws @p element unless it is PE_FrameFocusRect. */
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget = nullptr) const override;
+    /** Returns 0 for PM_ButtonShiftHorizontal and PM_ButtonShiftVertical. */
     int pixelMetric(PixelMetric metric, const QStyleOption* option = nullptr,
                     const QWidget* widget = nullptr) const override;
 };

@@ -9,16 +9,16 @@
 #include <QtWidgets/QSpinBox>
 
 /**
- * A spin box whose value does not change when the wheel passes over it without the focus; the wheel
- * then scrolls whatever the box lies in. The focus policy starts as Qt::StrongFocus, so that the
- * wheel does not give the focus either.
+ * A spin box that ignores the mouse wheel unless it has the focus, so that the wheel scrolls the
+ * area around it. The focus policy is Qt::StrongFocus by default, so that the wheel does not give
+ * the spin box the focus.
  */
 class HOSTKIT_EXPORT JxSpinBox : public QSpinBox
 {
     Q_OBJECT
 
 public:
-    /** Creates a box with QSpinBox's defaults; @p parent (may be null) owns it. */
+    /** Creates a spin box with the defaults of QSpinBox. @p parent (may be null) owns it. */
     explicit JxSpinBox(QWidget* parent = nullptr);
     ~JxSpinBox() override;
 

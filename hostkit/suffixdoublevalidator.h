@@ -10,26 +10,27 @@
 #include <QtWidgets/QWidget>
 
 /**
- * Validates a decimal number that a suffix such as " in" may follow, the C locale's way whatever
- * the application's locale is:
+ * Validates a decimal number with an optional suffix such as " in". The format is that of the C
+ * locale, whatever the application's locale is:
  *
  *     text   = number [ suffix ]
  *     number = [ "-" ] ( digits [ "." digits ] | "." digits )
  *     digits = ( "0" | ... | "9" ) { "0" | ... | "9" }
  *
- * The minus sign is allowed only when the lower bound is negative, the point only when decimals
- * are. There are no plus sign, exponent, group separators or blanks other than the suffix's own;
- * the suffix counts letter for letter.
+ * A minus sign is allowed only if the lower bound is negative, a decimal point only if decimals
+ * are allowed. Plus signs, exponents, group separators and blanks outside the suffix are not
+ * allowed. The suffix is case-sensitive.
  *
- * Acceptable: such a text whose number lies in the range.
- * Intermediate: what typing on can still make acceptable: nothing at all, a number cut off behind
- * its sign or point, a suffix cut off or without a number, and a number that is too close to zero.
- * Invalid: everything else, also a number that is too far from zero or has too many decimals.
+ * Acceptable: a text of this form whose number is in the range.
+ * Intermediate: a text that further typing may make acceptable: an empty text, a number that ends
+ * after its sign or decimal point, an incomplete suffix, a suffix without a number, or a number
+ * that is too close to zero.
+ * Invalid: any other text, including numbers too far from zero or with too many decimals.
  *
- * A number counts as the double nearest to it, as the bounds do: beyond the largest double it is
- * infinite, closer to zero than the smallest it is zero.
+ * The number is compared with the bounds as the nearest double: a number that is too large for a
+ * double is infinite, and one that is too small is zero.
  *
- * A suffix is expected not to begin with a digit, a point or a minus sign.
+ * The suffix should not begin with a digit, a decimal point or a minus sign.
  */
 class HOSTKIT_EXPORT SuffixDoubleValidator : public QValidator
 {
@@ -37,21 +38,21 @@ class HOSTKIT_EXPORT SuffixDoubleValidator : public QValidator
 
 public:
     /**
-     * Creates a validator for numbers from @p bottom to @p top, both included, with at most
-     * @p decimals digits behind the point (none if negative), and without a suffix. With bounds
-     * that no number satisfies (@p bottom above @p top, or not a number) nothing is acceptable. @p
-     * parent (may be null) owns the validator.
+     * Creates a validator without a suffix for numbers between @p bottom and @p top, inclusive,
+     * with at most @p decimals digits after the decimal point (none if negative). If @p bottom is
+     * greater than @p top, or one of them is NaN, no text is acceptable. @p parent (may be null)
+     * owns the validator.
      */
     SuffixDoubleValidator(double bottom, double top, int decimals, QWidget* parent = nullptr);
     ~SuffixDoubleValidator() override;
 
-    /** The suffix; empty at first. */
+    /** Returns the suffix; empty by default. */
     QString suffix() const;
 
-    /** Replaces the suffix that the text may end with; emits changed() if it is another one. */
+    /** Sets the optional suffix to @p suffix. Emits changed() if it differs. */
     void setSuffix(const QString& suffix);
 
-    /** Judges @p text by the rules above; changes neither @p text nor @p position. */
+    /** Validates @p text as described above. Changes neither @p text nor @p position. */
     State validate(QString& text, int& position) const override;
 
 private:

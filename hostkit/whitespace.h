@@ -8,13 +8,13 @@
 
 #include <QtCore/QString>
 
-/** The host application's rule for texts that hold nothing. */
+/** The host application's test for blank texts. */
 class HOSTKIT_EXPORT WhiteSpace
 {
 public:
     WhiteSpace() = delete;
 
-    /** True if @p text is empty or every character of it is white space (QChar::isSpace()). */
+    /** Returns true if @p text is empty or consists of white space only; see QChar::isSpace(). */
     static bool isWhiteSpace(const QString& text);
 };
 

@@ -15,13 +15,13 @@
 using HostKit::ColorSwatch;
 
 namespace {
-constexpr qsizetype mostEntries = 256;
+constexpr qsizetype maxEntries = 256;
 constexpr int columns = 6;
-constexpr int mostRowsShown = 4;
+constexpr int maxVisibleRows = 4;
 constexpr int gap = 6;
 constexpr int margin = 4;
 
-// Names for palettes that come without any.
+// Returns the name of a colour in a palette without names.
 QString knownName(const QString& code)
 {
     struct Known
@@ -76,7 +76,7 @@ void ColorMenu::setColorPalette(QList<QString> names, QList<QString> codes)
         codes.swap(names);
     const qsizetype count = named ? qMin(names.size(), codes.size()) : codes.size();
     replaceContents();
-    for (qsizetype i = 0; i < count && m_swatches.size() < mostEntries; ++i) {
+    for (qsizetype i = 0; i < count && m_swatches.size() < maxEntries; ++i) {
         const QString& code = codes.at(i);
         if (HostKit::isColorText(code))
             addSwatch(named ? names.at(i) : knownName(code), code);
@@ -139,10 +139,10 @@ void ColorMenu::addSwatch(const QString& name, const QString& code)
     m_swatches.append(swatch);
 }
 
-// Starts with an empty grid. The old swatches are deleted later: a press on a swatch first takes the
-// focus from an edit, whose new value may make the host set a new palette, and Qt then delivers the
-// press. Until then they are hidden children of the menu, so that nothing outlives it, and neither
-// named nor checked, so that nobody takes them for entries.
+// The old swatches are deleted later: a press on a swatch may take the focus from an editor, and
+// the host may respond to the edited value with a new palette before Qt delivers the press. Until
+// then they are hidden children of the menu, so that they do not outlive it, and unnamed and
+// unchecked, so that they are not mistaken for entries.
 void ColorMenu::replaceContents()
 {
     for (ColorSwatch* swatch : std::as_const(m_swatches)) {
@@ -183,10 +183,10 @@ void ColorMenu::arrangeSwatches()
         swatch->setVisible(m_transparentVisible || swatch->code() != HostKit::transparentText());
     }
     const QList<ColorSwatch*> shown = shownSwatches();
-    int place = 0;
+    int index = 0;
     for (ColorSwatch* swatch : shown) {
-        grid->addWidget(swatch, place / columns, place % columns);
-        ++place;
+        grid->addWidget(swatch, index / columns, index % columns);
+        ++index;
     }
     for (int column = 0; column < columns; ++column) {
         grid->setColumnMinimumWidth(column, ColorSwatch::touchSize);
@@ -195,21 +195,21 @@ void ColorMenu::arrangeSwatches()
     updateExtent();
 }
 
-// As high as the rows it shows; a longer palette scrolls in them.
+// Fits the size to the rows that are shown; a longer palette scrolls.
 void ColorMenu::updateExtent()
 {
     const QList<ColorSwatch*> shown = shownSwatches();
     QSize cell(ColorSwatch::touchSize, ColorSwatch::touchSize);
     if (!shown.isEmpty()) {
-        // A host's style sheet for push buttons may add a border.
+        // The host's style sheet for push buttons may add a border.
         shown.first()->ensurePolished();
         cell = cell.expandedTo(shown.first()->minimumSize());
     }
     const int rows = (int(shown.size()) + columns - 1) / columns;
-    const int shownRows = qBound(1, rows, mostRowsShown);
+    const int visibleRows = qBound(1, rows, maxVisibleRows);
     const int barWidth =
-        rows > shownRows ? m_scrollArea->verticalScrollBar()->sizeHint().width() : 0;
-    m_scrollArea->setFixedHeight(shownRows * (cell.height() + gap) - gap + 2 * margin);
+        rows > visibleRows ? m_scrollArea->verticalScrollBar()->sizeHint().width() : 0;
+    m_scrollArea->setFixedHeight(visibleRows * (cell.height() + gap) - gap + 2 * margin);
     m_scrollArea->setMinimumWidth(columns * (cell.width() + gap) - gap + 2 * margin + barWidth);
 }
 
@@ -219,20 +219,20 @@ void ColorMenu::pick(ColorSwatch* swatch)
     m_selectedColor = code;
     for (ColorSwatch* other : std::as_const(m_swatches))
         other->setChecked(other == swatch);
-    // The last thing done here: a slot may delete the menu.
+    // Must come last: a slot may delete the menu.
     Q_EMIT colorSignal(code);
 }
 
 bool ColorMenu::moveFocus(ColorSwatch* from, int key)
 {
-    const int along = isRightToLeft() ? -1 : 1;
+    const int forward = isRightToLeft() ? -1 : 1;
     int step = 0;
     switch (key) {
     case Qt::Key_Left:
-        step = -along;
+        step = -forward;
         break;
     case Qt::Key_Right:
-        step = along;
+        step = forward;
         break;
     case Qt::Key_Up:
         step = -columns;

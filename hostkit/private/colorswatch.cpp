@@ -70,7 +70,7 @@ void ColorSwatch::paintEvent(QPaintEvent*)
     if (!isEnabled())
         painter.setOpacity(0.4);
     const QRectF frame = QRectF(rect()).adjusted(1, 1, -1, -1);
-    // The ring of the checked swatch stands off from the colour, so that it shows on orange too.
+    // A gap between the ring of a checked swatch and its colour, so that it stands out from orange.
     const double inset = isChecked() ? 4 : (isDown() ? 3 : 1.5);
     const QRectF field = frame.adjusted(inset, inset, -inset, -inset);
     if (isChecked()) {
@@ -82,9 +82,9 @@ void ColorSwatch::paintEvent(QPaintEvent*)
     painter.setClipPath(rounded(field, cornerRadius - 1));
     fillWithColorText(&painter, field, m_code);
     painter.restore();
-    const bool lit = underMouse() && isEnabled();
+    const bool hovered = underMouse() && isEnabled();
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(lit ? accent : line, lit ? 2 : 1));
+    painter.setPen(QPen(hovered ? accent : line, hovered ? 2 : 1));
     painter.drawPath(rounded(field, cornerRadius - 1));
     if (isChecked())
         paintCheckMark(&painter, field);

@@ -8,20 +8,23 @@
 
 namespace HostKit {
 
-/** One entry of a ColorMenu: a checkable button that paints its colour. */
+/** An entry of a ColorMenu: a checkable button that paints its colour. */
 class ColorSwatch : public DragScrollButton
 {
     Q_OBJECT
 
 public:
-    /** The side of a swatch, in device-independent pixels. */
+    /** The minimum width and height of a swatch, in device-independent pixels. */
     static constexpr int touchSize = 35;
 
-    /** Creates a swatch of the colour text @p code, called @p name, which may be empty. */
+    /**
+     * Creates a swatch for the colour @p code with @p name, which may be empty, as its tool tip.
+     * @p parent owns it.
+     */
     ColorSwatch(const QString& name, const QString& code, QWidget* parent);
     ~ColorSwatch() override;
 
-    /** The colour text as it was given. */
+    /** Returns the code that was passed to the constructor. */
     QString code() const;
 
     QSize minimumSizeHint() const override;

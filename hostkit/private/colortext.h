@@ -12,22 +12,22 @@ class QRectF;
 
 namespace HostKit {
 
-/** The text that stands for the entry for no colour. */
+/** Returns the text for no colour. */
 QString transparentText();
 
-/** The text that stands for a place without anything in it. */
+/** Returns the text for an empty place, which is shown as an outline. */
 QString blankText();
 
-/** True if QColor takes @p text for a colour, as it does transparentText(). */
+/** Returns true if QColor accepts @p text as a colour, which includes transparentText(). */
 bool isColorText(const QString& text);
 
-/** Black or white, whichever stands out on @p color. */
+/** Returns black or white, whichever contrasts better with @p color. */
 QColor contrastColor(const QColor& color);
 
 /**
- * Fills @p rect with the colour named by @p text: see-through colours on a chequered ground, and
- * transparentText() as that ground with a slash through it. Texts that name no colour paint
- * nothing.
+ * Fills @p rect with the colour @p text. Translucent colours are painted on a chequered background,
+ * transparentText() as that background with a line through it. Paints nothing if @p text is not a
+ * colour.
  */
 void fillWithColorText(QPainter* painter, const QRectF& rect, const QString& text);
 

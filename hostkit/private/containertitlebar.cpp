@@ -98,9 +98,9 @@ void ContainerTitleBar::mouseReleaseEvent(QMouseEvent* event)
 void ContainerTitleBar::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    QLinearGradient ground(0, 0, 0, height());
-    ground.setColorAt(0, QColor(0x5a, 0x59, 0x59));
-    ground.setColorAt(1, QColor(0x06, 0x06, 0x06));
-    painter.fillRect(rect(), ground);
+    QLinearGradient gradient(0, 0, 0, height());
+    gradient.setColorAt(0, QColor(0x5a, 0x59, 0x59));
+    gradient.setColorAt(1, QColor(0x06, 0x06, 0x06));
+    painter.fillRect(rect(), gradient);
     painter.fillRect(QRect(0, height() - 1, width(), 1), QColor(0xfd, 0x78, 0x00));
 }

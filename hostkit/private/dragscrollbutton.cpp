@@ -39,7 +39,7 @@ void DragScrollButton::mouseMoveEvent(QMouseEvent* event)
     }
     event->accept();
     if (guard && !wasDragging && isDown()) {
-        // A button that is no longer down neither repeats nor clicks when the mouse is released.
+        // A button that is not down does not auto-repeat, and does not click on mouse release.
         setDown(false);
         Q_EMIT released();
     }
@@ -47,7 +47,7 @@ void DragScrollButton::mouseMoveEvent(QMouseEvent* event)
 
 void DragScrollButton::mouseReleaseEvent(QMouseEvent* event)
 {
-    // Before the base, whose clicked() may delete the button.
+    // First, because a slot connected to clicked() may delete the button.
     m_scroller->end();
     QPushButton::mouseReleaseEvent(event);
 }

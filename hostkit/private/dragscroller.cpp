@@ -27,7 +27,7 @@ bool DragScroller::press(const QMouseEvent* event)
     m_scrollArea = enclosingScrollArea();
     if (!m_scrollArea)
         return false;
-    // In global coordinates, because the widget moves along with what it scrolls.
+    // In global coordinates, because scrolling moves the widget.
     m_pressPosition = event->globalPosition().toPoint();
     m_pressOffset = QPoint(m_scrollArea->horizontalScrollBar()->value(),
                            m_scrollArea->verticalScrollBar()->value());
@@ -46,7 +46,7 @@ bool DragScroller::move(const QMouseEvent* event)
     m_dragging = true;
     const QPoint offset = m_pressOffset - distance;
     const QPointer<QScrollBar> vertical = m_scrollArea->verticalScrollBar();
-    // Nothing of this object after here.
+    // Scrolling may delete this object, so it must not be used from here on.
     m_scrollArea->horizontalScrollBar()->setValue(offset.x());
     if (vertical)
         vertical->setValue(offset.y());

@@ -14,28 +14,30 @@ class QWidget;
 namespace HostKit {
 
 /**
- * Turns a press and drag on a widget into scrolling of the scroll area around it. The widget
- * forwards its mouse events and asks what they have become.
+ * Scrolls the area around a widget when the user drags the widget, which forwards its mouse events.
  */
 class DragScroller
 {
 public:
-    /** Serves @p widget, which owns the scroller. */
+    /** Creates a scroller for @p widget, which owns it. */
     explicit DragScroller(QWidget* widget);
 
-    /** The left button went down; false if there is nothing around the widget that could scroll. */
+    /**
+     * Handles a mouse press. Returns true if it is with the left button, and the widget is inside a
+     * scroll area whose contents do not fit.
+     */
     bool press(const QMouseEvent* event);
 
     /**
-     * The mouse moved; scrolls and answers true if the press has become a drag. Whoever hears of
-     * the scrolling may delete the widget, and with it the scroller.
+     * Handles a mouse move. Scrolls and returns true if the press has become a drag. A slot that is
+     * called because of the scrolling may delete the widget, and the scroller with it.
      */
     bool move(const QMouseEvent* event);
 
-    /** The press is over, or cannot go on. */
+    /** Ends a press or drag, if there is one. */
     void end();
 
-    /** True from the move that made the press a drag until end(). */
+    /** Returns true while the user drags: from the first move() that returns true until end(). */
     bool isDragging() const;
 
 private:

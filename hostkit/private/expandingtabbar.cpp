@@ -13,11 +13,11 @@
 
 namespace {
 constexpr int spacing = 6;
-// Pixels and characters. Beyond any screen, but near enough for Qt to paint.
-constexpr int longestTab = 2000;
-constexpr int longestText = 1000;
+// In pixels and characters: more than a screen can show, but not too much for Qt to paint.
+constexpr int maxTabLength = 2000;
+constexpr int maxTextLength = 1000;
 
-// The picture for a character of the host's icon font; empty for any other text.
+// Returns the image for a character of the host's icon font; empty for any other text.
 QString pictureFile(const QString& text)
 {
     if (text == QLatin1String("!"))
@@ -53,12 +53,12 @@ ExpandingTabBar::~ExpandingTabBar() = default;
 
 void ExpandingTabBar::setTabColorRect(int index, const QString& color)
 {
-    const bool known =
+    const bool isValid =
         color.isEmpty() || color == HostKit::blankText() || HostKit::isColorText(color);
-    if (!known || index < 0 || index >= count() || tabColorRect(index) == color)
+    if (!isValid || index < 0 || index >= count() || tabColorRect(index) == color)
         return;
     setTabData(index, color.isEmpty() ? QVariant() : QVariant(color));
-    // Setting the text is what makes the bar lay its tabs out anew.
+    // Makes QTabBar lay out its tabs again.
     setTabText(index, tabText(index));
     update();
 }
@@ -96,9 +96,9 @@ void ExpandingTabBar::tabLayoutChange()
 
 QSize ExpandingTabBar::tabSizeHint(int index) const
 {
-    // The base counts the text and the tab's own icon; where the icon became part of the contents
-    // it has been counted twice, which only adds some air.
-    const QSize hint = QTabBar::tabSizeHint(index).boundedTo(QSize(longestTab, longestTab));
+    // Includes the icon of the tab. If the icon is part of the contents too, it is counted twice,
+    // which only adds some space.
+    const QSize hint = QTabBar::tabSizeHint(index).boundedTo(QSize(maxTabLength, maxTabLength));
     const QSize extra = contentsSize(index);
     if (extra.isEmpty())
         return hint;
@@ -111,23 +111,23 @@ QSize ExpandingTabBar::tabSizeHint(int index) const
 void ExpandingTabBar::initStyleOption(QStyleOptionTab* option, int tabIndex) const
 {
     QTabBar::initStyleOption(option, tabIndex);
-    option->text.truncate(longestText);
+    option->text.truncate(maxTextLength);
     const QSize size = contentsSize(tabIndex);
     if (size.isEmpty())
         return;
     option->icon = contentsIcon(tabIndex);
     option->iconSize = size;
     if (!pictureFile(tabText(tabIndex)).isEmpty()) {
-        // Without a text to fill the tab the style would keep the icon at its left end. It centres
-        // an icon in the size it is promised, so promise the whole tab.
+        // Without a text, the style aligns the icon to the left. It centres an icon that is smaller
+        // than the icon size, so use the length of the tab as icon size.
         option->text.clear();
         const int padding = style()->pixelMetric(QStyle::PM_TabBarTabHSpace, option, this);
         const int length = isVertical() ? option->rect.height() : option->rect.width();
         option->iconSize.setWidth(qMax(size.width(), length - padding));
     } else if (elideMode() != Qt::ElideNone) {
-        const QRect room = style()->subElementRect(QStyle::SE_TabBarTabText, option, this);
-        option->text = fontMetrics().elidedText(tabText(tabIndex).left(longestText), elideMode(),
-                                                room.width(), Qt::TextShowMnemonic);
+        const QRect textRect = style()->subElementRect(QStyle::SE_TabBarTabText, option, this);
+        option->text = fontMetrics().elidedText(tabText(tabIndex).left(maxTextLength), elideMode(),
+                                                textRect.width(), Qt::TextShowMnemonic);
     }
 }
 
@@ -151,7 +151,7 @@ QSize ExpandingTabBar::contentsSize(int index) const
     return QSize(width, icon.height());
 }
 
-// Everything that contents() depends on.
+// Identifies the result of contents().
 QString ExpandingTabBar::contentsKey(int index) const
 {
     const QSize size = iconSize();
@@ -168,15 +168,15 @@ QString ExpandingTabBar::contentsKey(int index) const
 QIcon ExpandingTabBar::contentsIcon(int index) const
 {
     const QString key = contentsKey(index);
-    if (const QIcon* known = m_contents.object(key))
-        return *known;
+    if (const QIcon* cached = m_contents.object(key))
+        return *cached;
     const QIcon icon(contents(index));
     m_contents.setMaxCost(qMax(m_contents.maxCost(), qsizetype(count())));
     m_contents.insert(key, new QIcon(icon));
     return icon;
 }
 
-// The picture or the tab's own icon, and the colour rectangle behind it, as one image.
+// Paints the image or the tab's icon, followed by the colour rectangle, into one pixmap.
 QPixmap ExpandingTabBar::contents(int index) const
 {
     QPixmap image(contentsSize(index) * devicePixelRatioF());
@@ -185,7 +185,7 @@ QPixmap ExpandingTabBar::contents(int index) const
     QPainter painter(&image);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     const QString picture = pictureFile(tabText(index));
-    // In front of a text, a little way off the tab's edge.
+    // If a text follows, leave some space at the edge of the tab.
     const bool indented = picture.isEmpty() && !isRightToLeft();
     QRect place(QPoint(indented ? spacing : 0, 0), iconSize());
     const QIcon icon = picture.isEmpty() ? tabIcon(index) : pictureIcon(picture);

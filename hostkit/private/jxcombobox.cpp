@@ -13,13 +13,13 @@
 #include <QtWidgets/QToolTip>
 
 namespace {
-constexpr int widestHint = 320;
-constexpr int widestMinimumHint = 120;
-// More than any box can show; keeps painting quick when a host gives a megabyte of text.
-constexpr qsizetype longestLine = 1000;
+constexpr int maxHintWidth = 320;
+constexpr int maxMinimumHintWidth = 120;
+// More than a combo box can show. Keeps painting fast if the host sets a megabyte of text.
+constexpr qsizetype maxTextLength = 1000;
 
-// A line break in a name must not push half of it out of the box.
-QString oneLine(QString text)
+// A line break in a text must not move a part of it out of the combo box.
+QString singleLine(QString text)
 {
     for (QChar& character : text) {
         if (character.isSpace())
@@ -33,7 +33,7 @@ JxComboBox::JxComboBox(QWidget* parent) : QComboBox(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
     setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    // The delegates that QComboBox chooses itself do not know the row height of a style sheet.
+    // The default delegates of QComboBox ignore the item height set by a style sheet.
     setItemDelegate(new QStyledItemDelegate(this));
     view()->setTextElideMode(Qt::ElideRight);
     QPalette colors = view()->palette();
@@ -49,18 +49,18 @@ JxComboBox::~JxComboBox() = default;
 QSize JxComboBox::sizeHint() const
 {
     const QSize hint = QComboBox::sizeHint();
-    return QSize(qMin(hint.width(), widestHint), hint.height());
+    return QSize(qMin(hint.width(), maxHintWidth), hint.height());
 }
 
 QSize JxComboBox::minimumSizeHint() const
 {
     const QSize hint = QComboBox::minimumSizeHint();
-    return QSize(qMin(hint.width(), widestMinimumHint), hint.height());
+    return QSize(qMin(hint.width(), maxMinimumHintWidth), hint.height());
 }
 
 void JxComboBox::showPopup()
 {
-    // Here and not in the constructor, because setView() may have replaced the list since.
+    // Not in the constructor, because setView() may have replaced the view.
     view()->viewport()->installEventFilter(this);
     QComboBox::showPopup();
 }
@@ -109,14 +109,14 @@ void JxComboBox::paintEvent(QPaintEvent*)
         option.palette.setBrush(QPalette::ButtonText, option.palette.placeholderText());
         option.currentText = placeholderText();
     }
-    int room =
+    int availableWidth =
         style()
             ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this)
             .width();
     if (!option.currentIcon.isNull())
-        room -= option.iconSize.width() + 4;
+        availableWidth -= option.iconSize.width() + 4;
     option.currentText = option.fontMetrics.elidedText(
-        oneLine(option.currentText.left(longestLine)), Qt::ElideRight, room - 2);
+        singleLine(option.currentText.left(maxTextLength)), Qt::ElideRight, availableWidth - 2);
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 

@@ -10,19 +10,19 @@
 
 namespace {
 
-// Qt makes a tool tip as long as its text, breaks only rich text into lines, and cannot paint what
-// is many times as wide as a screen.
-constexpr int longestText = 2000;
-constexpr int longestLine = 120;
+// QToolTip wraps rich text only and does not limit its size, and Qt cannot paint a tool tip that is
+// many times as wide as a screen.
+constexpr int maxTextLength = 2000;
+constexpr int maxLineLength = 120;
 
 } // namespace
 
 QString HostKit::plainToolTip(const QString& text)
 {
-    const bool isEndless = text.size() > longestText;
-    const QString shown = isEndless ? text.left(longestText) + QChar(0x2026) : text;
-    const bool isLong = shown.size() > longestLine && !shown.contains(u'\n');
-    return isLong || isEndless || Qt::mightBeRichText(shown)
+    const bool isTruncated = text.size() > maxTextLength;
+    const QString shown = isTruncated ? text.left(maxTextLength) + QChar(0x2026) : text;
+    const bool isLong = shown.size() > maxLineLength && !shown.contains(u'\n');
+    return isLong || isTruncated || Qt::mightBeRichText(shown)
                ? Qt::convertFromPlainText(shown, Qt::WhiteSpaceNormal)
                : shown;
 }

@@ -13,12 +13,15 @@ class QWidget;
 namespace HostKit {
 
 /**
- * The text to hand to QToolTip so that @p text is shown letter for letter, where QToolTip would
- * take some texts for markup. What nobody would read to its end is broken into lines and cut off.
+ * Returns the text to pass to QToolTip so that it shows @p text as plain text, even if that looks
+ * like rich text. A long line is wrapped, and a very long text truncated.
  */
 QString plainToolTip(const QString& text);
 
-/** Shows @p widget's own tool tip as plain text; what QEvent::ToolTip asks for. */
+/**
+ * Handles the QEvent::ToolTip @p event of @p widget: shows its tool tip as plain text, or ignores
+ * the event if there is none.
+ */
 void showPlainToolTip(QWidget* widget, QHelpEvent* event);
 
 } // namespace HostKit

@@ -19,18 +19,18 @@ qsizetype countDigits(QStringView text)
     return count;
 }
 
-bool belongsToNumber(QChar character)
+bool isNumberCharacter(QChar character)
 {
     return isDigit(character) || character == QLatin1Char('.') || character == QLatin1Char('-');
 }
 
-// Where the number ends and the suffix begins.
+// Returns the length of the number in front of the suffix.
 qsizetype numberLength(QStringView text, const QString& suffix)
 {
     if (!suffix.isEmpty() && text.endsWith(suffix))
         return text.size() - suffix.size();
     qsizetype length = 0;
-    while (length < text.size() && belongsToNumber(text[length]))
+    while (length < text.size() && isNumberCharacter(text[length]))
         ++length;
     return length;
 }
@@ -69,7 +69,7 @@ QValidator::State SuffixDoubleValidator::validate(QString& text, int&) const
     return complete ? number : qMin(number, Intermediate);
 }
 
-// The shape of the number; its size is validateValue()'s.
+// Checks the syntax; validateValue() checks the range.
 QValidator::State SuffixDoubleValidator::validateNumber(QStringView number) const
 {
     QStringView rest = number;
@@ -96,12 +96,12 @@ QValidator::State SuffixDoubleValidator::validateNumber(QStringView number) cons
 
 QValidator::State SuffixDoubleValidator::validateValue(QStringView number) const
 {
-    // The shape is checked. Beyond a double's reach the answer is still the nearest one: an
-    // infinity or zero.
+    // The syntax is valid, so toDouble() can only overflow or underflow. It then returns an
+    // infinity or zero, which are compared like any other value.
     const double value = QLocale::c().toDouble(number);
     if (value >= m_bottom && value <= m_top)
         return Acceptable;
-    // More digits lead away from zero, never towards it.
+    // Typing more digits can only move the number away from zero.
     const bool negative = number.startsWith(QLatin1Char('-'));
     const bool tooCloseToZero = negative ? value > m_top : value < m_bottom;
     return tooCloseToZero ? Intermediate : Invalid;

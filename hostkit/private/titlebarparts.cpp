@@ -9,8 +9,8 @@ namespace HostKit {
 
 namespace {
 
-// More than any bar can show; keeps painting quick when a host gives a megabyte of text.
-constexpr qsizetype longestTitle = 1000;
+// More than a title bar can show. Keeps painting fast if the host sets a megabyte of text.
+constexpr qsizetype maxTitleLength = 1000;
 
 } // namespace
 
@@ -22,7 +22,7 @@ TitleBarLabel::TitleBarLabel(const QString& text, QWidget* parent) : QLabel(text
 
 bool TitleBarLabel::isElided() const
 {
-    return fontMetrics().horizontalAdvance(text().left(longestTitle)) > width();
+    return fontMetrics().horizontalAdvance(text().left(maxTitleLength)) > width();
 }
 
 QSize TitleBarLabel::minimumSizeHint() const
@@ -35,7 +35,7 @@ void TitleBarLabel::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setPen(isEnabled() ? QColor(Qt::white) : QColor(0x84, 0x84, 0x84));
     const QString shown =
-        fontMetrics().elidedText(text().left(longestTitle), Qt::ElideRight, width());
+        fontMetrics().elidedText(text().left(maxTitleLength), Qt::ElideRight, width());
     painter.drawText(rect(), Qt::AlignVCenter | Qt::AlignLeading | Qt::TextSingleLine, shown);
 }
 

@@ -10,7 +10,7 @@
 
 namespace HostKit {
 
-/** The title: white, plain text, elided where it does not fit; text() stays whole. */
+/** The title: white plain text, elided if it does not fit. text() returns the full text. */
 class TitleBarLabel : public QLabel
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ class TitleBarLabel : public QLabel
 public:
     explicit TitleBarLabel(const QString& text, QWidget* parent);
 
-    /** True while the label has too little room for its text. */
+    /** Returns true if the text does not fit. */
     bool isElided() const;
 
     QSize minimumSizeHint() const override;
@@ -27,7 +27,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-/** The close button. It paints itself, so a style sheet for push buttons does not change it. */
+/** The close button. Not a QPushButton, so that style sheets for push buttons do not affect it. */
 class TitleBarButton : public QAbstractButton
 {
     Q_OBJECT
@@ -41,7 +41,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    // Kept, because Qt caches the picture of every new icon anew.
+    // Kept, because Qt would cache the pixmaps of every new QIcon again.
     QIcon m_cross;
     QIcon m_pressedCross;
 };
