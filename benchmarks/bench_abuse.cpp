@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-// The panels under loads that no user has but a faulty host may cause, side by side with the plain
-// Qt widget that one would use instead. Both sides run in turns in one process; the ratio counts,
-// because absolute times say little on a shared machine.
+// Compares the panels with plain Qt widgets under extreme loads, such as a faulty host may cause.
+// Both sides run alternately in one process. Compare the ratios: absolute times depend on what else
+// the machine is doing.
 #include <printpanels-hostkit/containertitlebar.h>
 #include <printpanels-hostkit/jxcombobox.h>
 #include <printpanels/multipageprintwidget.h>
@@ -64,8 +64,8 @@ QStringList printerNames()
     return names;
 }
 
-/** Lays out and paints what changed, as the event loop would. */
-void settle(QWidget& widget)
+/** Delivers posted events and paints @p widget, as the event loop would. */
+void updateAndPaint(QWidget& widget)
 {
     QCoreApplication::sendPostedEvents();
     widget.grab();
@@ -82,11 +82,11 @@ void benchPrinters()
     const Work plain = [&] {
         combo.clear();
         combo.addItems(names);
-        settle(combo);
+        updateAndPaint(combo);
     };
     const auto fill = [&](auto& target) {
         target.updateListOfPrinters(names, 7);
-        settle(target);
+        updateAndPaint(target);
     };
     compare(
         "100,000 printers, PrintWidget", [&] { fill(panel); }, plain);
@@ -116,24 +116,24 @@ void benchTexts()
     const Work plainLabel = [&] {
         label.setText(QString());
         label.setText(text);
-        settle(label);
+        updateAndPaint(label);
     };
     const Work plainCombo = [&] {
         plainBox.clear();
         plainBox.addItem(text);
-        settle(plainBox);
+        updateAndPaint(plainBox);
     };
     const auto item = [&] {
         box.clear();
         box.addItem(text);
-        settle(box);
+        updateAndPaint(box);
     };
     compare(
         "1 MB location",
         [&] {
             panel.updatePrinterLocation(QString());
             panel.updatePrinterLocation(text);
-            settle(panel);
+            updateAndPaint(panel);
         },
         plainLabel);
     compare(
@@ -141,7 +141,7 @@ void benchTexts()
         [&] {
             quick.setCurrentPrinterName(QString());
             quick.setCurrentPrinterName(text);
-            settle(quick);
+            updateAndPaint(quick);
         },
         plainLabel);
     compare(
@@ -149,21 +149,21 @@ void benchTexts()
         [&] {
             title.setTitle(QString());
             title.setTitle(text);
-            settle(title);
+            updateAndPaint(title);
         },
         plainLabel);
     compare("1 MB item", item, plainCombo);
     compare(
-        "paint a 1 MB item again", [&] { settle(box); }, [&] { settle(plainBox); });
+        "paint a 1 MB item again", [&] { updateAndPaint(box); }, [&] { updateAndPaint(plainBox); });
     compare(
         "1 MB printer of PrintWidget",
         [&] {
             panel.updateListOfPrinters({text}, 0);
-            settle(panel);
+            updateAndPaint(panel);
         },
         plainCombo);
     compare(
-        "paint the panel again", [&] { settle(panel); }, [&] { settle(plainBox); });
+        "paint the panel again", [&] { updateAndPaint(panel); }, [&] { updateAndPaint(plainBox); });
     auto* list = panel.findChild<QLineEdit*>(QStringLiteral("recordListEdit"));
     QString records = QStringLiteral("1,").repeated(longText / 2);
     compare(
@@ -171,24 +171,24 @@ void benchTexts()
         [&] {
             list->clear();
             list->setText(records);
-            settle(*list);
+            updateAndPaint(*list);
         },
         [&] {
             edit.clear();
             edit.setText(records);
-            settle(edit);
+            updateAndPaint(edit);
         });
     compare(
         "type behind it",
         [&] {
             list->insert(QStringLiteral("2"));
             list->backspace();
-            settle(*list);
+            updateAndPaint(*list);
         },
         [&] {
             edit.insert(QStringLiteral("2"));
             edit.backspace();
-            settle(edit);
+            updateAndPaint(edit);
         });
 }
 

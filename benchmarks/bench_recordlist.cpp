@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-// Record lists, side by side with what a host would write with QString::split() and
-// QRegularExpression. Both sides run in turns in one process; the median of the rounds is printed,
-// and the ratio, because absolute times say little on a shared machine.
+// Compares RecordList with code that uses QString::split() and QRegularExpression. Both sides run
+// alternately in one process. Prints the medians of the rounds and their ratio: absolute times
+// depend on what else the machine is doing.
 #include <printpanels/recordlist.h>
 
 #include <QtCore/QElapsedTimer>
@@ -88,20 +88,20 @@ double median(std::vector<double> values)
 
 void compare(const char* name, const QString& text, int repeats,
              const std::function<qint64(const QString&)>& ours,
-             const std::function<qint64(const QString&)>& usual)
+             const std::function<qint64(const QString&)>& splitBased)
 {
-    if (ours(text) != usual(text))
+    if (ours(text) != splitBased(text))
         std::printf("%s: the two sides disagree\n", name);
-    std::vector<double> oursTimes;
-    std::vector<double> usualTimes;
+    std::vector<double> ourTimes;
+    std::vector<double> splitTimes;
     for (int round = 0; round < rounds; ++round) {
-        oursTimes.push_back(timeOf(ours, text, repeats));
-        usualTimes.push_back(timeOf(usual, text, repeats));
+        ourTimes.push_back(timeOf(ours, text, repeats));
+        splitTimes.push_back(timeOf(splitBased, text, repeats));
     }
-    const double oursTime = median(oursTimes);
-    const double usualTime = median(usualTimes);
-    std::printf("%-34s %12.0f ns %12.0f ns %8.1fx\n", name, oursTime, usualTime,
-                usualTime / oursTime);
+    const double ourTime = median(ourTimes);
+    const double splitTime = median(splitTimes);
+    std::printf("%-34s %12.0f ns %12.0f ns %8.1fx\n", name, ourTime, splitTime,
+                splitTime / ourTime);
 }
 
 QString manyItems(int items)
@@ -122,12 +122,12 @@ int main()
     const QString typed = QStringLiteral("1,4-5,11-20,33");
     const QString reversed = QStringLiteral("9-1,8-2,7-3,6-4,9-2,8-1,7-2,6-1,5-2,4-1,3-2");
     const QString wide = QStringLiteral("1-9999,1-9999,1-9999");
-    const QString lengthy = manyItems(2000);
+    const QString longList = manyItems(2000);
     compare("classify, a typed list", typed, 20000, classify, splitClassify);
     compare("classify, undecided to the end", reversed, 20000, classify, splitClassify);
-    compare("classify, 2000 items", lengthy, 50, classify, splitClassify);
+    compare("classify, 2000 items", longList, 50, classify, splitClassify);
     compare("expand, a typed list", typed, 20000, expand, splitExpand);
     compare("expand, wide ranges", wide, 500, expand, splitExpand);
-    compare("expand, 2000 items", lengthy, 50, expand, splitExpand);
+    compare("expand, 2000 items", longList, 50, expand, splitExpand);
     return 0;
 }

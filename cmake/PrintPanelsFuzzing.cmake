@@ -1,8 +1,8 @@
 # SPDX-FileCopyrightText: 2026 The PrintPanels developers
 # SPDX-License-Identifier: MIT
 
-# Compiles everything that follows so that coverage guides the fuzzers, and under the sanitizers. Their
-# runtime stands in the fuzzers themselves, so shared libraries are linked with symbols missing.
+# Instruments all targets defined after this for coverage-guided fuzzing and with the sanitizers. The
+# runtime is linked into the fuzzers only, so shared libraries are linked with undefined symbols.
 if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
     message(FATAL_ERROR "PRINTPANELS_FUZZERS needs clang++: cmake --preset fuzz")
 endif()

@@ -1,8 +1,8 @@
 # SPDX-FileCopyrightText: 2026 The PrintPanels developers
 # SPDX-License-Identifier: MIT
 
-# Installs the library, the stand-in kit if it was built, their headers and the CMake package. The
-# component Runtime is what a program needs to run, Devel what it needs to be built.
+# Installs the library, the stand-in kit if it is built, their headers and the CMake package. The
+# component Runtime contains what programs need at run time, Devel what is needed to build them.
 include(CMakePackageConfigHelpers)
 
 set(printpanels_package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/PrintPanels")
@@ -12,7 +12,7 @@ if(TARGET printpanels_hostkit)
 endif()
 
 if(NOT WIN32 AND NOT APPLE)
-    # The two libraries lie side by side and find each other wherever the folder is moved to.
+    # The libraries are installed into one folder and find each other there, even if it is moved.
     set_target_properties(${printpanels_installed_targets} PROPERTIES INSTALL_RPATH "$ORIGIN")
 endif()
 

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The PrintPanels developers
 # SPDX-License-Identifier: MIT
 
-# What the targets of this build share. Nothing here reaches a consumer.
+# Settings of the targets of this build. Warnings and strictness are private: consumers choose their own.
 
 if(MSVC)
     set(printpanels_warnings /W4 /permissive- /utf-8)
@@ -12,9 +12,9 @@ else()
     set(printpanels_warnings_as_errors -Werror)
 endif()
 
-# Language level, hidden symbols and strict warnings.
+# Sets the language level, hides symbols, and enables strict warnings and Qt's strictness macros.
 #   printpanels_configure_target(<target> [WITHOUT_WIDGETS])
-# WITHOUT_WIDGETS is for targets that do not link Qt Widgets: they cannot share the precompiled headers.
+# WITHOUT_WIDGETS is for targets that do not link Qt Widgets: they cannot use the precompiled headers.
 function(printpanels_configure_target target)
     cmake_parse_arguments(PARSE_ARGV 1 arg "WITHOUT_WIDGETS" "" "")
     target_compile_features(${target} PUBLIC cxx_std_17)
@@ -37,8 +37,8 @@ function(printpanels_configure_target target)
     endif()
 endfunction()
 
-# The Qt headers that nearly every source file includes. Building with them takes half the time but
-# hides missing includes, so some builds do without.
+# The most used Qt headers. Precompiling them halves the build time but hides missing includes, so not
+# every preset does.
 if(PRINTPANELS_PCH)
     set(printpanels_pch_source "${CMAKE_BINARY_DIR}/printpanels_pch.cpp")
     file(CONFIGURE OUTPUT "${printpanels_pch_source}" CONTENT "// Carries the precompiled headers.\n")
@@ -65,7 +65,7 @@ if(PRINTPANELS_PCH)
         <QtWidgets/QPushButton>)
 endif()
 
-# One of the libraries that are installed.
+# Configures a library that is installed.
 #   printpanels_configure_library(<target> <name in the package>)
 function(printpanels_configure_library target export_name)
     printpanels_configure_target(${target})
@@ -80,10 +80,10 @@ function(printpanels_configure_library target export_name)
         SOVERSION ${soversion}
         VERSION ${PROJECT_VERSION})
     if(BUILD_SHARED_LIBS AND NOT WIN32 AND NOT APPLE AND NOT PRINTPANELS_FUZZERS)
-        # A missing symbol shows when the library is linked, not when a host loads it.
+        # Report missing symbols when the library is linked, not when a host loads it.
         target_link_options(${target} PRIVATE "LINKER:--no-undefined")
     endif()
-    # The only folder with public headers: a target in the tree sees what an installed consumer sees.
+    # The only folder with public headers, so that targets in the tree see what consumers see.
     target_include_directories(${target} PUBLIC
         "$<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>"
         "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>")
@@ -93,8 +93,8 @@ function(printpanels_configure_library target export_name)
     endif()
 endfunction()
 
-# Public headers are written <printpanels/name.h> by everybody: the library itself, the sample host and
-# a consumer of the installed package. In the build tree that name is a forwarding header.
+# Public headers are included as <printpanels/name.h>, by the library itself and the sample host just as
+# by consumers of the installed package. In the build tree, forwarding headers provide these names.
 #   printpanels_public_headers(<target> <include folder> <header>...)
 function(printpanels_public_headers target folder)
     foreach(header IN LISTS ARGN)
