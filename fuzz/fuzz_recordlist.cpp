@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-// Input: the number of records, a line; then the list.
+// Input: the number of records on the first line, then the list.
 #include <printpanels/recordlist.h>
 
 #include "fuzz/fuzzinput.h"
@@ -11,7 +11,7 @@
 using RecordList::Extent;
 using RecordList::Range;
 
-// What the record lists mean, written down plainly: split, copy, no early end but where it decides.
+// The reference implementation: simple rather than fast.
 namespace {
 
 const QString syntax = QStringLiteral(

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-// Input: lower bound, upper bound, decimals, suffix, a line each; then the text to judge.
+// Input: lower bound, upper bound, decimals and suffix, one per line, then the text to validate.
 #include "fuzz/fuzzinput.h"
 
 #include <suffixdoublevalidator.h>
@@ -21,35 +21,35 @@ struct Rules
     QString suffix;
 };
 
-// The number as a shape first, whole or cut off, then by the value that the C library reads in it.
-QValidator::State expectedOfNumber(const QString& number, const Rules& rules)
+// Checks the syntax with a regular expression, then the range with the value that strtod() returns.
+QValidator::State expectedNumberState(const QString& number, const Rules& rules)
 {
     static const QRegularExpression shape(QStringLiteral("\\A(-?)([0-9]*)(?:(\\.)([0-9]*))?\\z"));
     const QRegularExpressionMatch match = shape.match(number);
     const bool negative = !match.capturedView(1).isEmpty();
-    const bool pointed = !match.capturedView(3).isEmpty();
+    const bool hasPoint = !match.capturedView(3).isEmpty();
     const qsizetype decimals = match.capturedView(4).size();
     if (!match.hasMatch() || (negative && !(rules.bottom < 0)) ||
-        (pointed && rules.decimals <= 0) || decimals > qMax(rules.decimals, 0))
+        (hasPoint && rules.decimals <= 0) || decimals > qMax(rules.decimals, 0))
         return QValidator::Invalid;
     if (match.capturedView(2).isEmpty() && decimals == 0)
         return QValidator::Intermediate;
     const double value = std::strtod(number.toLatin1().constData(), nullptr);
-    const bool cutOff = pointed && decimals == 0;
+    const bool isIncomplete = hasPoint && decimals == 0;
     if (rules.bottom <= value && value <= rules.top)
-        return cutOff ? QValidator::Intermediate : QValidator::Acceptable;
+        return isIncomplete ? QValidator::Intermediate : QValidator::Acceptable;
     const bool canGrow = negative ? value > rules.top : value < rules.bottom;
     return canGrow ? QValidator::Intermediate : QValidator::Invalid;
 }
 
-// Every way to see a number and a beginning of the suffix in the text; the best one counts.
+// Tries every way to divide the text into a number and the start of the suffix; the best counts.
 QValidator::State expectedState(const QString& text, const Rules& rules)
 {
     QValidator::State best = QValidator::Invalid;
     for (qsizetype typed = 0; typed <= qMin(text.size(), rules.suffix.size()); ++typed) {
         if (!text.endsWith(QStringView(rules.suffix).first(typed)))
             continue;
-        QValidator::State state = expectedOfNumber(text.chopped(typed), rules);
+        QValidator::State state = expectedNumberState(text.chopped(typed), rules);
         if (typed != 0 && typed != rules.suffix.size())
             state = qMin(state, QValidator::Intermediate);
         best = qMax(best, state);
@@ -57,38 +57,38 @@ QValidator::State expectedState(const QString& text, const Rules& rules)
     return best;
 }
 
-QValidator::State judge(const SuffixDoubleValidator& validator, const QString& text)
+QValidator::State validate(const SuffixDoubleValidator& validator, const QString& text)
 {
-    QString judged = text;
+    QString copy = text;
     int position = int(text.size() / 2);
-    const QValidator::State state = validator.validate(judged, position);
-    Fuzz::requireEqual(judged, text, "validate() leaves the text alone");
+    const QValidator::State state = validator.validate(copy, position);
+    Fuzz::requireEqual(copy, text, "validate() leaves the text alone");
     Fuzz::require(position == int(text.size() / 2), "validate() leaves the position alone");
     return state;
 }
 
-bool isOfNumber(QChar character)
+bool isNumberCharacter(QChar character)
 {
     return QStringLiteral("0123456789.-").contains(character);
 }
 
-// From the left, a text is typed through its beginnings: none may be refused before it is whole.
+// A text is typed from left to right, so no prefix of a text that is not invalid may be invalid.
 void checkTyping(const SuffixDoubleValidator& validator, const QString& text,
                  QValidator::State state)
 {
     if (state != QValidator::Invalid && !text.isEmpty()) {
-        Fuzz::require(judge(validator, text.chopped(1)) != QValidator::Invalid,
+        Fuzz::require(validate(validator, text.chopped(1)) != QValidator::Invalid,
                       "a text can be typed character by character");
     }
     if (state != QValidator::Invalid)
         return;
     const QString typed = QStringLiteral("0123456789.-") + validator.suffix();
     const QChar next = typed[text.size() % typed.size()];
-    Fuzz::require(judge(validator, text + next) == QValidator::Invalid,
+    Fuzz::require(validate(validator, text + next) == QValidator::Invalid,
                   "typing on does not mend an invalid text");
 }
 
-// The suffix is optional behind a whole number.
+// A complete number may be followed by the suffix or not.
 void checkSuffix(const SuffixDoubleValidator& validator, const QString& text,
                  QValidator::State state)
 {
@@ -96,7 +96,7 @@ void checkSuffix(const SuffixDoubleValidator& validator, const QString& text,
     if (state != QValidator::Acceptable || suffix.isEmpty())
         return;
     const QString other = text.endsWith(suffix) ? text.chopped(suffix.size()) : text + suffix;
-    Fuzz::require(judge(validator, other) == QValidator::Acceptable,
+    Fuzz::require(validate(validator, other) == QValidator::Acceptable,
                   "a number is acceptable with and without its suffix");
 }
 
@@ -115,9 +115,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     SuffixDoubleValidator validator(rules.bottom, rules.top, rules.decimals, nullptr);
     validator.setSuffix(rules.suffix);
     Fuzz::requireEqual(validator.suffix(), rules.suffix, "suffix()");
-    const QValidator::State state = judge(validator, text);
-    // A suffix that looks like a number leaves open where the number ends.
-    if (!rules.suffix.isEmpty() && isOfNumber(rules.suffix.front()))
+    const QValidator::State state = validate(validator, text);
+    // If the suffix begins like a number, it is ambiguous where the number ends.
+    if (!rules.suffix.isEmpty() && isNumberCharacter(rules.suffix.front()))
         return 0;
     Fuzz::require(state == expectedState(text, rules), "validate()");
     checkTyping(validator, text, state);

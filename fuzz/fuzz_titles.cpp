@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-// Input: a character that says what is tried (see LLVMFuzzerTestOneInput), then as many lines as
-// that needs: design width and height, printed width and height of a title; length and width of
-// quick print; or two texts that the user types into its size fields.
+// Input: a character that selects the test (see LLVMFuzzerTestOneInput) on the first line, then its
+// arguments, one per line: design width and height and printed width and height of a title; length
+// and width of the quick print panel; or two texts typed into that panel's size fields.
 #include "fuzz/fuzzinput.h"
 
 #include <printpanels/printpreviewdialog.h>
@@ -26,7 +26,7 @@
 
 namespace {
 
-/** The widgets, made once: an input only changes their texts. */
+/** The widgets under test, created only once: an input just changes their texts. */
 struct Widgets
 {
     PrintPreviewDialog dialog{
@@ -36,27 +36,27 @@ struct Widgets
     ContainerTitleBar* titleBar = dialog.findChild<ContainerTitleBar*>();
     QLineEdit* lengthEdit = panel.findChild<QLineEdit*>(QStringLiteral("lengthEdit"));
     QLineEdit* widthEdit = panel.findChild<QLineEdit*>(QStringLiteral("widthEdit"));
-    QSizeF asked;
+    QSizeF requestedSize;
 
     Widgets()
     {
         QObject::connect(&panel, &QuickPrintWidget::resizeSignal, &panel,
-                         [this](const QSizeF& size) { asked = size; });
+                         [this](const QSizeF& size) { requestedSize = size; });
     }
 };
 
 Widgets* widgets = nullptr;
 
-// Qt warns of scripts that the installed fonts cannot shape, and must not warn of anything else.
-void refuseWarnings(QtMsgType type, const QMessageLogContext&, const QString& message)
+// Allows only the warnings of Qt about scripts that the installed fonts do not support.
+void failOnWarning(QtMsgType type, const QMessageLogContext&, const QString& message)
 {
-    const bool ofFonts = message.contains(QStringLiteral("OpenType support missing"));
-    if (type != QtDebugMsg && type != QtInfoMsg && !ofFonts)
+    const bool isFontWarning = message.contains(QStringLiteral("OpenType support missing"));
+    if (type != QtDebugMsg && type != QtInfoMsg && !isFontWarning)
         Fuzz::requireEqual(message, QString(), "Qt has nothing to warn of");
 }
 
-// Whether two decimals, or none, fall exactly between two texts.
-bool isHalf(double number, int decimals)
+// Returns true if number is exactly halfway between two numbers with that many decimals, 0 or 2.
+bool isHalfway(double number, int decimals)
 {
     return std::abs(std::fmod(number * (decimals == 0 ? 2 : 8), 2)) == 1;
 }
@@ -68,11 +68,11 @@ std::string expectedNumber(double number, int decimals)
     if (std::isinf(number))
         return number < 0 ? "-inf" : "inf";
     if (number == 0)
-        number = 0; // without its sign
-    // The longest: a sign, 309 digits, a point, two decimals.
+        number = 0; // removes the sign
+    // Enough for a sign, 309 digits, a decimal point and two decimals.
     std::array<char, 320> text;
-    // By itself the C library rounds halves to even digits; sizes round them away from zero.
-    if (isHalf(number, decimals))
+    // snprintf() rounds halves to even, the widgets round them away from zero.
+    if (isHalfway(number, decimals))
         std::fesetround(number < 0 ? FE_DOWNWARD : FE_UPWARD);
     std::snprintf(text.data(), text.size(), "%.*f", decimals, number);
     std::fesetround(FE_TONEAREST);
@@ -102,8 +102,8 @@ bool isSame(double one, double other)
 void checkSignal(const QSizeF& size)
 {
     widgets->panel.resizeSlot();
-    Fuzz::require(isSame(widgets->asked.width(), size.width()) &&
-                      isSame(widgets->asked.height(), size.height()),
+    Fuzz::require(isSame(widgets->requestedSize.width(), size.width()) &&
+                      isSame(widgets->requestedSize.height(), size.height()),
                   "resizeSignal() carries getCanvasSize()");
 }
 
@@ -120,8 +120,8 @@ void checkCanvasSize(const QSizeF& size)
     checkSignal(read);
 }
 
-// A typed text by the C library's reading, of what Qt takes for a number: a decimal one, or one of
-// two words in any case.
+// Returns the value of a typed text according to strtod() if it is in a format that Qt accepts: a
+// decimal number, or "inf" or "nan" in any case. Otherwise returns -1.
 double expectedLength(const QString& typed)
 {
     const std::string text = typed.trimmed().toLower().toStdString();
@@ -150,7 +150,7 @@ void checkTyped(const QString& length, const QString& width)
 
 } // namespace
 
-// The font library keeps what it found for a character that the first font lacks.
+// fontconfig keeps what it finds for characters that are missing in the first font.
 extern "C" const char* __lsan_default_suppressions()
 {
     return "leak:libfontconfig.so\n";
@@ -161,9 +161,9 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     static QApplication app(*argc, *argv);
     std::setlocale(LC_NUMERIC, "C");
-    qInstallMessageHandler(refuseWarnings);
-    static Widgets made;
-    widgets = &made;
+    qInstallMessageHandler(failOnWarning);
+    static Widgets instance;
+    widgets = &instance;
     return 0;
 }
 

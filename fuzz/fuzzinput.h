@@ -11,29 +11,30 @@
 #include <string_view>
 
 /**
- * What a fuzzer's bytes mean. Inputs are lines, so that a corpus can be read and written by hand:
- * numbers and texts, a line each, the last text up to the end of the input.
+ * Reads the inputs of fuzzers. An input consists of lines, so that a corpus can be read and written
+ * by hand: one number or text per line, where the last text extends to the end of the input.
  */
 namespace Fuzz {
 
-/** Reads an input from its beginning to its end; answers empty and zero where it is too short. */
+/** Reads an input from start to end. At the end of the input, returns empty texts and zeros. */
 class Input
 {
 public:
+    /** Reads @p size bytes at @p data, which must outlive the object. */
     Input(const std::uint8_t* data, std::size_t size);
 
-    /** One byte, which takes no line end with it. */
+    /** Reads one byte, but no line end after it. */
     char character();
-    /** A line as a decimal number, clamped to an int. */
+    /** Reads a line as a decimal number, clamped to the range of int. */
     int integer();
     /**
-     * A line as a number in any notation of C, "nan", "inf" and hexadecimal ones included, or as
-     * "#" and up to 16 hexadecimal digits, the bits of the number.
+     * Reads a line as a number in any notation that strtod() accepts, including "nan", "inf" and
+     * hexadecimal, or as "#" followed by the bits of the double in up to 16 hexadecimal digits.
      */
     double real();
-    /** A line as text; see textOf(). */
+    /** Reads a line as text; see textOf(). */
     QString text();
-    /** All that is left, line ends included, as text. */
+    /** Reads the rest of the input as text, including line ends. */
     QString rest();
 
 private:
@@ -43,15 +44,16 @@ private:
 };
 
 /**
- * ASCII stands for itself. Any other byte makes the two bytes behind it a UTF-16 unit, the low one
- * first, so that lone surrogates and all else that is no Unicode text can appear.
+ * Decodes a text. ASCII characters stand for themselves. Any other byte is followed by a UTF-16
+ * code unit of two bytes, low byte first, so that texts can contain lone surrogates and other
+ * invalid UTF-16; without two bytes after it, it stands for itself.
  */
 QString textOf(std::string_view bytes);
 
-/** Ends the process with @p what and both texts when they differ. */
+/** Prints @p what and both texts and aborts the process if the texts differ. */
 void requireEqual(const QString& actual, const QString& expected, const char* what);
 
-/** Ends the process with @p what unless @p holds. */
+/** Prints @p what and aborts the process unless @p holds is true. */
 void require(bool holds, const char* what);
 
 } // namespace Fuzz
