@@ -12,27 +12,29 @@ class QLayoutItem;
 class QWidget;
 
 /**
- * What a layout item is, in one line: "separator" for a horizontal line, "spacer 15x7
- * Minimum/Minimum" (size and policies, horizontal first), the class of a layout, or the class of a
- * widget followed by its object name, if it has one. A null item is "nothing".
+ * Returns a one-line description of a layout item: "separator" for a horizontal line, "spacer 15x7
+ * Minimum/Minimum" for a spacer (size hint and size policies, horizontal first), the class name of
+ * a layout, or the class name of a widget followed by its object name, if any. For null, returns
+ * "nothing".
  */
 QString itemDescription(QLayoutItem* item);
 
-/** itemDescription() of every item of @p layout, in order. */
+/** Returns itemDescription() for every item of @p layout, in order; empty if @p layout is null. */
 QStringList layoutDescription(const QLayout* layout);
 
-/** Place of @p widget among the items of @p layout itself, or -1. Layouts inside count as one item.
+/**
+ * Returns the 0-based index of @p widget among the items of @p layout, or -1. A nested layout
+ * counts as one item and is not searched.
  */
 int indexOfWidget(const QLayout* layout, const QWidget* widget);
 
-/** Whether @p item is @p widget, or a layout that holds it at any depth. */
+/** Returns true if @p item is @p widget, or a layout that contains it at any depth. */
 bool itemHolds(QLayoutItem* item, const QWidget* widget);
 
-/** The innermost layout below @p layout, itself included, that holds @p widget directly; or null.
- */
+/** Returns the layout that contains @p widget directly: @p layout or one inside it; or null. */
 QLayout* layoutHolding(QLayout* layout, const QWidget* widget);
 
-/** Where an item of a grid stands. */
+/** The position of an item in a grid layout, 0-based. */
 struct GridCell
 {
     int row = -1;
@@ -41,7 +43,7 @@ struct GridCell
     int columnSpan = -1;
 };
 
-/** The cell of the item at @p index of @p grid. */
+/** Returns the cell of the item at @p index (0-based) of @p grid. */
 GridCell gridCell(const QGridLayout* grid, int index);
 
 #endif

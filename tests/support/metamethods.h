@@ -9,12 +9,13 @@
 struct QMetaObject;
 
 /**
- * The methods that @p metaObject's class declares itself, in meta-object order, one line each:
+ * Returns the methods that the class of @p metaObject declares itself, in meta-object order, one
+ * line each:
  *
  *     signal public void changed(int newValue, QString)
  *
- * that is kind (signal, slot, method, constructor), access, result, name, and the parameters' types
- * with their names, if they have any.
+ * that is: kind (signal, slot, method or constructor), access, return type, name, and the types and
+ * names, if any, of the parameters.
  */
 QStringList ownMethods(const QMetaObject& metaObject);
 

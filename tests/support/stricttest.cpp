@@ -7,8 +7,8 @@
 
 void StrictTest::init()
 {
-    // The offscreen platform says this of every window with a size limit, and of popups and
-    // tool tips; it is not about us.
+    // Warnings of the offscreen platform plugin about windows with a size limit, popups and tool
+    // tips.
     QTest::failOnWarning(QRegularExpression(
         QStringLiteral("^(?!This plugin does not support "
                        "(propagateSizeHints\\(\\)|raise\\(\\)|grabbing the (keyboard|mouse))$)")));

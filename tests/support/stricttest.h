@@ -8,16 +8,17 @@
 #include <QtTest/QTest>
 
 /**
- * Base of every test class: any Qt warning that a test function does not announce with
- * QTest::ignoreMessage() fails that function, so a string-based connection to a signal that does
- * not exist cannot slip through. A class with an init() of its own calls StrictTest::init() first.
+ * Base class of every test. Any warning that is not expected with QTest::ignoreMessage() fails the
+ * test function; in particular, the warning about a string-based connection to a signal that does
+ * not exist. A subclass with an init() of its own must call StrictTest::init() first.
  */
 class StrictTest : public QObject
 {
     Q_OBJECT
 
 protected Q_SLOTS:
-    // Not a test function: QTest runs private slots only, but finds init() whatever its access.
+    // Not private, because Qt Test runs private slots as tests. It calls init() whatever its
+    // access.
     void init();
 };
 

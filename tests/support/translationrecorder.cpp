@@ -18,11 +18,11 @@ TranslationRecorder::~TranslationRecorder()
 QString TranslationRecorder::marked(const QString& context, const QString& text,
                                     const QString& comment)
 {
-    // One argument list, so that a place marker inside the text stays one.
-    QString answer = QStringLiteral("\u00ab") + context + QLatin1Char('|') + text;
+    // Not with QString::arg(), which would replace place markers in the text.
+    QString result = QStringLiteral("\u00ab") + context + QLatin1Char('|') + text;
     if (!comment.isEmpty())
-        answer += QLatin1Char('|') + comment;
-    return answer + QStringLiteral("\u00bb");
+        result += QLatin1Char('|') + comment;
+    return result + QStringLiteral("\u00bb");
 }
 
 QString TranslationRecorder::translate(const char* context, const char* text, const char* comment,

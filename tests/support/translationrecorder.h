@@ -8,7 +8,7 @@
 #include <QtCore/QString>
 #include <QtCore/QTranslator>
 
-/** One look-up of a text: the three parts of its translation key. */
+/** The key under which a translation is looked up. */
 struct TranslationKey
 {
     QString context;
@@ -22,21 +22,22 @@ struct TranslationKey
 };
 
 /**
- * A translator that answers every text of one context with marked(), so that a text which a widget
- * shows tells its own translation key, and that keeps the keys in the order in which they were
- * asked for. Installed while it lives.
+ * A translator that returns marked() for every text of one context, so that a text shown by a
+ * widget contains its own translation key. It also records the keys that are looked up.
+ *
+ * The constructor installs the translator, the destructor removes it.
  */
 class TranslationRecorder : public QTranslator
 {
 public:
-    /** Answers texts of @p context only, so that Qt's own texts stay as they are. */
+    /** Creates a translator for @p context only, so that Qt's own texts are not changed. */
     explicit TranslationRecorder(const QString& context);
     ~TranslationRecorder() override;
 
-    /** The answer to a look-up: "«context|text|comment»", or "«context|text»" without a comment. */
+    /** Returns "«context|text|comment»", or "«context|text»" if @p comment is empty. */
     static QString marked(const QString& context, const QString& text, const QString& comment);
 
-    /** The keys asked for so far, oldest first. */
+    /** Returns the keys looked up so far, oldest first. */
     QList<TranslationKey> keys() const { return m_keys; }
 
     QString translate(const char* context, const char* text, const char* comment,

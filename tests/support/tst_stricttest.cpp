@@ -4,8 +4,8 @@
 #include "support/stricttest.h"
 
 /**
- * Fails on purpose: the base class has to turn a connection to a signal that does not exist into a
- * failure. What CTest expects of this program is that failure.
+ * Fails on purpose: StrictTest must turn a connection to a signal that does not exist into a
+ * failure. CTest expects this failure.
  */
 class tst_StrictTest : public StrictTest
 {
