@@ -9,8 +9,8 @@
 #include <QtWidgets/QComboBox>
 
 /**
- * A combo box for touch screens. The height of its items is set by a style sheet, long texts are
- * elided, and the mouse wheel changes the current item only if the combo box has the focus.
+ * A combo box for touch screens. The height of its items can be set by a style sheet, long texts
+ * are elided, and the mouse wheel changes the current item only if the combo box has the focus.
  *
  * Item texts, item tool tips and the tool tip of the combo box are shown as plain text, never as
  * rich text; toolTip() and the item data return what was set. An item without a tool tip shows its
