@@ -1,21 +1,21 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-// Shows every widget of the stand-in kit, to be looked at: hostkit_gallery [--screenshot FILE.png]
+// Shows every widget of the stand-in kit, to be looked at: kitgallery_example [--screenshot
+// FILE.png]
 
-#include "foundation/stylesheets.h"
-
-#include <applicationfont.h>
-#include <colormenu.h>
-#include <containertitlebar.h>
-#include <dragscrollbutton.h>
-#include <dragscrollgroupbox.h>
-#include <expandingtabbar.h>
-#include <jxcombobox.h>
-#include <jxlineedit.h>
-#include <jxpushbuttonstyleproxy.h>
-#include <jxspinbox.h>
-#include <suffixdoublevalidator.h>
+#include <printpanels-hostkit/applicationfont.h>
+#include <printpanels-hostkit/colormenu.h>
+#include <printpanels-hostkit/containertitlebar.h>
+#include <printpanels-hostkit/dragscrollbutton.h>
+#include <printpanels-hostkit/dragscrollgroupbox.h>
+#include <printpanels-hostkit/expandingtabbar.h>
+#include <printpanels-hostkit/jxcombobox.h>
+#include <printpanels-hostkit/jxlineedit.h>
+#include <printpanels-hostkit/jxpushbuttonstyleproxy.h>
+#include <printpanels-hostkit/jxspinbox.h>
+#include <printpanels-hostkit/suffixdoublevalidator.h>
+#include <printpanels/printwidget.h>
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QTimer>
@@ -36,6 +36,13 @@ const QList<QString> ribbonCodes = {
     QStringLiteral("#f28000"), QStringLiteral("#fedb00"), QStringLiteral("#248d4f"),
     QStringLiteral("#0018a8"), QStringLiteral("#00FFFF"), QStringLiteral("#473333"),
     QStringLiteral("#41b6e6"), QStringLiteral("#7238ab"), QStringLiteral("transparent")};
+
+// The kit is dressed by the panels, so the gallery borrows what a panel gives one of its buttons.
+QString sheetOf(const char* button)
+{
+    const PrintWidget panel(false, nullptr);
+    return panel.findChild<QPushButton*>(QLatin1String(button))->styleSheet();
+}
 
 ColorMenu* createMenu(const QList<QString>& codes, const QString& selected)
 {
@@ -117,8 +124,8 @@ QWidget* createStepRow()
     box->setButtonSymbols(QAbstractSpinBox::NoButtons);
     auto* minus = new DragScrollButton(row);
     auto* plus = new DragScrollButton(row);
-    minus->setStyleSheet(StyleSheets::minusStepButton());
-    plus->setStyleSheet(StyleSheets::plusStepButton());
+    minus->setStyleSheet(sheetOf("minusButton"));
+    plus->setStyleSheet(sheetOf("plusButton"));
     QObject::connect(minus, &QPushButton::clicked, box, &QSpinBox::stepDown);
     QObject::connect(plus, &QPushButton::clicked, box, &QSpinBox::stepUp);
     for (DragScrollButton* button : {minus, plus}) {
@@ -144,7 +151,7 @@ QWidget* createButtons()
     auto* disabled = new DragScrollButton(QStringLiteral("Disabled"));
     disabled->setEnabled(false);
     for (DragScrollButton* button : {preview, disabled}) {
-        button->setStyleSheet(StyleSheets::tallPushButton());
+        button->setStyleSheet(sheetOf("PrintButton"));
         layout->addWidget(button);
     }
     return row;
@@ -200,7 +207,6 @@ QWidget* createGallery()
         if (!widget->testAttribute(Qt::WA_SetFont))
             widget->setFont(ApplicationFont::getWidgetFont(true));
     }
-    contents->setStyleSheet(StyleSheets::printSettingsPanel());
     return contents;
 }
 } // namespace
@@ -228,7 +234,7 @@ int main(int argc, char** argv)
     auto* area = new QScrollArea;
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
-    area->setStyleSheet(StyleSheets::panel());
+    area->setStyleSheet(PrintWidget(false, nullptr).styleSheet());
     area->setWidget(createGallery());
     auto* layout = new QVBoxLayout(&window);
     layout->setContentsMargins(0, 0, 0, 0);
