@@ -16,11 +16,14 @@ if(NOT WIN32 AND NOT APPLE)
     set_target_properties(${printpanels_installed_targets} PROPERTIES INSTALL_RPATH "$ORIGIN")
 endif()
 
-install(TARGETS ${printpanels_installed_targets}
+# A static library's images are linked as objects.
+get_property(printpanels_installed_objects GLOBAL PROPERTY PRINTPANELS_INSTALLED_OBJECTS)
+install(TARGETS ${printpanels_installed_targets} ${printpanels_installed_objects}
     EXPORT PrintPanelsTargets
     RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT Runtime
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT Runtime NAMELINK_COMPONENT Devel
-    ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT Devel)
+    ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT Devel
+    OBJECTS DESTINATION "${CMAKE_INSTALL_LIBDIR}/printpanels" COMPONENT Devel)
 install(EXPORT PrintPanelsTargets
     NAMESPACE PrintPanels::
     DESTINATION "${printpanels_package_dir}"

@@ -93,6 +93,20 @@ function(printpanels_configure_library target export_name)
     endif()
 endfunction()
 
+# Gives a library the images of an object library, which registers them when it is loaded.
+#   printpanels_link_images(<target> <object library>)
+# Nothing refers to that object. A linker leaves such an object of a static library out, so a program
+# that is linked to a static library is linked to the object itself.
+function(printpanels_link_images target images)
+    if(BUILD_SHARED_LIBS)
+        target_sources(${target} PRIVATE $<TARGET_OBJECTS:${images}>)
+    else()
+        # By the name that the object library has in the package, once it is installed.
+        target_link_libraries(${target} INTERFACE $<TARGET_OBJECTS:$<TARGET_NAME:${images}>>)
+        set_property(GLOBAL APPEND PROPERTY PRINTPANELS_INSTALLED_OBJECTS ${images})
+    endif()
+endfunction()
+
 # Public headers are included as <printpanels/name.h>, by the library itself and the sample host just as
 # by consumers of the installed package. In the build tree, forwarding headers provide these names.
 #   printpanels_public_headers(<target> <include folder> <header>...)
