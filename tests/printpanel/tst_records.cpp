@@ -47,21 +47,6 @@ void uncheckAll(const PrintWidget& panel)
     recordsGroup(panel)->setExclusive(true);
 }
 
-/** Hears of every call that goes through the virtual table. */
-class WatchedPanel : public PrintWidget
-{
-public:
-    WatchedPanel() : PrintWidget(false, nullptr) {}
-
-    void setNupDynamicLength(bool on) override
-    {
-        calls.append(on);
-        PrintWidget::setNupDynamicLength(on);
-    }
-
-    QList<bool> calls;
-};
-
 } // namespace
 
 class tst_Records : public StrictTest

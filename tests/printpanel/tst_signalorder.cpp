@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include "supplyprobe.h"
+#include "support/stricttest.h"
+
+#include <colormenu.h>
+#include <printpanels/printwidget.h>
+
+#include <QtWidgets/QComboBox>
+
+/** The panel shows what the user chose before it tells the host. */
+class tst_SignalOrder : public StrictTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void tabShowsTheColorWhenTheHostHearsOfIt_data();
+    void tabShowsTheColorWhenTheHostHearsOfIt();
+    void comboToolTipNamesThePrinterWhenTheHostHearsOfIt_data();
+    void comboToolTipNamesThePrinterWhenTheHostHearsOfIt();
+};
+
+void tst_SignalOrder::tabShowsTheColorWhenTheHostHearsOfIt_data()
+{
+    QTest::addColumn<QStringList>("loaded");
+    QTest::addColumn<QByteArray>("menu");
+    QTest::addColumn<QString>("color");
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QString>("expected");
+    const auto row = [](const char* name, std::initializer_list<const char*> loaded,
+                        const char* menu, const char* color, int index, const QString& expected) {
+        QTest::newRow(name) << colors(loaded) << QByteArray(menu) << QString::fromLatin1(color)
+                            << index << expected;
+    };
+    // From blank to a colour and back, so that text, rectangle and tool tip all change.
+    row("ribbon 1, a colour", {"#fffffe", "#000000", "#ffffff"}, "ribbon1Menu", "#dc0b0b", 0,
+        tabOf(ribbonGlyph, "#dc0b0b", "Ribbon1"));
+    row("ribbon 1, transparent", {"#dc0b0b", "#000000", "#ffffff"}, "ribbon1Menu", "transparent", 0,
+        tabOf(blankGlyph, "blank", "Blank Ribbon1"));
+    row("ribbon 2, a colour", {"#000000", "#fffffe", "#ffffff"}, "ribbon2Menu", "#dc0b0b", 1,
+        tabOf(ribbonGlyph, "#dc0b0b", "Ribbon2"));
+    row("ribbon 2, transparent", {"#000000", "#dc0b0b", "#ffffff"}, "ribbon2Menu", "transparent", 1,
+        tabOf(blankGlyph, "blank", "Blank Ribbon2"));
+    row("supply, a colour", {"#000000", "#000000", "#ffffff"}, "supplyMenu", "#fedb00", 2,
+        tabOf(supplyGlyph, "#fedb00", "Supply"));
+    row("supply, transparent", {"#000000", "#000000", "#ffffff"}, "supplyMenu", "transparent", 2,
+        tabOf(supplyGlyph, "transparent", "Supply"));
+    row("supply beside one ribbon", {"#000000", "#ffffff"}, "supplyMenu", "#fedb00", 1,
+        tabOf(supplyGlyph, "#fedb00", "Supply"));
+}
+
+void tst_SignalOrder::tabShowsTheColorWhenTheHostHearsOfIt()
+{
+    QFETCH(const QStringList, loaded);
+    QFETCH(const QByteArray, menu);
+    QFETCH(const QString, color);
+    QFETCH(const int, index);
+    QFETCH(const QString, expected);
+    PrintWidget panel(false, nullptr);
+    panel.showSupplyInfo(loaded, loaded.size() == 3, 4.0, 0, false);
+    QVERIFY(tab(panel, index) != expected);
+    QStringList seen;
+    connect(&panel, &PrintWidgetInterface::supplyColorsChangedSignal, this,
+            [&] { seen.append(tab(panel, index)); });
+    Q_EMIT colorMenu(panel, menu.constData())->colorSignal(color);
+    QCOMPARE(seen, QStringList(expected));
+}
+
+void tst_SignalOrder::comboToolTipNamesThePrinterWhenTheHostHearsOfIt_data()
+{
+    QTest::addColumn<bool>("bySlot");
+    QTest::newRow("the user moves on") << false;
+    QTest::newRow("the slot is called") << true;
+}
+
+void tst_SignalOrder::comboToolTipNamesThePrinterWhenTheHostHearsOfIt()
+{
+    QFETCH(const bool, bySlot);
+    PrintWidget panel(false, nullptr);
+    panel.updateListOfPrinters({QStringLiteral("Alpha"), QStringLiteral("Beta")}, 0);
+    QVERIFY(showPanel(panel));
+    auto* combo = part<QComboBox>(panel, "PrinterListCombo");
+    QStringList seen;
+    connect(&panel, &PrintWidgetInterface::currentPrinterSelectionChanged, this,
+            [&](const QString& name) {
+                seen = QStringList{name, combo->toolTip()};
+            });
+    if (bySlot) {
+        QVERIFY(
+            QMetaObject::invokeMethod(&panel, "currentPrinterSelectionChangedSlot", Q_ARG(int, 1)));
+    } else {
+        QTest::keyClick(combo, Qt::Key_Down);
+    }
+    QCOMPARE(seen, QStringList({QStringLiteral("Beta"), QStringLiteral("Beta")}));
+}
+
+QTEST_MAIN(tst_SignalOrder)
+#include "tst_signalorder.moc"
