@@ -44,7 +44,6 @@ private Q_SLOTS:
     void userBackgroundFollowsTheUser();
 
     void everyShowEmitsTheShowSignalOnce();
-    void showSignalComesAfterTheBaseHandling();
     void aHiddenChildPanelEmitsWhenItsHostIsShown();
     void hostOperationsEmitNothing();
 };
@@ -270,16 +269,6 @@ void tst_PrintWidget::everyShowEmitsTheShowSignalOnce()
         panel.hide();
         QCOMPARE(shown.size(), show);
     }
-}
-
-void tst_PrintWidget::showSignalComesAfterTheBaseHandling()
-{
-    PrintWidget panel(false, nullptr);
-    bool visibleThen = false;
-    connect(&panel, &PrintWidgetInterface::printWidgetShowSignal, this,
-            [&] { visibleThen = panel.isVisible(); });
-    panel.show();
-    QVERIFY(visibleThen);
 }
 
 void tst_PrintWidget::aHiddenChildPanelEmitsWhenItsHostIsShown()
