@@ -12,12 +12,35 @@ function(run)
     endif()
 endfunction()
 
-# Configures and builds a project with the compiler of the build under test.
-function(build_project source build)
+# Configures a project with the compiler of the build under test.
+function(configure_project source build)
     run("${CMAKE_COMMAND}" -S "${source}" -B "${build}" -G "${GENERATOR}"
         "-DCMAKE_CXX_COMPILER=${CXX_COMPILER}" "-DCMAKE_CXX_FLAGS=${CXX_FLAGS}"
         -DCMAKE_BUILD_TYPE=Debug ${ARGN})
+endfunction()
+
+# Configures and builds a project.
+function(build_project source build)
+    configure_project("${source}" "${build}" ${ARGN})
     run("${CMAKE_COMMAND}" --build "${build}")
+endfunction()
+
+# Lists what is below a folder, links included, as paths relative to it.
+function(list_files folder result)
+    file(GLOB_RECURSE files LIST_DIRECTORIES false RELATIVE "${folder}" "${folder}/*")
+    list(SORT files)
+    set(${result} "${files}" PARENT_SCOPE)
+endfunction()
+
+# Stops the test when two lists differ, in whatever order they are.
+function(compare_lists what actual expected)
+    list(SORT actual)
+    list(SORT expected)
+    if(NOT actual STREQUAL expected)
+        string(REPLACE ";" "\n  " actual "${actual}")
+        string(REPLACE ";" "\n  " expected "${expected}")
+        message(FATAL_ERROR "${what}:\n  ${actual}\nexpected:\n  ${expected}")
+    endif()
 endfunction()
 
 # Writes the README's C++ example to a file, so that what is printed there is what is compiled.
