@@ -4,10 +4,10 @@
 #include "foundation/panelparts.h"
 
 #include "foundation/stylesheets.h"
+#include "foundation/widgets/stoprepeatonhide.h"
 
 #include <printpanels/recordlist.h>
 
-#include <QtCore/QEvent>
 #include <QtCore/QSize>
 #include <QtCore/QString>
 #include <QtGui/QRegularExpressionValidator>
@@ -22,26 +22,6 @@ namespace {
 
 constexpr QSize squareButton(35, 35);
 constexpr int listEditHeight = 36;
-
-/**
- * Ends the repetition of a button that is hidden while it is held. Its release never comes then,
- * and only in the active window does it lose the focus, which would end it, too.
- */
-class RepeatEnd : public QObject
-{
-public:
-    explicit RepeatEnd(QAbstractButton* button) : QObject(button)
-    {
-        button->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() == QEvent::Hide)
-            static_cast<QAbstractButton*>(watched)->setDown(false);
-        return false;
-    }
-};
 
 } // namespace
 
@@ -65,7 +45,7 @@ void setUpPrinterSettingsButton(QPushButton* button)
 
 void setUpStepButton(QPushButton* button, const QString& styleSheet)
 {
-    new RepeatEnd(button);
+    new StopRepeatOnHide(button);
     button->setStyleSheet(styleSheet);
     button->setFixedSize(squareButton);
     button->setAutoRepeat(true);
