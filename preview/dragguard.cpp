@@ -5,7 +5,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>
-#include <QtCore/QTimer>
+#include <QtCore/QMetaObject>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QWidget>
@@ -53,10 +53,11 @@ void DragGuard::releasedElsewhere(bool arrived)
         abandon();
         return;
     }
-    QTimer::singleShot(0, this, [this] {
+    const auto abandonIfReleased = [this] {
         if (QGuiApplication::mouseButtons() == Qt::NoButton)
             abandon();
-    });
+    };
+    QMetaObject::invokeMethod(this, abandonIfReleased, Qt::QueuedConnection);
 }
 
 bool DragGuard::eventFilter(QObject* watched, QEvent* event)
