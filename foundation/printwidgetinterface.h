@@ -21,13 +21,8 @@ class QFrame;
  * with signals only: it never prints. Operations that a panel does not offer do nothing and answer
  * 0, false or an empty string, so a host may call any operation on any panel.
  *
- * A handler of a panel's signal may delete the panel, or a parent of it, at once: the controls of
- * this library's panels outlive their own signal, hidden, until control is back in the event loop.
- * It has to use deleteLater() where Qt itself goes on with the panel or its window: in a handler of
- * printWidgetShowSignal(); while the host hides, closes or disables the panel or its window; when
- * the window loses the keyboard to another one; for the window, when the user clicks with the right
- * button or an open list takes the key or click; and where the handler runs
- * QCoreApplication::processEvents(), in which the panel is then deleted.
+ * To delete a panel, or a parent of it, in a handler of one of the panel's signals, use
+ * deleteLater(). A panel of this library emits nothing while it is destroyed.
  */
 class PRINTPANELS_EXPORT PrintWidgetInterface : public QWidget
 {
@@ -115,14 +110,10 @@ Q_SIGNALS:
     void openModuleSignal();
     /**
      * The panel, or its copies field, lost the keyboard focus. The focus may leave because another
-     * window gets it, or because the host hides the panel: a handler that deletes the panel's
-     * window uses deleteLater().
+     * window gets it, or because the host hides the panel.
      */
     void focusLost();
-    /**
-     * The panel was shown; emitted after each show event. Qt is not done with the panel then: a
-     * handler that deletes it or a parent of it uses deleteLater().
-     */
+    /** The panel was shown; emitted after each show event. */
     void printWidgetShowSignal();
     /** The user corrected the width of the loaded supply, in the unit that is shown. */
     void supplyWidthChangedSignal(double width);

@@ -3,7 +3,6 @@
 
 #include <printpanels/multipageprintdialog.h>
 
-#include "foundation/controlrefuge.h"
 #include "foundation/hostkit.h"
 #include "foundation/panelparts.h"
 #include "foundation/stylesheets.h"
@@ -47,17 +46,14 @@ MultiPagePrintDialog::MultiPagePrintDialog(QWidget* settingsPanel, QWidget* pare
 
     connect(titleBar, SIGNAL(closeButtonClicked()), this, SLOT(close()));
     connect(titleBar, SIGNAL(signalMove(int, int)), this, SLOT(mouseMoveSlot(int, int)));
-    ownControls = PrintPanels::controlsOf(this);
-    ownControls.removeAll(panel);
 }
 
-// The settings panel is not among the controls, because it sees to its own, but it loses the focus
-// before its own end comes.
+// The settings panel loses the focus before its own end comes.
 MultiPagePrintDialog::~MultiPagePrintDialog()
 {
+    blockSignals(true);
     if (panel && isAncestorOf(panel))
         panel->blockSignals(true);
-    PrintPanels::leaveSilently(this, sender(), ownControls);
 }
 
 QFrame* MultiPagePrintDialog::createPreviewFrame()

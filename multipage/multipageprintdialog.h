@@ -6,7 +6,6 @@
 
 #include <printpanels/printpanels_export.h>
 
-#include <QtCore/QList>
 #include <QtCore/QPointer>
 #include <QtGui/QImage>
 #include <QtWidgets/QDialog>
@@ -24,9 +23,8 @@ class PreviewView;
  *
  * It knows nothing of printing. The host creates the panel, listens to the panel's signals and
  * pushes page images. The dialog has a fixed size of 1010 x 540 pixels and starts hidden. Closing
- * only hides it, so that its owner may show it again; the owner deletes it, if need be at once in a
- * handler of the panel's signals or of accepted(), rejected() and finished(), also while the dialog
- * executes; PrintWidgetInterface tells the exceptions.
+ * only hides it, so that its owner may show it again. To delete it in a handler of one of its
+ * signals or of the panel's, use deleteLater(), also while it executes.
  */
 class PRINTPANELS_EXPORT MultiPagePrintDialog : public QDialog
 {
@@ -61,8 +59,6 @@ private:
 
     ContainerTitleBar* titleBar = nullptr;
     QPointer<QWidget> panel;
-    // What outlives the dialog when it is deleted in a handler of its own signals.
-    QList<QPointer<QWidget>> ownControls;
     PrintPanels::PreviewView* preview = nullptr;
     QImage placeholder;
 };

@@ -5,7 +5,6 @@
 
 #include <printpanels/multipageprintwidget.h>
 
-#include "foundation/controlrefuge.h"
 #include "foundation/hostkit.h"
 #include "foundation/stylesheets.h"
 
@@ -29,12 +28,11 @@ MultiPagePrintWidget::MultiPagePrintWidget(bool fitToPage, bool withInterfaceFla
     setStyleSheet(StyleSheets::panel());
     setFixedWidth(panelWidth);
     createWidgetLayout(fitToPage);
-    ownControls = PrintPanels::controlsOf(this);
 }
 
 MultiPagePrintWidget::~MultiPagePrintWidget()
 {
-    PrintPanels::leaveSilently(this, sender(), ownControls);
+    blockSignals(true);
 }
 
 // Each step adds its section below the one before.

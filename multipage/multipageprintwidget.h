@@ -7,9 +7,6 @@
 #include <printpanels/printpanels_export.h>
 #include <printpanels/printwidgetinterface.h>
 
-#include <QtCore/QList>
-#include <QtCore/QPointer>
-
 class QBoxLayout;
 class QButtonGroup;
 class QCheckBox;
@@ -33,8 +30,8 @@ class JxLineEdit;
  * The panel is 270 pixels wide. Whoever places it in a layout owns it; the panel owns all it shows.
  * The Print button starts disabled. Pages are 1-based, but for updateCurrentRangeIndex().
  *
- * A handler of its signals may delete the panel at once, also of those that an operation emits;
- * PrintWidgetInterface tells the exceptions.
+ * To delete the panel in a handler of one of its signals, use deleteLater(), also when an operation
+ * of the host's emits it.
  */
 class PRINTPANELS_EXPORT MultiPagePrintWidget : public PrintWidgetInterface
 {
@@ -148,10 +145,9 @@ public Q_SLOTS:
     void increaseCopyCount();
 
 protected:
-    /** Emits focusLost() after the base class has handled the event; see there for deletion. */
+    /** Emits focusLost() after the base class has handled the event. */
     void focusOutEvent(QFocusEvent* event) override;
-    /** Emits printWidgetShowSignal() after the base class has handled the event; see there for
-     * deletion. */
+    /** Emits printWidgetShowSignal() after the base class has handled the event. */
     void showEvent(QShowEvent* event) override;
 
 private:
@@ -161,8 +157,6 @@ private:
     void addSpacer();
     // Kept for the interface, read by nobody.
     [[maybe_unused]] const bool interfaceFlag;
-    // What outlives the panel when it is deleted in a handler of its own signals.
-    QList<QPointer<QWidget>> ownControls;
     QVBoxLayout* mainLayout = nullptr;
 
     // ---- Pages (multipageprintwidget_pages.cpp) ----

@@ -3,7 +3,6 @@
 
 #include <printpanels/printpreviewdialog.h>
 
-#include "foundation/controlrefuge.h"
 #include "foundation/hostkit.h"
 #include "foundation/panelparts.h"
 #include "foundation/stylesheets.h"
@@ -118,12 +117,11 @@ PrintPreviewDialog::PrintPreviewDialog(QWidget* parent, Qt::WindowFlags flags, c
     preview = new PreviewView(image, viewSize);
     createLayout(createButtonRow(buttons));
     connectControls(buttons);
-    ownControls = PrintPanels::controlsOf(this);
 }
 
 PrintPreviewDialog::~PrintPreviewDialog()
 {
-    PrintPanels::leaveSilently(this, sender(), ownControls);
+    blockSignals(true);
 }
 
 void PrintPreviewDialog::createTitleBar()

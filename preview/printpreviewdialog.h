@@ -6,8 +6,6 @@
 
 #include <printpanels/printpanels_export.h>
 
-#include <QtCore/QList>
-#include <QtCore/QPointer>
 #include <QtCore/QString>
 #include <QtWidgets/QWidget>
 
@@ -31,8 +29,7 @@ class PreviewView;
  * like any QWidget; it owns all it shows. Its size is fixed at 860 x 500 pixels. Sizes are numbers
  * in the unit that @e metric names: millimetres if true, inches if false.
  *
- * A handler of its signals may delete it, or a parent of it, at once; PrintWidgetInterface tells
- * the exceptions.
+ * To delete it, or a parent of it, in a handler of one of its signals, use deleteLater().
  */
 class PRINTPANELS_EXPORT PrintPreviewDialog : public QWidget
 {
@@ -111,8 +108,6 @@ private:
     void createLayout(QBoxLayout* buttonRow);
     void connectControls(const Buttons& buttons);
 
-    // What outlives the popup when it is deleted in a handler of its own signals.
-    QList<QPointer<QWidget>> ownControls;
     PrintPanels::PreviewView* preview = nullptr;
     ContainerTitleBar* titleBar = nullptr;
     QPushButton* portraitButton = nullptr;

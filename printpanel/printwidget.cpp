@@ -5,7 +5,6 @@
 
 #include <printpanels/printwidget.h>
 
-#include "foundation/controlrefuge.h"
 #include "foundation/hostkit.h"
 #include "foundation/stylesheets.h"
 
@@ -25,12 +24,11 @@ PrintWidget::PrintWidget(bool withPrintToFile, QWidget* parent)
     setObjectName(QStringLiteral("PrintWidget"));
     setStyleSheet(StyleSheets::printSettingsPanel());
     createWidgetLayout();
-    ownControls = PrintPanels::controlsOf(this);
 }
 
 PrintWidget::~PrintWidget()
 {
-    PrintPanels::leaveSilently(this, sender(), ownControls);
+    blockSignals(true);
 }
 
 // Each step adds its section below the one before.

@@ -7,9 +7,6 @@
 #include <printpanels/printpanels_export.h>
 #include <printpanels/printwidgetinterface.h>
 
-#include <QtCore/QList>
-#include <QtCore/QPointer>
-
 #include <optional>
 #include <utility>
 
@@ -191,7 +188,6 @@ private:
     void createUserBackgroundCheck();
     void createBottomSeparator();
     const bool printToFile;
-    QList<QPointer<QWidget>> ownControls; // outlive a panel that its own signal's handler deletes
     QVBoxLayout* mainLayout = nullptr;
     QCheckBox* userBackgroundCheck = nullptr;
     QFrame* bottomSeparator = nullptr;

@@ -45,10 +45,6 @@ void PrintWidget::createAmmoniaLayout()
     ammoniaPrintCombo->setFont(ApplicationFont::getWidgetFont(true));
     ammoniaPrintCombo->setMinimumHeight(rowHeight);
 
-    // A connection that stays, so that the panel knows its sender also after a handler has taken
-    // the choice away.
-    connect(ammoniaPrintCombo, &QObject::destroyed, this, [] {});
-
     auto* grid = new QGridLayout;
     grid->setContentsMargins(0, 0, 0, 0);
     grid->addWidget(caption, 0, 0, 1, 1, Qt::AlignLeft);

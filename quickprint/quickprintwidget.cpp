@@ -3,7 +3,6 @@
 
 #include <printpanels/quickprintwidget.h>
 
-#include "foundation/controlrefuge.h"
 #include "foundation/hostkit.h"
 #include "foundation/panelparts.h"
 #include "foundation/stylesheets.h"
@@ -90,12 +89,11 @@ QuickPrintWidget::QuickPrintWidget(bool quickPrint, QWidget* parent)
     setObjectName(QStringLiteral("QuickPrintWidget"));
     setStyleSheet(StyleSheets::panel());
     createWidgetLayout();
-    ownControls = PrintPanels::controlsOf(this);
 }
 
 QuickPrintWidget::~QuickPrintWidget()
 {
-    PrintPanels::leaveSilently(this, sender(), ownControls);
+    blockSignals(true);
 }
 
 void QuickPrintWidget::createWidgetLayout()

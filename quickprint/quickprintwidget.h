@@ -7,8 +7,6 @@
 #include <printpanels/printpanels_export.h>
 #include <printpanels/printwidgetinterface.h>
 
-#include <QtCore/QList>
-#include <QtCore/QPointer>
 #include <QtCore/QSizeF>
 
 class QFrame;
@@ -91,8 +89,6 @@ private:
     QFrame* createCopyCountLayout();
     QLayout* createButtonsLayout();
 
-    // What outlives the panel when it is deleted in a handler of its own signals.
-    QList<QPointer<QWidget>> ownControls;
     QGridLayout* mainLayout = nullptr;
     QLabel* printerNameLabel = nullptr;
     QFrame* resizeFrame = nullptr;

@@ -114,8 +114,18 @@ void runPanelThatDiesInAHandler()
     QWidget* panel = newPrintPanel();
     panel->show();
     QCoreApplication::processEvents();
+    QObject::connect(static_cast<PrintWidget*>(panel), &PrintWidget::widgetPrintSignal, panel,
+                     [panel] { delete panel; });
+    click(*panel, "PrintButton");
+}
+
+void runPanelThatIsDeletedLater()
+{
+    QWidget* panel = newPrintPanel();
+    panel->show();
+    QCoreApplication::processEvents();
     QObject::connect(static_cast<PrintWidget*>(panel), &PrintWidget::currentPrinterSelectionChanged,
-                     panel, [panel] { delete panel; });
+                     panel, &QObject::deleteLater);
     part<QComboBox>(*panel, "PrinterListCombo")->setCurrentIndex(1);
 }
 
@@ -154,6 +164,7 @@ QList<PanelCycle> panelCycles()
             {"multi-page dialog", runMultiPageDialog},
             {"preview popup", runPreviewPopup},
             {"panel deleted in a handler", runPanelThatDiesInAHandler},
+            {"panel deleted later", runPanelThatIsDeletedLater},
             {"host kit", runKit}};
 }
 

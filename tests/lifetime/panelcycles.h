@@ -15,7 +15,7 @@ struct PanelCycle
     void (*run)();
 };
 
-/** One for each panel, one where the panel dies in a handler of its own signal, one for the kit. */
+/** One for each panel, two where the panel is deleted in a handler, one for the kit. */
 QList<PanelCycle> panelCycles();
 
 /** Runs @p cycle this often, with all that was to be deleted later deleted after each. */

@@ -6,6 +6,12 @@
 #include "support/stricttest.h"
 #include "useractions.h"
 
+#include <printpanels/multipageprintwidget.h>
+#include <printpanels/printpreviewdialog.h>
+#include <printpanels/printwidget.h>
+#include <printpanels/quickprintwidget.h>
+
+#include <QtCore/QMetaMethod>
 #include <QtCore/QPointer>
 
 #include <memory>
@@ -14,13 +20,17 @@ Q_DECLARE_METATYPE(UserAction)
 using HostAct = void (*)(QWidget&);
 Q_DECLARE_METATYPE(HostAct)
 
-/** Hosts that delete a panel, or the window around it, in a handler of the panel's own signals. */
+/**
+ * Hosts that delete a panel, or the window around it, in a handler of the panel's own signals: at
+ * once where a button was clicked, later everywhere.
+ */
 class tst_DeletedInHandler : public StrictTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void cleanup();
+    void everySignalHasARow();
     void panelDeletedAtOnce_data();
     void panelDeletedAtOnce();
     void panelInAWindowDeletedAtOnce_data();
@@ -29,107 +39,31 @@ private Q_SLOTS:
     void windowDeletedAtOnce();
     void panelDeletedSoon_data();
     void panelDeletedSoon();
-    void deletedSoonWhileTheHostActs_data();
-    void deletedSoonWhileTheHostActs();
+    void panelInAWindowDeletedSoon_data();
+    void panelInAWindowDeletedSoon();
+    void windowDeletedSoon_data();
+    void windowDeletedSoon();
+    void panelDeletedSoonWhileTheHostActs_data();
+    void panelDeletedSoonWhileTheHostActs();
+    void windowDeletedSoonWhileTheHostActs_data();
+    void windowDeletedSoonWhileTheHostActs();
 };
 
 namespace {
 
-constexpr bool everyAction = true;
-constexpr bool inItsWindowOnly = false;
+enum class Rows { Clicks, All };
 
-void addRows(bool every)
+void addRows(Rows rows)
 {
     QTest::addColumn<UserAction>("action");
     const QList<UserAction> actions = userActions();
     for (const UserAction& action : actions) {
-        if (every || !action.leavesWindow)
+        if (rows == Rows::All || action.clicksAButton)
             QTest::newRow(action.name) << action;
     }
 }
 
-} // namespace
-
-void tst_DeletedInHandler::cleanup()
-{
-    deleteWidgetsLeft();
-}
-
-void tst_DeletedInHandler::panelDeletedAtOnce_data()
-{
-    addRows(inItsWindowOnly);
-}
-
-void tst_DeletedInHandler::panelDeletedAtOnce()
-{
-    QFETCH(const UserAction, action);
-    Executioner host;
-    host.victim = action.create();
-    QVERIFY(showActive(*host.victim));
-    QVERIFY(connect(host.victim, action.signal, &host, SLOT(deleteNow())));
-    action.act(host.victim);
-    QVERIFY(host.victim.isNull());
-    QCOMPARE(host.calls, 1);
-    QCOMPARE(widgetsLeft(), QStringList());
-}
-
-void tst_DeletedInHandler::panelInAWindowDeletedAtOnce_data()
-{
-    addRows(everyAction);
-}
-
-void tst_DeletedInHandler::panelInAWindowDeletedAtOnce()
-{
-    QFETCH(const UserAction, action);
-    Executioner host;
-    host.victim = action.create();
-    const std::unique_ptr<QWidget> window(newWindowAround(host.victim));
-    QVERIFY(showActive(*window));
-    QVERIFY(connect(host.victim, action.signal, &host, SLOT(deleteNow())));
-    action.act(host.victim);
-    QVERIFY(host.victim.isNull());
-    QCOMPARE(host.calls, 1);
-    QCOMPARE(widgetsLeft().size(), 2); // the window and what is in it
-}
-
-void tst_DeletedInHandler::windowDeletedAtOnce_data()
-{
-    addRows(inItsWindowOnly);
-}
-
-void tst_DeletedInHandler::windowDeletedAtOnce()
-{
-    QFETCH(const UserAction, action);
-    Executioner host;
-    const QPointer<QWidget> panel(action.create());
-    host.victim = newWindowAround(panel);
-    QVERIFY(showActive(*host.victim));
-    QVERIFY(connect(panel, action.signal, &host, SLOT(deleteNow())));
-    action.act(panel);
-    QVERIFY(host.victim.isNull());
-    QCOMPARE(host.calls, 1);
-    QCOMPARE(widgetsLeft(), QStringList());
-}
-
-void tst_DeletedInHandler::panelDeletedSoon_data()
-{
-    addRows(everyAction);
-}
-
-void tst_DeletedInHandler::panelDeletedSoon()
-{
-    QFETCH(const UserAction, action);
-    Executioner host;
-    host.victim = action.create();
-    QVERIFY(showActive(*host.victim));
-    QVERIFY(connect(host.victim, action.signal, &host, SLOT(deleteSoon())));
-    action.act(host.victim);
-    QTRY_VERIFY(host.victim.isNull());
-    QVERIFY(host.calls > 0);
-    QCOMPARE(widgetsLeft(), QStringList());
-}
-
-void tst_DeletedInHandler::deletedSoonWhileTheHostActs_data()
+void addHostRows()
 {
     QTest::addColumn<HostAct>("act");
     QTest::addColumn<QByteArray>("signal");
@@ -144,8 +78,159 @@ void tst_DeletedInHandler::deletedSoonWhileTheHostActs_data()
     QTest::newRow("closes") << HostAct([](QWidget& panel) { panel.close(); }) << left;
 }
 
-// Where Qt itself goes on with the panel, so that a host must not delete it at once.
-void tst_DeletedInHandler::deletedSoonWhileTheHostActs()
+/** The signals that @p meta declares and inherits from the panels' interface, as SIGNAL() texts. */
+QByteArrayList signalsOf(const QMetaObject& meta)
+{
+    QByteArrayList texts;
+    for (int i = QWidget::staticMetaObject.methodCount(); i < meta.methodCount(); ++i) {
+        if (meta.method(i).methodType() == QMetaMethod::Signal)
+            texts.append('2' + meta.method(i).methodSignature());
+    }
+    return texts;
+}
+
+} // namespace
+
+void tst_DeletedInHandler::cleanup()
+{
+    deleteWidgetsLeft();
+}
+
+void tst_DeletedInHandler::everySignalHasARow()
+{
+    // Only what the host does shows a panel.
+    QByteArrayList known = {QMetaObject::normalizedSignature(SIGNAL(printWidgetShowSignal()))};
+    const QList<UserAction> actions = userActions();
+    for (const UserAction& action : actions)
+        known.append(QMetaObject::normalizedSignature(action.signal));
+    for (const QMetaObject* meta :
+         {&PrintWidget::staticMetaObject, &QuickPrintWidget::staticMetaObject,
+          &MultiPagePrintWidget::staticMetaObject, &PrintPreviewDialog::staticMetaObject}) {
+        const QByteArrayList texts = signalsOf(*meta);
+        QVERIFY(!texts.isEmpty());
+        for (const QByteArray& text : texts)
+            QVERIFY2(known.contains(text), text.constData());
+    }
+}
+
+void tst_DeletedInHandler::panelDeletedAtOnce_data()
+{
+    addRows(Rows::Clicks);
+}
+
+void tst_DeletedInHandler::panelDeletedAtOnce()
+{
+    QFETCH(const UserAction, action);
+    Executioner host;
+    host.victim = action.create();
+    QVERIFY(showActive(*host.victim));
+    QVERIFY(connect(emitterOf(action, *host.victim), action.signal, &host, SLOT(deleteNow())));
+    action.act(host.victim);
+    QVERIFY(host.victim.isNull());
+    QCOMPARE(host.calls, 1);
+    QCOMPARE(widgetsLeft(), QStringList());
+}
+
+void tst_DeletedInHandler::panelInAWindowDeletedAtOnce_data()
+{
+    addRows(Rows::Clicks);
+}
+
+void tst_DeletedInHandler::panelInAWindowDeletedAtOnce()
+{
+    QFETCH(const UserAction, action);
+    Executioner host;
+    host.victim = action.create();
+    const std::unique_ptr<QWidget> window(newWindowAround(host.victim));
+    QVERIFY(showActive(*window));
+    QVERIFY(connect(emitterOf(action, *host.victim), action.signal, &host, SLOT(deleteNow())));
+    action.act(host.victim);
+    QVERIFY(host.victim.isNull());
+    QCOMPARE(host.calls, 1);
+    QCOMPARE(widgetsLeft().size(), 2); // the window and what is in it
+}
+
+void tst_DeletedInHandler::windowDeletedAtOnce_data()
+{
+    addRows(Rows::Clicks);
+}
+
+void tst_DeletedInHandler::windowDeletedAtOnce()
+{
+    QFETCH(const UserAction, action);
+    Executioner host;
+    const QPointer<QWidget> panel(action.create());
+    host.victim = newWindowAround(panel);
+    QVERIFY(showActive(*host.victim));
+    QVERIFY(connect(emitterOf(action, *panel), action.signal, &host, SLOT(deleteNow())));
+    action.act(panel);
+    QVERIFY(host.victim.isNull());
+    QCOMPARE(host.calls, 1);
+    QCOMPARE(widgetsLeft(), QStringList());
+}
+
+void tst_DeletedInHandler::panelDeletedSoon_data()
+{
+    addRows(Rows::All);
+}
+
+void tst_DeletedInHandler::panelDeletedSoon()
+{
+    QFETCH(const UserAction, action);
+    Executioner host;
+    host.victim = action.create();
+    QVERIFY(showActive(*host.victim));
+    QVERIFY(connect(emitterOf(action, *host.victim), action.signal, &host, SLOT(deleteSoon())));
+    action.act(host.victim);
+    QTRY_VERIFY(host.victim.isNull());
+    QVERIFY(host.calls > 0);
+    QCOMPARE(widgetsLeft(), QStringList());
+}
+
+void tst_DeletedInHandler::panelInAWindowDeletedSoon_data()
+{
+    addRows(Rows::All);
+}
+
+void tst_DeletedInHandler::panelInAWindowDeletedSoon()
+{
+    QFETCH(const UserAction, action);
+    Executioner host;
+    host.victim = action.create();
+    const std::unique_ptr<QWidget> window(newWindowAround(host.victim));
+    QVERIFY(showActive(*window));
+    QVERIFY(connect(emitterOf(action, *host.victim), action.signal, &host, SLOT(deleteSoon())));
+    action.act(host.victim);
+    QTRY_VERIFY(host.victim.isNull());
+    QVERIFY(host.calls > 0);
+    QCOMPARE(widgetsLeft().size(), 2); // the window and what is in it
+}
+
+void tst_DeletedInHandler::windowDeletedSoon_data()
+{
+    addRows(Rows::All);
+}
+
+void tst_DeletedInHandler::windowDeletedSoon()
+{
+    QFETCH(const UserAction, action);
+    Executioner host;
+    const QPointer<QWidget> panel(action.create());
+    host.victim = newWindowAround(panel);
+    QVERIFY(showActive(*host.victim));
+    QVERIFY(connect(emitterOf(action, *panel), action.signal, &host, SLOT(deleteSoon())));
+    action.act(panel);
+    QTRY_VERIFY(host.victim.isNull());
+    QVERIFY(host.calls > 0);
+    QCOMPARE(widgetsLeft(), QStringList());
+}
+
+void tst_DeletedInHandler::panelDeletedSoonWhileTheHostActs_data()
+{
+    addHostRows();
+}
+
+void tst_DeletedInHandler::panelDeletedSoonWhileTheHostActs()
 {
     QFETCH(const HostAct, act);
     QFETCH(const QByteArray, signal);
@@ -154,6 +239,28 @@ void tst_DeletedInHandler::deletedSoonWhileTheHostActs()
     QVERIFY(showActive(*host.victim));
     part<QWidget>(*host.victim, "copiesEdit")->setFocus();
     QVERIFY(connect(host.victim, signal, &host, SLOT(deleteSoon())));
+    act(*host.victim);
+    QVERIFY(host.calls > 0);
+    QVERIFY(host.victim);
+    QTRY_VERIFY(host.victim.isNull());
+    QCOMPARE(widgetsLeft(), QStringList());
+}
+
+void tst_DeletedInHandler::windowDeletedSoonWhileTheHostActs_data()
+{
+    addHostRows();
+}
+
+void tst_DeletedInHandler::windowDeletedSoonWhileTheHostActs()
+{
+    QFETCH(const HostAct, act);
+    QFETCH(const QByteArray, signal);
+    Executioner host;
+    QWidget* const panel = newMultiPagePanel();
+    host.victim = newWindowAround(panel);
+    QVERIFY(showActive(*host.victim));
+    part<QWidget>(*panel, "copiesEdit")->setFocus();
+    QVERIFY(connect(panel, signal, &host, SLOT(deleteSoon())));
     act(*host.victim);
     QVERIFY(host.calls > 0);
     QVERIFY(host.victim);

@@ -16,7 +16,11 @@ Q_DECLARE_METATYPE(UserAction)
 using End = void (*)(QDialog&);
 Q_DECLARE_METATYPE(End)
 
-/** Hosts that delete a multi-page dialog in a handler of its panel's signals or of its own. */
+/**
+ * Hosts that delete a multi-page dialog in a handler of its panel's signals or of its own: at once
+ * where a button of the panel was clicked, later everywhere. QDialog does not guard its own
+ * signals.
+ */
 class tst_DialogDeletedInHandler : public StrictTest
 {
     Q_OBJECT
@@ -27,14 +31,14 @@ private Q_SLOTS:
     void dialogDeletedAtOnceByItsPanel();
     void dialogDeletedAtOnceWhileItExecutes_data();
     void dialogDeletedAtOnceWhileItExecutes();
-    void dialogDeletedAtOnceWhenItEnds_data();
-    void dialogDeletedAtOnceWhenItEnds();
-    void dialogDeletedAtOnceWhenItsExecutionEnds_data();
-    void dialogDeletedAtOnceWhenItsExecutionEnds();
-
-private:
-    void addActionRows();
-    void addEndRows();
+    void dialogDeletedSoonByItsPanel_data();
+    void dialogDeletedSoonByItsPanel();
+    void dialogDeletedSoonWhileItExecutes_data();
+    void dialogDeletedSoonWhileItExecutes();
+    void dialogDeletedSoonWhenItEnds_data();
+    void dialogDeletedSoonWhenItEnds();
+    void dialogDeletedSoonWhenItsExecutionEnds_data();
+    void dialogDeletedSoonWhenItsExecutionEnds();
 };
 
 namespace {
@@ -49,68 +53,19 @@ QDialog* newDialog()
     return qobject_cast<QDialog*>(newMultiPageDialog());
 }
 
-} // namespace
+enum class Rows { Clicks, All };
 
-void tst_DialogDeletedInHandler::cleanup()
-{
-    deleteWidgetsLeft();
-}
-
-void tst_DialogDeletedInHandler::addActionRows()
+void addActionRows(Rows rows)
 {
     QTest::addColumn<UserAction>("action");
     const QList<UserAction> actions = userActions();
     for (const UserAction& action : actions) {
-        if (action.create == newMultiPagePanel && !action.leavesWindow)
+        if (action.create == newMultiPagePanel && (rows == Rows::All || action.clicksAButton))
             QTest::newRow(action.name) << action;
     }
 }
 
-void tst_DialogDeletedInHandler::dialogDeletedAtOnceByItsPanel_data()
-{
-    addActionRows();
-}
-
-void tst_DialogDeletedInHandler::dialogDeletedAtOnceByItsPanel()
-{
-    QFETCH(const UserAction, action);
-    Executioner host;
-    QDialog* dialog = newDialog();
-    host.victim = dialog;
-    QVERIFY(showActive(*dialog));
-    const QPointer<QWidget> panel(panelIn(*dialog));
-    QVERIFY(connect(panel, action.signal, &host, SLOT(deleteNow())));
-    action.act(panel);
-    QVERIFY(host.victim.isNull());
-    QVERIFY(panel.isNull());
-    QCOMPARE(host.calls, 1);
-    QCOMPARE(widgetsLeft(), QStringList());
-}
-
-void tst_DialogDeletedInHandler::dialogDeletedAtOnceWhileItExecutes_data()
-{
-    addActionRows();
-}
-
-void tst_DialogDeletedInHandler::dialogDeletedAtOnceWhileItExecutes()
-{
-    QFETCH(const UserAction, action);
-    Executioner host;
-    QDialog* dialog = newDialog();
-    host.victim = dialog;
-    const QPointer<QWidget> panel(panelIn(*dialog));
-    QVERIFY(connect(panel, action.signal, &host, SLOT(deleteNow())));
-    QTimer::singleShot(0, this, [&] {
-        QVERIFY(QTest::qWaitForWindowActive(dialog));
-        action.act(panel);
-    });
-    QCOMPARE(dialog->exec(), int(QDialog::Rejected));
-    QVERIFY(host.victim.isNull());
-    QCOMPARE(host.calls, 1);
-    QCOMPARE(widgetsLeft(), QStringList());
-}
-
-void tst_DialogDeletedInHandler::addEndRows()
+void addEndRows()
 {
     QTest::addColumn<End>("end");
     QTest::addColumn<QByteArray>("signal");
@@ -139,46 +94,144 @@ void tst_DialogDeletedInHandler::addEndRows()
     }
 }
 
-void tst_DialogDeletedInHandler::dialogDeletedAtOnceWhenItEnds_data()
+} // namespace
+
+void tst_DialogDeletedInHandler::cleanup()
 {
-    addEndRows();
+    deleteWidgetsLeft();
 }
 
-void tst_DialogDeletedInHandler::dialogDeletedAtOnceWhenItEnds()
+void tst_DialogDeletedInHandler::dialogDeletedAtOnceByItsPanel_data()
 {
-    QFETCH(const End, end);
-    QFETCH(const QByteArray, signal);
+    addActionRows(Rows::Clicks);
+}
+
+void tst_DialogDeletedInHandler::dialogDeletedAtOnceByItsPanel()
+{
+    QFETCH(const UserAction, action);
     Executioner host;
     QDialog* dialog = newDialog();
     host.victim = dialog;
-    QVERIFY(connect(dialog, signal, &host, SLOT(deleteNow())));
     QVERIFY(showActive(*dialog));
-    part<QWidget>(*dialog, "copiesEdit")->setFocus();
-    end(*dialog);
+    const QPointer<QWidget> panel(panelIn(*dialog));
+    QVERIFY(connect(emitterOf(action, *panel), action.signal, &host, SLOT(deleteNow())));
+    action.act(panel);
+    QVERIFY(host.victim.isNull());
+    QVERIFY(panel.isNull());
+    QCOMPARE(host.calls, 1);
+    QCOMPARE(widgetsLeft(), QStringList());
+}
+
+void tst_DialogDeletedInHandler::dialogDeletedAtOnceWhileItExecutes_data()
+{
+    addActionRows(Rows::Clicks);
+}
+
+void tst_DialogDeletedInHandler::dialogDeletedAtOnceWhileItExecutes()
+{
+    QFETCH(const UserAction, action);
+    Executioner host;
+    QDialog* dialog = newDialog();
+    host.victim = dialog;
+    const QPointer<QWidget> panel(panelIn(*dialog));
+    QVERIFY(connect(emitterOf(action, *panel), action.signal, &host, SLOT(deleteNow())));
+    QTimer::singleShot(0, this, [&] {
+        QVERIFY(QTest::qWaitForWindowActive(dialog));
+        action.act(panel);
+    });
+    QCOMPARE(dialog->exec(), int(QDialog::Rejected));
     QVERIFY(host.victim.isNull());
     QCOMPARE(host.calls, 1);
     QCOMPARE(widgetsLeft(), QStringList());
 }
 
-void tst_DialogDeletedInHandler::dialogDeletedAtOnceWhenItsExecutionEnds_data()
+void tst_DialogDeletedInHandler::dialogDeletedSoonByItsPanel_data()
+{
+    addActionRows(Rows::All);
+}
+
+void tst_DialogDeletedInHandler::dialogDeletedSoonByItsPanel()
+{
+    QFETCH(const UserAction, action);
+    Executioner host;
+    QDialog* dialog = newDialog();
+    host.victim = dialog;
+    QVERIFY(showActive(*dialog));
+    const QPointer<QWidget> panel(panelIn(*dialog));
+    QVERIFY(connect(emitterOf(action, *panel), action.signal, &host, SLOT(deleteSoon())));
+    action.act(panel);
+    QTRY_VERIFY(host.victim.isNull());
+    QVERIFY(panel.isNull());
+    QVERIFY(host.calls > 0);
+    QCOMPARE(widgetsLeft(), QStringList());
+}
+
+void tst_DialogDeletedInHandler::dialogDeletedSoonWhileItExecutes_data()
+{
+    addActionRows(Rows::All);
+}
+
+void tst_DialogDeletedInHandler::dialogDeletedSoonWhileItExecutes()
+{
+    QFETCH(const UserAction, action);
+    Executioner host;
+    QDialog* dialog = newDialog();
+    host.victim = dialog;
+    const QPointer<QWidget> panel(panelIn(*dialog));
+    QVERIFY(connect(emitterOf(action, *panel), action.signal, &host, SLOT(deleteSoon())));
+    QTimer::singleShot(0, this, [&] {
+        QVERIFY(QTest::qWaitForWindowActive(dialog));
+        action.act(panel);
+    });
+    QCOMPARE(dialog->exec(), int(QDialog::Rejected));
+    QVERIFY(host.victim.isNull());
+    QVERIFY(host.calls > 0);
+    QCOMPARE(widgetsLeft(), QStringList());
+}
+
+void tst_DialogDeletedInHandler::dialogDeletedSoonWhenItEnds_data()
 {
     addEndRows();
 }
 
-void tst_DialogDeletedInHandler::dialogDeletedAtOnceWhenItsExecutionEnds()
+void tst_DialogDeletedInHandler::dialogDeletedSoonWhenItEnds()
 {
     QFETCH(const End, end);
     QFETCH(const QByteArray, signal);
     Executioner host;
     QDialog* dialog = newDialog();
     host.victim = dialog;
-    QVERIFY(connect(dialog, signal, &host, SLOT(deleteNow())));
+    QVERIFY(connect(dialog, signal, &host, SLOT(deleteSoon())));
+    QVERIFY(showActive(*dialog));
+    part<QWidget>(*dialog, "copiesEdit")->setFocus();
+    end(*dialog);
+    QTRY_VERIFY(host.victim.isNull());
+    QCOMPARE(host.calls, 1);
+    QCOMPARE(widgetsLeft(), QStringList());
+}
+
+void tst_DialogDeletedInHandler::dialogDeletedSoonWhenItsExecutionEnds_data()
+{
+    addEndRows();
+}
+
+void tst_DialogDeletedInHandler::dialogDeletedSoonWhenItsExecutionEnds()
+{
+    QFETCH(const End, end);
+    QFETCH(const QByteArray, signal);
+    Executioner host;
+    QDialog* dialog = newDialog();
+    host.victim = dialog;
+    QVERIFY(connect(dialog, signal, &host, SLOT(deleteSoon())));
+    bool accepted = false;
+    connect(dialog, &QDialog::accepted, this, [&accepted] { accepted = true; });
     QTimer::singleShot(0, this, [&] {
         QVERIFY(QTest::qWaitForWindowActive(dialog));
         end(*dialog);
     });
-    QCOMPARE(dialog->exec(), int(QDialog::Rejected));
-    QVERIFY(host.victim.isNull());
+    const int result = dialog->exec();
+    QCOMPARE(result, int(accepted ? QDialog::Accepted : QDialog::Rejected));
+    QTRY_VERIFY(host.victim.isNull());
     QCOMPARE(host.calls, 1);
     QCOMPARE(widgetsLeft(), QStringList());
 }

@@ -4,13 +4,12 @@
 #include "useractions.h"
 
 #include "livepanel.h"
+#include "userinput.h"
 
-#include <QtGui/QWheelEvent>
+#include <QtCore/QCoreApplication>
+#include <QtGui/QContextMenuEvent>
 #include <QtTest/QTest>
-#include <QtTest/qtestspontaneevent.h>
 #include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QAbstractItemView>
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QTabBar>
@@ -19,49 +18,6 @@ namespace {
 
 using Panel = QPointer<QWidget>;
 using Act = std::function<void(const Panel&)>;
-
-void click(QWidget* widget)
-{
-    // On the left end, where a radio button or check box has its indicator.
-    QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, QPoint(12, widget->height() / 2));
-}
-
-void pressSpace(QWidget* widget)
-{
-    widget->setFocus();
-    QTest::keyClick(widget, Qt::Key_Space);
-}
-
-// One notch towards the user, as a device turns it.
-void turnWheel(QWidget* widget)
-{
-    const QPointF middle = QRectF(widget->rect()).center();
-    QWheelEvent event(middle, widget->mapToGlobal(middle), QPoint(), QPoint(0, -120), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QSpontaneKeyEvent::setSpontaneous(&event);
-    qApp->notify(widget, &event);
-}
-
-void clickRow(QComboBox* combo, int row)
-{
-    combo->showPopup();
-    QAbstractItemView* view = combo->view();
-    const QPoint place = view->visualRect(combo->model()->index(row, 0)).center();
-    QTest::mouseMove(view->viewport(), place);
-    // The popup takes no release within the time of a double-click after it opened.
-    QTest::qWait(QApplication::doubleClickInterval() + 50);
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, place);
-}
-
-void pickByKeys(QComboBox* combo, Qt::Key way)
-{
-    combo->showPopup();
-    const QPointer<QAbstractItemView> view = combo->view();
-    if (way != Qt::Key_Return)
-        QTest::keyClick(view, way);
-    if (view)
-        QTest::keyClick(view, Qt::Key_Return);
-}
 
 /** The ways to choose in a combo box. Each is a row of its own. */
 void addComboRows(QList<UserAction>& rows, const UserAction& row, const char* combo,
@@ -83,18 +39,44 @@ void addComboRows(QList<UserAction>& rows, const UserAction& row, const char* co
         [box](const Panel& panel) { pickByKeys(box(panel), Qt::Key_Down); },
     };
     for (qsizetype i = 0; i < acts.size(); ++i)
-        rows.append({names.at(i), row.create, row.sender, row.signal, acts.at(i)});
+        rows.append({names.at(i), row.create, row.emitter, row.signal, acts.at(i)});
 }
 
-/** Mouse and keyboard on a button. */
+/** Mouse and keyboard on a button that may report otherwise than by its click. */
+void addToggleRows(QList<UserAction>& rows, const UserAction& row, const char* button,
+                   const char* byMouse, const char* byKey)
+{
+    rows.append({byMouse, row.create, row.emitter, row.signal,
+                 [button](const Panel& panel) { click(part<QAbstractButton>(*panel, button)); }});
+    rows.append({byKey, row.create, row.emitter, row.signal, [button](const Panel& panel) {
+                     pressSpace(part<QAbstractButton>(*panel, button));
+                 }});
+}
+
+/** Mouse and keyboard on a button whose click reports. */
 void addButtonRows(QList<UserAction>& rows, const UserAction& row, const char* button,
                    const char* byMouse, const char* byKey)
 {
-    rows.append({byMouse, row.create, row.sender, row.signal,
-                 [button](const Panel& panel) { click(part<QAbstractButton>(*panel, button)); }});
-    rows.append({byKey, row.create, row.sender, row.signal, [button](const Panel& panel) {
-                     pressSpace(part<QAbstractButton>(*panel, button));
-                 }});
+    addToggleRows(rows, row, button, byMouse, byKey);
+    for (auto added = rows.rbegin(); added != rows.rbegin() + 2; ++added)
+        added->clicksAButton = true;
+}
+
+/** The button that adds a copy. No panel reports it, but a host may listen to the button itself. */
+void addStepRows(QList<UserAction>& rows, QWidget* (*create)(), const char* byMouse,
+                 const char* byKey, const char* held)
+{
+    const char* const button = "plusButton";
+    const UserAction row{nullptr, create, button, SIGNAL(clicked()), {}};
+    addButtonRows(rows, row, button, byMouse, byKey);
+    rows.append({held, create, button, SIGNAL(clicked()),
+                 [button](const Panel& panel) {
+                     auto* step = part<QAbstractButton>(*panel, button);
+                     step->setAutoRepeatDelay(10);
+                     QTest::mousePress(step, Qt::LeftButton);
+                     QTRY_VERIFY(panel.isNull());
+                 },
+                 true});
 }
 
 void addPrintPanelButtons(QList<UserAction>& rows)
@@ -137,15 +119,16 @@ void addSwatchRows(QList<UserAction>& rows, int tab, const char* menu, const cha
         return part<QAbstractButton>(*part<QWidget>(*panel, menu), "#000000");
     };
     const char* const signal = SIGNAL(supplyColorsChangedSignal(QStringList));
-    rows.append({byMouse, newPrintPanel, "", signal,
-                 [swatch](const Panel& panel) { click(swatch(panel)); }});
-    rows.append({bySpace, newPrintPanel, "", signal,
-                 [swatch](const Panel& panel) { pressSpace(swatch(panel)); }});
-    rows.append({byReturn, newPrintPanel, "", signal, [swatch](const Panel& panel) {
-                     QWidget* button = swatch(panel);
-                     button->setFocus();
-                     QTest::keyClick(button, Qt::Key_Return);
-                 }});
+    const auto row = [&rows, signal](const char* name, const Act& act) {
+        rows.append({name, newPrintPanel, "", signal, act, true});
+    };
+    row(byMouse, [swatch](const Panel& panel) { click(swatch(panel)); });
+    row(bySpace, [swatch](const Panel& panel) { pressSpace(swatch(panel)); });
+    row(byReturn, [swatch](const Panel& panel) {
+        QWidget* button = swatch(panel);
+        button->setFocus();
+        QTest::keyClick(button, Qt::Key_Return);
+    });
 }
 
 QLineEdit* typeWidth(const Panel& panel)
@@ -204,11 +187,11 @@ void addMultiPageButtons(QList<UserAction>& rows)
                   "multi page: print clicked", "multi page: print by key");
     addButtonRows(rows, row(SIGNAL(openPreferencesSignal())), "PreferencesButton",
                   "multi page: preferences clicked", "multi page: preferences by key");
-    addButtonRows(rows, row(SIGNAL(printFormFillChangedSignal(int))), "formFillCheck",
+    addToggleRows(rows, row(SIGNAL(printFormFillChangedSignal(int))), "formFillCheck",
                   "multi page: form fill clicked", "multi page: form fill by key");
-    addButtonRows(rows, row(SIGNAL(fitToPageChangedSignal(int))), "fitToPageCheck",
+    addToggleRows(rows, row(SIGNAL(fitToPageChangedSignal(int))), "fitToPageCheck",
                   "multi page: fit clicked", "multi page: fit by key");
-    addButtonRows(rows, row(SIGNAL(orientationChangedSignal(int))), "orientationCheck",
+    addToggleRows(rows, row(SIGNAL(orientationChangedSignal(int))), "orientationCheck",
                   "multi page: orientation clicked", "multi page: orientation by key");
     addButtonRows(rows, row(SIGNAL(startPageChangedSignal(int))), "allPagesRadio",
                   "multi page: all pages clicked", "multi page: all pages by key");
@@ -281,7 +264,6 @@ void addMultiPageFields(QList<UserAction>& rows)
         QWidget other;
         showActive(other);
     });
-    rows.last().leavesWindow = true;
 }
 
 void addPopupRows(QList<UserAction>& rows)
@@ -298,7 +280,8 @@ void addPopupRows(QList<UserAction>& rows)
     addButtonRows(rows, row(SIGNAL(popupHideSignal())), "closeButton", "popup: close clicked",
                   "popup: close by key");
     rows.append({"popup: title bar's close clicked", newPreviewPopup, "", SIGNAL(popupHideSignal()),
-                 [](const Panel& panel) { click(part<QAbstractButton>(*panel, "CloseButton")); }});
+                 [](const Panel& panel) { click(part<QAbstractButton>(*panel, "CloseButton")); },
+                 true});
 }
 
 } // namespace
@@ -320,5 +303,16 @@ QList<UserAction> userActions()
     addMultiPagePrinters(rows);
     addMultiPageFields(rows);
     addPopupRows(rows);
+    addStepRows(rows, newPrintPanel, "print panel: step clicked", "print panel: step by key",
+                "print panel: step held");
+    addStepRows(rows, newQuickPanel, "quick print: step clicked", "quick print: step by key",
+                "quick print: step held");
+    addStepRows(rows, newMultiPagePanel, "multi page: step clicked", "multi page: step by key",
+                "multi page: step held");
     return rows;
+}
+
+QWidget* emitterOf(const UserAction& action, QWidget& panel)
+{
+    return *action.emitter == '\0' ? &panel : part<QWidget>(panel, action.emitter);
 }

@@ -17,14 +17,17 @@ struct UserAction
     /** Builds the panel that the action is done to. */
     QWidget* (*create)();
     /** The object that emits, found by name in what create() built; empty for that itself. */
-    const char* sender;
+    const char* emitter;
     /** SIGNAL() text. */
     const char* signal;
     /** May find the panel deleted between any two of its steps. */
     std::function<void(const QPointer<QWidget>&)> act;
-    /** Whether the window loses the keyboard by it. Qt goes on with a window that does. */
-    bool leavesWindow = false;
+    /** Whether the signal reports the click of a button. Its handler may delete at once. */
+    bool clicksAButton = false;
 };
+
+/** What emits the signal of @p action: @p panel, which the action built, or a part of it. */
+QWidget* emitterOf(const UserAction& action, QWidget& panel);
 
 /** For every signal of every panel, every way in which a user can cause it. */
 QList<UserAction> userActions();

@@ -4,7 +4,6 @@
 #include "subject.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QLineEdit>
@@ -36,9 +35,10 @@ QWidget* Subject::window() const
     return m_panel ? m_panel->window() : m_host.data();
 }
 
-void Subject::adopt(QWidget* panel, const HostCalls& calls)
+void Subject::adopt(QWidget* panel, const HostCalls& calls, const QByteArrayList& clickSignals)
 {
     m_panel = panel;
+    m_clickSignals = clickSignals;
     addPort(panel, calls);
     if (!panel->isWindow() || (panel->windowFlags() & Qt::WindowType_Mask) == Qt::Window) {
         const int place = world.random.below(3);
@@ -110,11 +110,11 @@ bool Subject::mayComeNow(const QByteArray& signal) const
     return atAnyTime.contains(signal) || world.underWay()->mayEmit.split(' ').contains(signal);
 }
 
-// What the panels promise; in all other cases a handler has to use deleteLater().
+// Where the user clicked a button that reports by its click. Everywhere else a handler has to use
+// deleteLater().
 bool Subject::mayDeleteAtOnce(const QByteArray& signal) const
 {
-    return signal != "printWidgetShowSignal" && !world.windowsChange &&
-           !(world.windowInUse && m_panel->isWindow()) && QApplication::activeWindow() == window();
+    return !world.underWay() && m_clickSignals.contains(signal);
 }
 
 // What a host does in the handler of a signal.
@@ -125,12 +125,12 @@ void Subject::react(const QByteArray& signal)
     const int choice = world.random.below(100);
     if (choice < 15) {
         hostActs();
-    } else if (choice == 15) {
-        world.trail.note(QStringLiteral("  host, in its handler: deleteLater"));
-        m_panel->deleteLater();
-    } else if (choice == 16 && mayDeleteAtOnce(signal)) {
+    } else if (choice < 25 && mayDeleteAtOnce(signal)) {
         world.trail.note(QStringLiteral("  host, in its handler: delete"));
         delete m_panel;
+    } else if (choice >= 98) {
+        world.trail.note(QStringLiteral("  host, in its handler: deleteLater"));
+        m_panel->deleteLater();
     }
 }
 
@@ -140,7 +140,6 @@ void Subject::hostActs()
     QWidget* const shown = window();
     if (shown && !shown->isVisible() && world.random.coin()) {
         world.trail.note(QStringLiteral("host: shows the window"));
-        const QScopedValueRollback<bool> change(world.windowsChange, true);
         m_panel->show();
         shown->show();
         return;
@@ -156,7 +155,6 @@ void Subject::hostActs()
         widget = widget->window();
     const int index =
         world.random.pickWeighted(calls, [](const HostCall& call) { return call.weight; });
-    const QScopedValueRollback<bool> change(world.windowsChange, world.windowsChange || asWidget);
     world.call(*this, *widget, calls.at(index));
 }
 

@@ -54,8 +54,12 @@ protected:
     /** A signal of the panel arrived. */
     virtual void heard(const QByteArray& signal, const QVariantList& arguments) = 0;
 
-    /** Takes a new panel: puts it somewhere, listens to it and shows it, mostly. */
-    void adopt(QWidget* panel, const HostCalls& calls);
+    /**
+     * Takes a new panel: puts it somewhere, listens to it and shows it, mostly.
+     * @param clickSignals the signals by which a click of a button, and nothing else that the user
+     *        does, reports
+     */
+    void adopt(QWidget* panel, const HostCalls& calls, const QByteArrayList& clickSignals);
     /** Another widget of the panel that has operations of its own. */
     void addPort(QWidget* widget, const HostCalls& calls);
     /** The user types into @p edit, and only these calls and buttons may change it besides. */
@@ -81,6 +85,7 @@ private:
     QPointer<QWidget> m_host;
     QList<Port> m_ports;
     QList<QMetaMethod> m_signals;
+    QByteArrayList m_clickSignals;
 };
 
 } // namespace Monkey

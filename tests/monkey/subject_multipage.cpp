@@ -27,6 +27,7 @@ protected:
     void heard(const QByteArray& signal, const QVariantList& arguments) override;
 
     MultiPagePrintWidget* createPanel();
+    static QByteArrayList clickSignals() { return {"widgetPrintSignal", "openPreferencesSignal"}; }
 
 private:
     void report(const QString& wrong) { require(wrong.isEmpty(), "multi-page panel", wrong); }
@@ -77,7 +78,7 @@ public:
     explicit MultiPagePanelSubject(World& sharedWorld) : MultiPageSubject(sharedWorld)
     {
         world.trail.note(QStringLiteral("NEW MultiPagePrintWidget"));
-        adopt(createPanel(), multiPagePrintWidgetCalls());
+        adopt(createPanel(), multiPagePrintWidgetCalls(), clickSignals());
     }
 };
 
@@ -95,7 +96,7 @@ public:
         const Qt::WindowFlags kinds[] = {Qt::FramelessWindowHint, Qt::WindowFlags(), Qt::Dialog};
         m_dialog = new MultiPagePrintDialog(held, nullptr, world.random.pick(kinds));
         world.trail.note(QStringLiteral("NEW MultiPagePrintDialog, content %1").arg(content));
-        adopt(m_dialog, multiPagePrintDialogCalls());
+        adopt(m_dialog, multiPagePrintDialogCalls(), clickSignals());
         if (panel)
             addPort(panel, multiPagePrintWidgetCalls());
     }

@@ -33,7 +33,8 @@ public:
                                          m_range.at(0).toInt(), m_range.at(1).toInt(),
                                          m_range.at(2).toString());
         world.trail.note(QStringLiteral("NEW PrintPreviewDialog, flags %1").arg(kind.toInt()));
-        adopt(m_popup, printPreviewDialogCalls());
+        adopt(m_popup, printPreviewDialogCalls(),
+              {"previewPrintSignal", "orientationChangedSignal", "popupHideSignal"});
     }
 
     void told(const QByteArray& name, const QVariantList& arguments) override;
@@ -92,7 +93,7 @@ public:
         m_hint = QSize(world.random.between(-1, 400), world.random.between(0, 400));
         m_view = new PrintPanels::PreviewView(image(world.random), m_hint);
         world.trail.note(QStringLiteral("NEW PreviewView"));
-        adopt(m_view, previewViewCalls());
+        adopt(m_view, previewViewCalls(), {});
     }
 
     void check() override

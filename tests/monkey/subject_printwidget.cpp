@@ -50,7 +50,9 @@ public:
                              .arg(module));
         if (!world.random.oneIn(4))
             setUpLikeAHost();
-        adopt(m_panel, printWidgetCalls());
+        adopt(m_panel, printWidgetCalls(),
+              {"widgetPrintSignal", "printPreviewSignal", "openPreferencesSignal", "testPrintError",
+               "tinyLadderSupplyChangedSignal", "supplyColorsChangedSignal"});
     }
 
     void told(const QByteArray& name, const QVariantList& arguments) override;

@@ -29,7 +29,8 @@ public:
         watchTyping(part<QLineEdit>(m_panel, "widthEdit"), {"setCanvasSize"});
         if (world.random.coin())
             m_panel->enableAllButtons();
-        adopt(m_panel, quickPrintWidgetCalls());
+        adopt(m_panel, quickPrintWidgetCalls(),
+              {"widgetPrintSignal", "resizeSignal", "openModuleSignal"});
     }
 
     void check() override;

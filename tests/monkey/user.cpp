@@ -5,7 +5,6 @@
 
 #include "subject.h"
 
-#include <QtCore/QScopedValueRollback>
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
@@ -36,9 +35,6 @@ void User::act(Subject& subject)
     };
     QWidget* const panel = subject.window();
     world.target = nullptr;
-    // The window hands its keys and clicks on to an open list.
-    const QScopedValueRollback<bool> use(world.windowInUse, QApplication::activePopupWidget() ||
-                                                                m_heldButton == Qt::RightButton);
     if (holdsButton() && (++m_heldFor > 8 || world.random.oneIn(4))) {
         release(panel);
         return;
@@ -76,7 +72,6 @@ void User::moveFocus(QWidget* panel)
     if (world.random.oneIn(4)) {
         QWidget* const next = world.random.coin() ? &m_desk : panel;
         world.trail.note(QStringLiteral("user: goes to ") + next->objectName());
-        const QScopedValueRollback<bool> change(world.windowsChange, true);
         next->activateWindow();
         QCoreApplication::processEvents();
         return;
@@ -124,7 +119,6 @@ void User::goAway(QWidget* panel)
     // The window system hides, closes and moves windows without asking anybody.
     const int choice = world.random.below(3);
     world.trail.note(QStringLiteral("user: window away, in the way %1").arg(choice));
-    const QScopedValueRollback<bool> change(world.windowsChange, true);
     if (choice == 0)
         panel->close();
     else if (choice == 1)

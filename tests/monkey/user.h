@@ -44,7 +44,6 @@ private:
     bool reach(QWidget* panel, QWidget** window, QPoint* spot);
 
     void clickAway();
-    void useForContextMenu(Qt::MouseButton button);
 
     void click(QWidget* panel);
     void press(QWidget* panel);

@@ -62,12 +62,6 @@ bool User::reach(QWidget* panel, QWidget** window, QPoint* spot)
     return true;
 }
 
-// The press may end the window by moving the focus; Qt asks it for a context menu all the same.
-void User::useForContextMenu(Qt::MouseButton button)
-{
-    world.windowInUse = world.windowInUse || button == Qt::RightButton;
-}
-
 void User::click(QWidget* panel)
 {
     QWidget* window = nullptr;
@@ -82,7 +76,6 @@ void User::click(QWidget* panel)
     const Qt::MouseButton button = choice < 16   ? Qt::LeftButton
                                    : choice < 19 ? Qt::RightButton
                                                  : Qt::MiddleButton;
-    useForContextMenu(button);
     if (world.random.oneIn(10)) {
         world.trail.note(QStringLiteral("user: double click %1").arg(button));
         QTest::mouseDClick(window->windowHandle(), button, {}, spot);
@@ -100,7 +93,6 @@ void User::press(QWidget* panel)
         return;
     m_heldButton = world.random.oneIn(6) ? Qt::RightButton : Qt::LeftButton;
     m_heldFor = 0;
-    useForContextMenu(m_heldButton);
     world.heldTarget = world.target;
     world.trail.note(QStringLiteral("user: presses %1").arg(m_heldButton));
     QTest::mousePress(window->windowHandle(), m_heldButton, {}, spot);

@@ -29,11 +29,6 @@ public:
     QPointer<QWidget> target;
     /** The widget on which a mouse button was pressed that is still down. */
     QPointer<QWidget> heldTarget;
-    /** Whether windows come, go or change places, so that Qt is not done with the panel's. */
-    bool windowsChange = false;
-
-    /** Whether Qt goes on with the window after what the user does, even if the window is gone. */
-    bool windowInUse = false;
 
     /** How much happened in a run. */
     struct Tally
