@@ -60,6 +60,7 @@ private:
 
     QWindow* keyWindow(QWidget* panel) const;
     void sendKeys(QWidget* panel, const QString& text);
+    void clickKey(QWindow* window, Qt::Key key, Qt::KeyboardModifiers held);
 
     World& world;
     StoppedClock m_clock;

@@ -25,6 +25,13 @@ constexpr Qt::KeyboardModifiers modifiers[] = {
     Qt::NoModifier,    Qt::NoModifier,      Qt::NoModifier, Qt::NoModifier,
     Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier};
 
+Qt::Key modifierKey(Qt::KeyboardModifiers modifier)
+{
+    if (modifier == Qt::ShiftModifier)
+        return Qt::Key_Shift;
+    return modifier == Qt::ControlModifier ? Qt::Key_Control : Qt::Key_Alt;
+}
+
 } // namespace
 
 // Qt hands the keys to an open list or menu, whatever window they come from.
@@ -43,7 +50,25 @@ void User::pressKey(QWidget* panel)
     world.trail.note(QStringLiteral("user: key %1 with %2")
                          .arg(QLatin1String(QMetaEnum::fromType<Qt::Key>().valueToKey(key)))
                          .arg(held.toInt(), 0, 16));
-    QTest::keyClick(window, key, held);
+    clickKey(window, key, held);
+}
+
+// Event by event, because each may end the window, and QTest would go on with the modifier.
+void User::clickKey(QWindow* window, Qt::Key key, Qt::KeyboardModifiers held)
+{
+    const QPointer<QWindow> guard(window);
+    const auto send = [&guard](bool press, int code, Qt::KeyboardModifiers with, char text) {
+        const QString typed = text == '\0' ? QString() : QString(QLatin1Char(text));
+        if (guard)
+            QTest::simulateEvent(guard.data(), press, code, with, typed, false);
+    };
+    const char text = QTest::keyToAscii(key);
+    if (held != Qt::NoModifier)
+        send(true, modifierKey(held), Qt::NoModifier, '\0');
+    send(true, key, held, text);
+    send(false, key, held, text);
+    if (held != Qt::NoModifier)
+        send(false, modifierKey(held), Qt::NoModifier, '\0');
 }
 
 void User::sendKeys(QWidget* panel, const QString& text)
@@ -77,9 +102,9 @@ void User::paste(QWidget* panel)
     world.trail.note(QStringLiteral("user: pastes ") + describe(text));
     QGuiApplication::clipboard()->setText(text);
     if (world.random.coin())
-        QTest::keyClick(window.data(), Qt::Key_A, Qt::ControlModifier);
+        clickKey(window.data(), Qt::Key_A, Qt::ControlModifier);
     if (window)
-        QTest::keyClick(window.data(), Qt::Key_V, Qt::ControlModifier);
+        clickKey(window.data(), Qt::Key_V, Qt::ControlModifier);
 }
 
 void User::answerMenu()

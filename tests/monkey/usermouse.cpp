@@ -114,13 +114,14 @@ void User::release(QWidget* panel)
     QPoint spot;
     const Qt::MouseButton button = m_heldButton;
     m_heldButton = Qt::NoButton;
-    world.heldTarget = nullptr;
     if (!panel || !reach(panel, &window, &spot)) {
         window = &m_desk;
         spot = QPoint(5, 5);
     }
     world.trail.note(QStringLiteral("user: lets go of %1").arg(button));
     QTest::mouseRelease(window->windowHandle(), button, {}, spot);
+    // Not before: the release is for what was pressed, wherever the mouse is.
+    world.heldTarget = nullptr;
 }
 
 void User::turnWheel(QWidget* panel)
