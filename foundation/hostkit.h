@@ -4,8 +4,8 @@
 #ifndef PRINTPANELS_HOSTKIT_H
 #define PRINTPANELS_HOSTKIT_H
 
-// The one door to the host: everything that the panels use of the host's widget kit and of its
-// editor-common library. A host that brings its own kit provides headers of these names.
+// Everything that the panels use of the host's widget kit and of its editor-common library. A host
+// with a kit of its own provides headers with these names.
 #include <applicationfont.h>
 #include <colormenu.h>
 #include <containertitlebar.h>

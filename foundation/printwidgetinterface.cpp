@@ -8,7 +8,7 @@
 
 PrintWidgetInterface::PrintWidgetInterface(bool, QWidget* parent) : QWidget(parent) {}
 
-// Out of line, so that the class's table and meta-object are emitted once, in this library.
+// Out of line, so that the virtual table is emitted once, in this library.
 PrintWidgetInterface::~PrintWidgetInterface() = default;
 
 void PrintWidgetInterface::setNupSeqRepVisible(bool) {}

@@ -14,7 +14,7 @@ namespace {
 constexpr QChar itemSeparator = u',';
 constexpr QChar rangeSeparator = u'-';
 
-/** The first and last of the pieces between hyphens, empty pieces passed over. */
+/** The first and last of the pieces between hyphens, without empty pieces. */
 struct Pieces
 {
     int count = 0;
@@ -34,7 +34,7 @@ Pieces piecesOf(QStringView item)
     return pieces;
 }
 
-/** Strict reading of a record number; nothing when the text is no such number. */
+/** The record number that the text is; nothing if it is not exactly that. */
 std::optional<int> recordNumber(QStringView text)
 {
     if (text.isEmpty() || text.size() > 4 || text.front() == u'0')
@@ -48,7 +48,7 @@ std::optional<int> recordNumber(QStringView text)
     return number;
 }
 
-/** Strict reading of an item, as typed: a range may be reversed. */
+/** The range that an item is, as typed: it may be reversed. Nothing if the item is invalid. */
 std::optional<Range> itemRange(QStringView item)
 {
     const qsizetype hyphen = item.indexOf(rangeSeparator);
@@ -70,7 +70,7 @@ const QRegularExpression& expression()
     return shared;
 }
 
-// Runs at every keystroke: no piece of the text is copied, and the first item that decides ends it.
+// Runs at every keystroke, so it copies no text and stops at the first item that decides.
 Extent classify(QStringView text, int numberOfRecords)
 {
     int singleRecords = 0;

@@ -17,7 +17,7 @@
  *
  * An item is a number of one to four digits without a leading zero, or a range of two such numbers
  * joined by a hyphen; items are separated by commas; there are no blanks. Every number is 1-based.
- * Everything here takes any text, valid or not, in time linear in its length.
+ * All functions accept any text, valid or not, and take time linear in its length.
  */
 namespace RecordList {
 
@@ -34,7 +34,7 @@ struct Range
 /** Whether a list stands for one record or for several. */
 enum class Extent { OneRecord, SeveralRecords };
 
-/** What firstPage() answers when a list names pages, but none that exists. */
+/** What firstPage() returns if a list names pages, but none that exists. */
 constexpr int noPage = -1;
 
 /**
@@ -44,26 +44,27 @@ constexpr int noPage = -1;
 PRINTPANELS_EXPORT const QRegularExpression& expression();
 
 /**
- * Classifies a list as it stands, while it is being typed; it need not be complete or valid.
+ * Classifies a list while it is being typed, so it may be incomplete or invalid.
  *
- * Two items make several records, even the same one twice, and so does a range whose last number,
- * lowered to @p numberOfRecords, is above its first. A range that then is reversed does not count.
- * A single number is not compared with @p numberOfRecords. A number that cannot be read is 0.
+ * Two items mean several records, even the same record twice, and so does a range whose last
+ * number, clamped to @p numberOfRecords, is above its first. A range that is reversed then does not
+ * count. A single number is not compared with @p numberOfRecords. A number that cannot be read
+ * counts as 0.
  */
 PRINTPANELS_EXPORT Extent classify(QStringView text, int numberOfRecords);
 
 /**
- * The first page of a page list that is not above @p pageCount; of a range only the first number
- * counts. Answers noPage when every item is above @p pageCount, and nothing when the list has no
- * item. A number that cannot be read is 0 and counts as it stands.
+ * Returns the first page of a page list that is not above @p pageCount; of a range only the first
+ * number counts. Returns noPage if every item is above @p pageCount, and nothing if the list has no
+ * items. A number that cannot be read counts as page 0.
  */
 PRINTPANELS_EXPORT std::optional<int> firstPage(QStringView text, int pageCount);
 
 /**
- * Reads a complete list for a host that prints it: its ranges in typed order, repetitions kept, a
- * single number being a range of one, each clipped to @p numberOfRecords. A reversed range and an
- * item that starts beyond the last record name nothing and are left out, so the answer may be
- * empty. Answers nothing at all when the text is not a valid list.
+ * Expands a complete list for a host that prints it: its ranges in typed order, with repetitions, a
+ * single number being a range of one, each clipped to @p numberOfRecords. Reversed ranges and items
+ * that start beyond the last record name nothing and are left out, so the result may be empty.
+ * Returns nothing at all if the text is not a valid list.
  */
 PRINTPANELS_EXPORT std::optional<QList<Range>> expand(QStringView text, int numberOfRecords);
 

@@ -12,16 +12,15 @@
 #include <QtGui/QRgb>
 
 /**
- * The vocabulary that the panels and their host share.
+ * Constants that the panels and their host share.
  *
- * Every source file that includes this header has its own copy of each constant, built in the order
- * of this file when the library is loaded. The translated ones therefore follow the translator that
- * was installed before the library was loaded; one installed later does not change them.
+ * Every source file that includes this header has its own copy of each constant, initialised in the
+ * order of this file when the library is loaded. The translated ones therefore need a translator
+ * that is installed before the library is loaded; one that is installed later does not change them.
  */
 namespace SharedConstants {
 
-/** Name of the see-through entry of a colour menu. A key, not a display text, and no palette entry.
- */
+/** Name of the see-through entry of a colour menu. A key, not a display text or palette entry. */
 const QString transparentName = QStringLiteral("transparent");
 /** The off-white that stands for a clear supply, as a colour. */
 const QColor offWhiteColor = QColor(QStringLiteral("#FFFFFE"));
@@ -31,13 +30,13 @@ const QColor transparentColor = QColor(Qt::transparent);
 const QColor whiteColor = QColor(Qt::white);
 /** Qt's global black. */
 const QColor blackColor = QColor(Qt::black);
-/** Opaque white, 0xFFFFFFFF: the ground of off-screen preview images. */
+/** Opaque white, 0xFFFFFFFF: the background of off-screen preview images. */
 const QRgb whiteRgb = whiteColor.rgb();
 
 /**
  * Hexadecimal codes of the 13 supply colours. Index-aligned with supplyColors and supplyColorNames.
- * Hosts compare codes exactly and case-sensitively: cyan is upper case and the last one, "clear",
- * is the lower-case off-white, and both stay so.
+ * Hosts compare codes exactly and case-sensitively, so cyan stays upper case, and "clear" stays the
+ * lower-case off-white.
  */
 const QStringList supplyColorCodes = {
     QStringLiteral("#ffffff"), QStringLiteral("#000000"), QStringLiteral("#dc0b0b"),
@@ -74,7 +73,7 @@ const QList<QColor> supplyColors = {whiteColor,
 
 /**
  * Names of the 13 supply colours. Index-aligned with supplyColorCodes and supplyColors.
- * Keys that host and panels exchange, hence not translated.
+ * Keys that host and panels exchange, therefore not translated.
  */
 const QStringList supplyColorNames = {
     QStringLiteral("white"),    QStringLiteral("black"),  QStringLiteral("red"),
@@ -108,7 +107,7 @@ const QString oshaAuthority = QObject::tr(
     "OSHA Authority Abbreviaton. OSHA stands for: Occupational Safety and Health Adminstration.");
 /** Abbreviation of the European authority. */
 const QString euAuthority = QObject::tr("EU", "EU Authority Abbreviaton");
-/** Stands for an authority of the customer's own. */
+/** Stands for the customer's own authority. */
 const QString customAuthority = QObject::tr("CUSTOM", "CUSTOM Authority");
 
 /** GHS label type after the United States' rules. */
@@ -119,11 +118,11 @@ const QString oshaLabelType = QObject::tr(
 const QString unLabelType =
     QObject::tr("UN/GHS Rev. 7", "Option for selecting label type. Stands for: United "
                                  "Nations/Globally Harmonized System.");
-/** GHS label type of the user's own making. */
+/** GHS label type that the user designs. */
 const QString customLabelType = QObject::tr(
     "Custom", "Option for selecting label type. The user selects to create a custom GHS label.");
 
-/** Tool tip of the buttons and boxes that turn the print orientation. */
+/** Tool tip of the controls that switch the print orientation. */
 const QString orientationToolTip =
     QObject::tr("Switch Print Orientation", "The text on the tooltip to switch print orientation.");
 

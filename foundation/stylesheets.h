@@ -15,15 +15,13 @@
  */
 namespace StyleSheets {
 
-/** Whole quick-print and multi-page panels: push buttons, combo boxes, scroll bars, radio buttons.
- */
+/** Quick-print and multi-page panels: push buttons, combo boxes, scroll bars, radio buttons. */
 QString panel();
-/** The whole print settings panel: combo boxes, scroll bars, check boxes, radio buttons, tab bar.
- */
+/** Print settings panel: combo boxes, scroll bars, check boxes, radio buttons, tab bar. */
 QString printSettingsPanel();
 /** Dark push buttons, 35 pixels high. */
 QString primaryPushButton();
-/** Dark push buttons, 40 pixels high: what starts a print or a preview. */
+/** Dark push buttons, 40 pixels high, that start a print or a preview. */
 QString tallPushButton();
 /** The button beside the printer selector, with its icon. */
 QString printerSettingsButton();
@@ -33,7 +31,7 @@ QString checkBoxIndicator();
 QString radioButtonIndicator();
 /** The button that adds a copy. */
 QString plusStepButton();
-/** The button that takes a copy away. */
+/** The button that removes a copy. */
 QString minusStepButton();
 /** The picture of N-up replicating. */
 QString replicatingLabel();
@@ -51,9 +49,9 @@ QString portraitButton();
 QString landscapeButton();
 /** The grey surround of a preview. */
 QString previewFrame();
-/** Ground and border of the multi-page dialog. */
+/** Background and border of the multi-page dialog. */
 QString multiPageDialogFrame();
-/** Ground and border of the preview popup. */
+/** Background and border of the preview popup. */
 QString previewDialogFrame();
 
 } // namespace StyleSheets

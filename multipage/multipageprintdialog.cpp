@@ -4,8 +4,9 @@
 #include <printpanels/multipageprintdialog.h>
 
 #include "foundation/hostkit.h"
-#include "foundation/panelparts.h"
 #include "foundation/stylesheets.h"
+#include "foundation/widgets/windowposition.h"
+#include "multipage/multipageprintdialog_p.h"
 #include "preview/previewview.h"
 
 #include <printpanels/sharedconstants.h>
@@ -14,7 +15,7 @@
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QVBoxLayout>
 
-using PrintPanels::PreviewView;
+namespace PrintPanels {
 
 namespace {
 
@@ -27,36 +28,33 @@ QImage createPlaceholder()
 
 } // namespace
 
-MultiPagePrintDialog::MultiPagePrintDialog(QWidget* settingsPanel, QWidget* parent,
-                                           Qt::WindowFlags flags)
-    : QDialog(parent, flags), panel(settingsPanel)
+MultiPagePrintDialogPrivate::MultiPagePrintDialogPrivate(MultiPagePrintDialog* dialog,
+                                                         QWidget* settingsPanel)
+    : panel(settingsPanel), q(dialog)
 {
-    setObjectName(QStringLiteral("MultiPagePrintDialog"));
-    setWindowTitle(tr("Preview and Print", "Window title"));
-    setFixedSize(1010, 540);
-    hide();
-    // The owner keeps the dialog and may show it again.
-    setAttribute(Qt::WA_DeleteOnClose, false);
-    setAttribute(Qt::WA_QuitOnClose, false);
-    setStyleSheet(StyleSheets::multiPageDialogFrame());
+}
 
+void MultiPagePrintDialogPrivate::createDialogLayout()
+{
     titleBar = new ContainerTitleBar(nullptr, QString(), QString(), 14);
     placeholder = createPlaceholder();
-    createDialogLayout();
+    QFrame* previewFrame = createPreviewFrame();
+    auto* row = new QHBoxLayout;
+    row->setContentsMargins(10, 10, 10, 0);
+    if (panel)
+        row->addWidget(panel);
+    row->addWidget(previewFrame);
 
-    connect(titleBar, SIGNAL(closeButtonClicked()), this, SLOT(close()));
-    connect(titleBar, SIGNAL(signalMove(int, int)), this, SLOT(mouseMoveSlot(int, int)));
+    auto* column = new QVBoxLayout(q);
+    column->setSpacing(10);
+    column->addWidget(titleBar);
+    column->addLayout(row);
+
+    QObject::connect(titleBar, SIGNAL(closeButtonClicked()), q, SLOT(close()));
+    QObject::connect(titleBar, SIGNAL(signalMove(int, int)), q, SLOT(mouseMoveSlot(int, int)));
 }
 
-// The settings panel loses the focus before its own end comes.
-MultiPagePrintDialog::~MultiPagePrintDialog()
-{
-    blockSignals(true);
-    if (panel && isAncestorOf(panel))
-        panel->blockSignals(true);
-}
-
-QFrame* MultiPagePrintDialog::createPreviewFrame()
+QFrame* MultiPagePrintDialogPrivate::createPreviewFrame()
 {
     auto* frame = new QFrame;
     frame->setObjectName(QStringLiteral("previewFrame"));
@@ -69,29 +67,39 @@ QFrame* MultiPagePrintDialog::createPreviewFrame()
     return frame;
 }
 
-void MultiPagePrintDialog::createDialogLayout()
-{
-    QFrame* previewFrame = createPreviewFrame();
-    auto* row = new QHBoxLayout;
-    row->setContentsMargins(10, 10, 10, 0);
-    if (panel)
-        row->addWidget(panel);
-    row->addWidget(previewFrame);
+} // namespace PrintPanels
 
-    auto* column = new QVBoxLayout(this);
-    column->setSpacing(10);
-    column->addWidget(titleBar);
-    column->addLayout(row);
+MultiPagePrintDialog::MultiPagePrintDialog(QWidget* panel, QWidget* parent, Qt::WindowFlags flags)
+    : QDialog(parent, flags),
+      d(std::make_unique<PrintPanels::MultiPagePrintDialogPrivate>(this, panel))
+{
+    setObjectName(QStringLiteral("MultiPagePrintDialog"));
+    setWindowTitle(tr("Preview and Print", "Window title"));
+    setFixedSize(1010, 540);
+    hide();
+    // The owner keeps the dialog and may show it again.
+    setAttribute(Qt::WA_DeleteOnClose, false);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setStyleSheet(StyleSheets::multiPageDialogFrame());
+    d->createDialogLayout();
+}
+
+// The settings panel is destroyed after the dialog's own part, and loses the focus before that.
+MultiPagePrintDialog::~MultiPagePrintDialog()
+{
+    blockSignals(true);
+    if (d->panel && isAncestorOf(d->panel))
+        d->panel->blockSignals(true);
 }
 
 void MultiPagePrintDialog::setPreviewImage(const QImage& image)
 {
-    preview->setImage(image.isNull() ? placeholder : image);
+    d->preview->setImage(image.isNull() ? d->placeholder : image);
 }
 
 void MultiPagePrintDialog::setTitle(const QString& title)
 {
-    titleBar->setTitle(title);
+    d->titleBar->setTitle(title);
 }
 
 void MultiPagePrintDialog::mouseMoveSlot(int x, int y)

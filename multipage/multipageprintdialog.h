@@ -6,25 +6,22 @@
 
 #include <printpanels/printpanels_export.h>
 
-#include <QtCore/QPointer>
-#include <QtGui/QImage>
 #include <QtWidgets/QDialog>
 
-class ContainerTitleBar;
-class QFrame;
+#include <memory>
 
 namespace PrintPanels {
-class PreviewView;
+class MultiPagePrintDialogPrivate;
 }
 
 /**
  * The "Preview and Print" window for documents of several pages: a title bar, a settings panel on
  * the left and the current page on the right.
  *
- * It knows nothing of printing. The host creates the panel, listens to the panel's signals and
- * pushes page images. The dialog has a fixed size of 1010 x 540 pixels and starts hidden. Closing
- * only hides it, so that its owner may show it again. To delete it in a handler of one of its
- * signals or of the panel's, use deleteLater(), also while it executes.
+ * It does not print. The host creates the panel, listens to the panel's signals and sets the images
+ * of the pages. The dialog has a fixed size of 1010 x 540 pixels and starts hidden. Closing only
+ * hides it, so that its owner may show it again; the owner deletes it.
+ * In a handler of its signals or of the panel's use deleteLater(), also while the dialog executes.
  */
 class PRINTPANELS_EXPORT MultiPagePrintDialog : public QDialog
 {
@@ -33,20 +30,21 @@ class PRINTPANELS_EXPORT MultiPagePrintDialog : public QDialog
 
 public:
     /**
-     * Builds the dialog around a panel.
+     * Creates the dialog around a panel.
      * @param panel the settings panel, usually a MultiPagePrintWidget; the dialog becomes its
      *        parent and owner. Null leaves its place empty, and the panel may be deleted before the
      *        dialog
      * @param parent owner, or null
-     * @param flags window flags, handed on as they are; hosts that want the title bar to be the
-     *        only one add Qt::FramelessWindowHint
+     * @param flags window flags; a host that wants the dialog's title bar to be the only one adds
+     *        Qt::FramelessWindowHint
      */
     MultiPagePrintDialog(QWidget* panel, QWidget* parent, Qt::WindowFlags flags);
+    /** Destroys the dialog and its children, the settings panel among them. Emits nothing. */
     ~MultiPagePrintDialog() override;
 
     /** Shows the image of a page, fitted and centred. A null image shows an empty white page. */
     void setPreviewImage(const QImage& image);
-    /** Replaces the text of the title bar, which starts empty. The window's title stays. */
+    /** Sets the text of the title bar, which starts empty. The window's title stays. */
     void setTitle(const QString& title);
 
 public Q_SLOTS:
@@ -54,13 +52,7 @@ public Q_SLOTS:
     void mouseMoveSlot(int x, int y);
 
 private:
-    QFrame* createPreviewFrame();
-    void createDialogLayout();
-
-    ContainerTitleBar* titleBar = nullptr;
-    QPointer<QWidget> panel;
-    PrintPanels::PreviewView* preview = nullptr;
-    QImage placeholder;
+    std::unique_ptr<PrintPanels::MultiPagePrintDialogPrivate> const d;
 };
 
 #endif

@@ -16,9 +16,9 @@ struct PageRange
 };
 
 /**
- * What a typed page list stands for while the document is shown: from the first page that it names
- * and that exists to the last page of the document. An empty list stands for the current page; a
- * list that names no existing page has the start RecordList::noPage and ends at the current page.
+ * The pages that a typed list stands for in the preview: from the first page in the list that
+ * exists to the last page of the document. An empty list stands for the current page. A list that
+ * names no existing page starts at RecordList::noPage and ends at the current page.
  */
 PageRange listedPages(QStringView list, int currentPage, int pageCount);
 

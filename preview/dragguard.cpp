@@ -5,7 +5,6 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>
-#include <QtCore/QMetaObject>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QWidget>
@@ -19,12 +18,12 @@ DragGuard::DragGuard(QWidget* dragged) : m_dragged(dragged)
 
 DragGuard::~DragGuard()
 {
-    abandon();
+    cancel();
 }
 
 void DragGuard::press()
 {
-    // All of the application, because an open list takes the release for itself.
+    // The whole application, because an open list gets the release itself.
     if (m_pushed++ == 0)
         QCoreApplication::instance()->installEventFilter(this);
     QGuiApplication::setOverrideCursor(Qt::ClosedHandCursor);
@@ -39,25 +38,26 @@ void DragGuard::release()
     m_dragged->setMouseTracking(false);
 }
 
-void DragGuard::abandon()
+void DragGuard::cancel()
 {
     while (m_pushed > 0)
         release();
 }
 
-// A window gets the release before a widget in it does, and sometimes no widget gets it then: the
-// first one after a list has closed goes nowhere.
-void DragGuard::releasedElsewhere(bool arrived)
+// A window receives the release before the widget in it does, and the first release after a list
+// has closed reaches no widget at all. Whether a button is still held is known once it was
+// delivered.
+void DragGuard::releasedElsewhere(bool toWidget)
 {
-    if (arrived) {
-        abandon();
+    if (toWidget) {
+        cancel();
         return;
     }
-    const auto abandonIfReleased = [this] {
+    const auto cancelUnlessHeld = [this] {
         if (QGuiApplication::mouseButtons() == Qt::NoButton)
-            abandon();
+            cancel();
     };
-    QMetaObject::invokeMethod(this, abandonIfReleased, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, cancelUnlessHeld, Qt::QueuedConnection);
 }
 
 bool DragGuard::eventFilter(QObject* watched, QEvent* event)
@@ -71,7 +71,7 @@ bool DragGuard::eventFilter(QObject* watched, QEvent* event)
     }
     const bool disabled = type == QEvent::EnabledChange && !m_dragged->isEnabled();
     if (disabled || type == QEvent::Hide || type == QEvent::WindowBlocked)
-        abandon();
+        cancel();
     return false;
 }
 

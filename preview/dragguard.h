@@ -11,13 +11,13 @@ class QWidget;
 namespace PrintPanels {
 
 /**
- * What a drag switches on and has to switch off again: the application's override cursor and the
- * mouse tracking of the dragged widget.
+ * Manages what is switched on during a drag: the application's override cursor and the mouse
+ * tracking of the dragged widget.
  *
- * The release that ends a drag never comes when the widget is hidden, disabled, blocked by a modal
- * window or destroyed under the pressed button, and goes elsewhere when a list or a menu opens
- * meanwhile. The guard watches for that and takes back exactly what its presses pushed, so that the
- * whole application does not keep the closed hand.
+ * The release that ends a drag never arrives if the widget is hidden, disabled, blocked by a modal
+ * window or destroyed while the button is held, and goes elsewhere if a list or a menu opens
+ * meanwhile. The guard detects all of these and restores exactly the cursors that its presses
+ * pushed, so that the application is not left with the closed hand.
  */
 class DragGuard : public QObject
 {
@@ -26,23 +26,23 @@ class DragGuard : public QObject
 public:
     /** Watches @p dragged, which must outlive the guard. */
     explicit DragGuard(QWidget* dragged);
-    /** Ends a drag that is still going on. */
+    /** Ends a drag in progress. */
     ~DragGuard() override;
 
-    /** A press: pushes the closed hand and turns mouse tracking on. */
+    /** A button was pressed: pushes the closed hand and turns mouse tracking on. */
     void press();
     /**
-     * A release: takes one override cursor back and turns mouse tracking off. Does so without a
-     * matching press, too.
+     * A button was released: restores one override cursor and turns mouse tracking off, even
+     * without a matching press.
      */
     void release();
-    /** Takes back every cursor still pushed; nothing without a drag. */
-    void abandon();
+    /** Restores every cursor still pushed. Does nothing without a drag. */
+    void cancel();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void releasedElsewhere(bool arrived);
+    void releasedElsewhere(bool toWidget);
 
     QWidget* m_dragged;
     int m_pushed = 0;

@@ -20,9 +20,8 @@ constexpr double zoomInFactor = 1.1;
 constexpr double zoomOutFactor = 0.9090909090909091;
 constexpr double zoomInCeiling = 17.4495;
 
-// Painting looks every pixel's index up in the image's colour table without asking whether the
-// table goes that far. A table without any colour means grey, as it does when an image is
-// converted.
+// Painting looks up every pixel in the image's colour table without checking the table's size. An
+// empty table means grey, as it does when an image is converted.
 void completeColorTable(QImage& image)
 {
     const bool isIndexed = image.format() == QImage::Format_Indexed8 ||
@@ -42,53 +41,54 @@ void completeColorTable(QImage& image)
 
 } // namespace
 
-PreviewView::PreviewView(const QImage& picture, const QSize& size) : preferredSize(size), drag(this)
+PreviewView::PreviewView(const QImage& image, const QSize& sizeHint)
+    : m_sizeHint(sizeHint), m_drag(this)
 {
     setObjectName(QStringLiteral("PreviewView"));
-    takeImage(picture);
+    takeImage(image);
 }
 
 PreviewView::~PreviewView() = default;
 
-void PreviewView::setImage(const QImage& picture)
+void PreviewView::setImage(const QImage& image)
 {
-    takeImage(picture);
+    takeImage(image);
     fitToView();
 }
 
-void PreviewView::takeImage(const QImage& picture)
+void PreviewView::takeImage(const QImage& image)
 {
-    image = picture;
+    m_image = image;
     // Scales count image pixels, also in an image that was rendered for a high-resolution screen.
-    image.setDevicePixelRatio(1.0);
-    completeColorTable(image);
-    imageRect = QRectF(image.rect());
-    imageRect.translate(-imageRect.center());
-    zoom = 1.0;
+    m_image.setDevicePixelRatio(1.0);
+    completeColorTable(m_image);
+    m_imageRect = QRectF(m_image.rect());
+    m_imageRect.translate(-m_imageRect.center());
+    m_zoom = 1.0;
     centre();
 }
 
 void PreviewView::centre()
 {
-    lastMousePos = QPointF();
-    panOffset = QPointF();
+    m_lastMousePos = QPointF();
+    m_panOffset = QPointF();
 }
 
 void PreviewView::zoomIn()
 {
-    if (zoom < zoomInCeiling)
+    if (m_zoom < zoomInCeiling)
         scaleBy(zoomInFactor);
 }
 
 void PreviewView::zoomOut()
 {
-    if (zoom > minZoom)
+    if (m_zoom > m_minZoom)
         scaleBy(zoomOutFactor);
 }
 
 void PreviewView::resetZoom()
 {
-    zoom = fitZoom;
+    m_zoom = m_fitZoom;
     centre();
     update();
 }
@@ -97,47 +97,48 @@ void PreviewView::scaleBy(double factor)
 {
     if (!std::isfinite(factor))
         return;
-    zoom *= factor;
+    m_zoom *= factor;
     update();
 }
 
 void PreviewView::fitToView()
 {
     // A null image has no size to divide by.
-    fitZoom =
-        image.isNull() ? 1.0 : std::min(width() / imageRect.width(), height() / imageRect.height());
-    minZoom = fitZoom * zoomOutFactor;
+    m_fitZoom = m_image.isNull()
+                    ? 1.0
+                    : std::min(width() / m_imageRect.width(), height() / m_imageRect.height());
+    m_minZoom = m_fitZoom * zoomOutFactor;
     resetZoom();
 }
 
 QSize PreviewView::sizeHint() const
 {
-    return preferredSize;
+    return m_sizeHint;
 }
 
-// A double-click is a press as well: QWidget hands it on to here.
+// Also called for a double-click, which QWidget handles as a press.
 void PreviewView::mousePressEvent(QMouseEvent* event)
 {
-    lastMousePos = event->position().toPoint();
-    drag.press();
+    m_lastMousePos = event->position().toPoint();
+    m_drag.press();
 }
 
 void PreviewView::mouseReleaseEvent(QMouseEvent*)
 {
-    drag.release();
+    m_drag.release();
 }
 
-// Does not ask for buttons: moves arrive only between press and release.
+// Does not check the buttons: moves arrive only between press and release.
 void PreviewView::mouseMoveEvent(QMouseEvent* event)
 {
     const QPointF position = event->position().toPoint();
-    const QPointF way = position - lastMousePos;
-    lastMousePos = position;
-    // Divided one by one: QPointF asserts that a divisor is not about zero, as the scale is in a
-    // view without a size. There no way on the screen is one on the image.
-    const QPointF imageWay(way.x() / zoom, way.y() / zoom);
-    if (std::isfinite(imageWay.x()) && std::isfinite(imageWay.y()))
-        panOffset += imageWay;
+    const QPointF distance = position - m_lastMousePos;
+    m_lastMousePos = position;
+    // Divided one by one, because QPointF asserts that a divisor is not close to zero, as the scale
+    // is in a view without a size. No distance on the screen is one on the image then.
+    const QPointF imageDistance(distance.x() / m_zoom, distance.y() / m_zoom);
+    if (std::isfinite(imageDistance.x()) && std::isfinite(imageDistance.y()))
+        m_panOffset += imageDistance;
     update();
 }
 
@@ -153,13 +154,13 @@ void PreviewView::wheelEvent(QWheelEvent* event)
 
 void PreviewView::paintEvent(QPaintEvent*)
 {
-    if (image.isNull() || !std::isfinite(zoom))
+    if (m_image.isNull() || !std::isfinite(m_zoom))
         return;
     QPainter painter(this);
     painter.translate(QPointF(rect().center()));
-    painter.scale(zoom, zoom);
-    painter.translate(panOffset);
-    painter.drawImage(imageRect.topLeft(), image);
+    painter.scale(m_zoom, m_zoom);
+    painter.translate(m_panOffset);
+    painter.drawImage(m_imageRect.topLeft(), m_image);
 }
 
 void PreviewView::showEvent(QShowEvent* event)

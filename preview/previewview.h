@@ -15,12 +15,11 @@
 namespace PrintPanels {
 
 /**
- * The canvas that shows one image, to be zoomed with the wheel or by its owner's buttons and
- * dragged with the mouse.
+ * The canvas that shows one image, zoomed with the wheel or by its owner's buttons and dragged with
+ * the mouse.
  *
- * It draws the image and nothing else: what surrounds the image is whatever the parent paints
- * behind the view. Showing the view and giving it an image fit the image; a resize does not.
- * A null image shows nothing.
+ * It draws only the image; whatever the parent paints behind the view surrounds it. Showing the
+ * view and setting an image fit the image, resizing the view does not. A null image shows nothing.
  */
 class PreviewView : public QWidget
 {
@@ -29,29 +28,28 @@ class PreviewView : public QWidget
 public:
     /**
      * Creates a view of @p image without a parent: the owner's layout gives it one. @p sizeHint is
-     * what sizeHint() answers, in pixels.
+     * what sizeHint() returns, in pixels.
      */
     PreviewView(const QImage& image, const QSize& sizeHint);
-    /** Ends a drag that is still going on, so that no override cursor is left behind. */
+    /** Ends a drag in progress, so that no override cursor is left behind. */
     ~PreviewView() override;
 
-    /** Shows another image, fitted and centred. The view shares the picture and does not copy it.
+    /** Shows another image, fitted and centred. The view shares the pixels and does not copy them.
      */
     void setImage(const QImage& image);
 
-    /** One step closer, by 1.1, unless the scale has reached 17.4495. */
+    /** Zooms in by one step of 1.1, unless the scale has reached 17.4495. */
     void zoomIn();
-    /** One step away, by 0.9090909090909091, but not further than one step beyond the fit. */
+    /** Zooms out by one step of 0.9090909090909091, at most to one step below the fit. */
     void zoomOut();
-    /** Back to the scale of the last fit, centred. */
+    /** Goes back to the scale of the last fit, centred. */
     void resetZoom();
-    /** Multiplies the scale by @p factor without any limit. A factor that is no number is ignored.
-     */
+    /** Multiplies the scale by @p factor without any limit. Infinity and NaN are ignored. */
     void scaleBy(double factor);
-    /** Scales the image so that the whole of it just fits into the view, and centres it. */
+    /** Scales the image so that all of it just fits into the view, and centres it. */
     void fitToView();
 
-    /** The size given at construction. */
+    /** The size given to the constructor. */
     QSize sizeHint() const override;
 
 protected:
@@ -63,23 +61,23 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    void takeImage(const QImage& picture);
+    void takeImage(const QImage& image);
     void centre();
 
-    QImage image;
+    QImage m_image;
     // The image's rectangle around the origin, in image pixels.
-    QRectF imageRect;
+    QRectF m_imageRect;
     // Whole pixels of the view.
-    QPointF lastMousePos;
+    QPointF m_lastMousePos;
     // In image pixels, so it is added before scaling.
-    QPointF panOffset;
-    // Screen pixels per image pixel. They start at 1.0, so that nothing breaks before the first
+    QPointF m_panOffset;
+    // Screen pixels per image pixel. They start at 1.0, so that the view works before the first
     // fit.
-    double minZoom = 1.0;
-    double zoom = 1.0;
-    double fitZoom = 1.0;
-    QSize preferredSize;
-    DragGuard drag;
+    double m_minZoom = 1.0;
+    double m_zoom = 1.0;
+    double m_fitZoom = 1.0;
+    QSize m_sizeHint;
+    DragGuard m_drag;
 };
 
 } // namespace PrintPanels

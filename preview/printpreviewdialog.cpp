@@ -3,278 +3,81 @@
 
 #include <printpanels/printpreviewdialog.h>
 
-#include "foundation/hostkit.h"
-#include "foundation/panelparts.h"
-#include "foundation/stylesheets.h"
+#include "foundation/widgets/windowposition.h"
 #include "preview/previewview.h"
+#include "preview/printpreviewdialog_p.h"
 
 #include <printpanels/sharedconstants.h>
 
-#include <QtGui/QIcon>
-#include <QtWidgets/QBoxLayout>
-#include <QtWidgets/QButtonGroup>
-#include <QtWidgets/QFrame>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QToolTip>
 
-using PrintPanels::PreviewView;
-
-namespace {
-
-constexpr QSize popupSize(860, 500);
-constexpr QSize viewSize(750, 450);
-constexpr QSize textButtonSize(100, 35);
-constexpr QSize zoomIconSize(42, 46);
-constexpr int titlePixelSize = 14;
-constexpr int landscapeId = 0;
-constexpr int portraitId = 1;
-
-// A host may embed the popup in a dialog of its own: Return there must not press a button here.
-QPushButton* createButton(const QString& name, const QString& text, const QString& styleSheet)
-{
-    auto* button = new QPushButton(text);
-    button->setObjectName(name);
-    button->setStyleSheet(styleSheet);
-    button->setAutoDefault(false);
-    return button;
-}
-
-QPushButton* createZoomButton(const QString& name, const QString& styleSheet)
-{
-    QPushButton* button = createButton(name, QString(), styleSheet);
-    button->setIconSize(zoomIconSize);
-    return button;
-}
-
-QPushButton* createOrientationButton(const QString& name, const QString& styleSheet, bool checked)
-{
-    QPushButton* button = createButton(name, QString(), styleSheet);
-    button->setToolTip(PrintPreviewDialog::ORIENTATION_TIP);
-    button->setCheckable(true);
-    button->setChecked(checked);
-    return button;
-}
-
-QSpacerItem* createGap()
-{
-    return new QSpacerItem(30, 10, QSizePolicy::Expanding, QSizePolicy::Fixed);
-}
-
-QFrame* createGreyFrame(PreviewView* view)
-{
-    auto* layout = new QVBoxLayout;
-    layout->setSpacing(0);
-    layout->setContentsMargins(1, 1, 1, 1);
-    layout->addWidget(view);
-
-    auto* frame = new QFrame;
-    frame->setStyleSheet(StyleSheets::previewFrame());
-    frame->setLayout(layout);
-    return frame;
-}
-
-QFrame* createOuterFrame(QLayout* layout)
-{
-    auto* frame = new QFrame;
-    frame->setObjectName(QStringLiteral("JxPreviewFrame"));
-    frame->setStyleSheet(StyleSheets::previewDialogFrame());
-    frame->setFrameShape(QFrame::Panel);
-    frame->setFrameShadow(QFrame::Raised);
-    frame->setLayout(layout);
-    return frame;
-}
-
-} // namespace
-
-// The shared text is built earlier, because its header stands above.
+// The shared text is initialised first, because its header stands above.
 const QString PrintPreviewDialog::ORIENTATION_TIP = SharedConstants::orientationToolTip;
-
-/** The buttons that nothing asks for once they are connected. */
-struct PrintPreviewDialog::Buttons
-{
-    QPushButton* close;
-    QPushButton* zoomIn;
-    QPushButton* zoomOut;
-    QPushButton* fit;
-};
 
 PrintPreviewDialog::PrintPreviewDialog(QWidget* parent, Qt::WindowFlags flags, const QImage& image,
                                        const QSizeF& designSize, const QSizeF& printedSize,
                                        bool printedSizeOnly, bool portrait, bool metric,
-                                       int firstRecord, int lastRecord, const QString& records)
-    : QWidget(parent, flags),
-      sequenceStart(firstRecord),
-      sequenceEnd(lastRecord),
-      recordList(records)
+                                       int sequenceStart, int sequenceEnd,
+                                       const QString& recordList)
+    : QWidget(parent, flags), d(std::make_unique<PrintPanels::PrintPreviewDialogPrivate>(this))
 {
+    d->setRange(sequenceStart, sequenceEnd, recordList);
     setObjectName(QStringLiteral("PrintPreviewDialog"));
     hide();
-    createTitleBar();
+    d->createTitleBar();
     setUpTitleBar(designSize, printedSize, printedSizeOnly, metric);
-    const Buttons buttons = createButtons();
-    QToolTip::setFont(ApplicationFont::getWidgetFontSmall(false));
-    createOrientationButtons(portrait);
-    preview = new PreviewView(image, viewSize);
-    createLayout(createButtonRow(buttons));
-    connectControls(buttons);
+    d->createContents(image, portrait);
 }
 
+// Children emit while they are destroyed. A handler would then call a popup that is partly
+// destroyed.
 PrintPreviewDialog::~PrintPreviewDialog()
 {
     blockSignals(true);
 }
 
-void PrintPreviewDialog::createTitleBar()
-{
-    titleBar = new ContainerTitleBar(nullptr, QString(), QString(), titlePixelSize);
-    titleBar->setFont(ApplicationFont::getWidgetFontSmall(false));
-}
-
-PrintPreviewDialog::Buttons PrintPreviewDialog::createButtons()
-{
-    const QString textStyle = StyleSheets::primaryPushButton();
-    printButton = createButton(QStringLiteral("printButton"),
-                               tr("Print", "Button to initiate print."), textStyle);
-    printButton->setFixedSize(textButtonSize);
-
-    Buttons buttons;
-    buttons.close = createButton(QStringLiteral("closeButton"),
-                                 tr("Close", "Button to close print preview."), textStyle);
-    buttons.close->setFixedSize(textButtonSize);
-    buttons.zoomIn = createZoomButton(QStringLiteral("zoomInButton"), StyleSheets::zoomInButton());
-    buttons.zoomOut =
-        createZoomButton(QStringLiteral("zoomOutButton"), StyleSheets::zoomOutButton());
-    buttons.fit = createZoomButton(QStringLiteral("fitButton"), StyleSheets::fitButton());
-    buttons.fit->setIcon(
-        QIcon(QStringLiteral(":/printicons/printericons/zoom_fit_transparent.png")));
-    return buttons;
-}
-
-void PrintPreviewDialog::createOrientationButtons(bool portrait)
-{
-    portraitButton = createOrientationButton(QStringLiteral("portraitButton"),
-                                             StyleSheets::portraitButton(), portrait);
-    landscapeButton = createOrientationButton(QStringLiteral("landscapeButton"),
-                                              StyleSheets::landscapeButton(), !portrait);
-    orientationGroup = new QButtonGroup(this);
-    orientationGroup->addButton(landscapeButton, landscapeId);
-    orientationGroup->addButton(portraitButton, portraitId);
-    orientationGroup->setExclusive(true);
-}
-
-QBoxLayout* PrintPreviewDialog::createButtonRow(const Buttons& buttons) const
-{
-    auto* row = new QHBoxLayout;
-    row->setSpacing(10);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(buttons.zoomIn);
-    row->addWidget(buttons.zoomOut);
-    row->addWidget(buttons.fit);
-    row->addItem(createGap());
-    row->addWidget(portraitButton);
-    row->addWidget(landscapeButton);
-    row->addItem(createGap());
-    row->addWidget(printButton);
-    row->addWidget(buttons.close);
-    return row;
-}
-
-void PrintPreviewDialog::createLayout(QBoxLayout* buttonRow)
-{
-    auto* inner = new QVBoxLayout;
-    inner->setSpacing(10);
-    inner->setContentsMargins(10, 0, 10, 5);
-    inner->addWidget(createGreyFrame(preview));
-    inner->addLayout(buttonRow);
-
-    auto* outer = new QVBoxLayout;
-    outer->setSpacing(10);
-    outer->setContentsMargins(0, 0, 0, 0);
-    outer->addWidget(titleBar);
-    outer->addLayout(inner);
-
-    auto* whole = new QVBoxLayout;
-    whole->setContentsMargins(0, 0, 0, 0);
-    whole->addWidget(createOuterFrame(outer));
-    setLayout(whole);
-    setFixedSize(popupSize);
-}
-
-void PrintPreviewDialog::connectControls(const Buttons& buttons)
-{
-    connect(printButton, SIGNAL(clicked()), this, SLOT(print()));
-    // Closes first: whoever hears the signal finds the popup hidden.
-    connect(buttons.close, SIGNAL(clicked()), this, SLOT(close()));
-    connect(buttons.close, SIGNAL(clicked()), this, SIGNAL(popupHideSignal()));
-    connect(buttons.zoomIn, SIGNAL(clicked()), this, SLOT(zoomIn()));
-    connect(buttons.zoomOut, SIGNAL(clicked()), this, SLOT(zoomOut()));
-    connect(buttons.fit, SIGNAL(clicked()), this, SLOT(zoomFit()));
-    connect(orientationGroup, SIGNAL(idClicked(int)), this, SIGNAL(orientationChangedSignal(int)));
-    connect(titleBar, SIGNAL(closeButtonClicked()), this, SLOT(close()));
-    connect(titleBar, SIGNAL(closeButtonClicked()), this, SIGNAL(popupHideSignal()));
-    connect(titleBar, SIGNAL(signalMove(int, int)), this, SLOT(mouseMoveSlot(int, int)));
-}
-
 void PrintPreviewDialog::updatePreview(const QImage& image, const QSizeF& designSize,
                                        const QSizeF& printedSize, bool printedSizeOnly,
-                                       bool portrait, bool metric, int firstRecord, int lastRecord,
-                                       const QString& records)
+                                       bool portrait, bool metric, int sequenceStart,
+                                       int sequenceEnd, const QString& recordList)
 {
-    preview->setImage(image);
-    // The group unchecks the other one.
-    (portrait ? portraitButton : landscapeButton)->setChecked(true);
-    sequenceStart = firstRecord;
-    sequenceEnd = lastRecord;
-    recordList = records;
+    d->preview->setImage(image);
+    d->setPortrait(portrait);
+    d->setRange(sequenceStart, sequenceEnd, recordList);
     setUpTitleBar(designSize, printedSize, printedSizeOnly, metric);
 }
 
 void PrintPreviewDialog::setUpTitleBar(const QSizeF& designSize, const QSizeF& printedSize,
                                        bool printedSizeOnly, bool metric)
 {
-    const QString unit =
-        metric ? SharedConstants::millimetersSuffix : SharedConstants::inchMarkSuffix;
-    const auto number = [decimals = metric ? 0 : 2](double length) {
-        return QString::number(length, 'f', decimals);
-    };
-    // One call with all arguments, so that a place marker inside a number or a unit stays text.
-    if (printedSizeOnly) {
-        titleBar->setTitle(
-            tr("Print Preview (%1%2 X %3%2)", "Dialog title with label size.")
-                .arg(number(printedSize.width()), unit, number(printedSize.height())));
-        return;
-    }
-    titleBar->setTitle(tr("Print Preview (Design: %1%2 X %3%2  Printed: %4%2 X %5%2)",
-                          "Dialog title with label size.")
-                           .arg(number(designSize.width()), unit, number(designSize.height()),
-                                number(printedSize.width()), number(printedSize.height())));
+    d->setTitle(designSize, printedSize, printedSizeOnly, metric);
 }
 
 void PrintPreviewDialog::enablePrintButton(bool state)
 {
-    printButton->setEnabled(state);
+    d->printButton->setEnabled(state);
 }
 
 void PrintPreviewDialog::print()
 {
-    // A copy: a listener may give a new range or delete the popup while the signal is under way.
-    const QString records = recordList;
-    Q_EMIT previewPrintSignal(sequenceStart, sequenceEnd, records);
+    // A copy: a handler may set a new range or delete the popup while the signal is delivered.
+    const QString records = d->recordList;
+    Q_EMIT previewPrintSignal(d->sequenceStart, d->sequenceEnd, records);
 }
 
 void PrintPreviewDialog::zoomIn()
 {
-    preview->zoomIn();
+    d->preview->zoomIn();
 }
 
 void PrintPreviewDialog::zoomOut()
 {
-    preview->zoomOut();
+    d->preview->zoomOut();
 }
 
 void PrintPreviewDialog::zoomFit()
 {
-    preview->resetZoom();
+    d->preview->resetZoom();
 }
 
 void PrintPreviewDialog::mouseMoveSlot(int x, int y)

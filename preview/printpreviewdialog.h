@@ -9,27 +9,22 @@
 #include <QtCore/QString>
 #include <QtWidgets/QWidget>
 
-class QBoxLayout;
-class QButtonGroup;
+#include <memory>
+
 class QImage;
-class QPushButton;
 class QSizeF;
 
-class ContainerTitleBar;
-
 namespace PrintPanels {
-class PreviewView;
+class PrintPreviewDialogPrivate;
 }
 
 /**
  * The popup that shows the label about to be printed, to be zoomed, dragged, turned and printed.
  *
- * It renders and prints nothing: its signals say what the user wants, and the host answers with
- * updatePreview(). It starts hidden, and the host shows it, any number of times. The host owns it
- * like any QWidget; it owns all it shows. Its size is fixed at 860 x 500 pixels. Sizes are numbers
- * in the unit that @e metric names: millimetres if true, inches if false.
- *
- * To delete it, or a parent of it, in a handler of one of its signals, use deleteLater().
+ * It neither renders nor prints: its signals say what the user wants, and the host answers with
+ * updatePreview(). It starts hidden, and the host shows it any number of times. Its size is fixed
+ * at 860 x 500 pixels. Sizes of labels are in the unit that @e metric names: millimetres if true,
+ * inches if false. In a handler of its signals use deleteLater() to delete it.
  */
 class PRINTPANELS_EXPORT PrintPreviewDialog : public QWidget
 {
@@ -37,11 +32,11 @@ class PRINTPANELS_EXPORT PrintPreviewDialog : public QWidget
     Q_DISABLE_COPY_MOVE(PrintPreviewDialog)
 
 public:
-    /** Tool tip of the two orientation buttons, translated when the library was loaded. */
+    /** Tool tip of the two orientation buttons, translated when the library is loaded. */
     static const QString ORIENTATION_TIP;
 
     /**
-     * Builds the popup, hidden. @p flags go to QWidget unchanged; Qt::Popup or
+     * Creates the popup, hidden. @p flags go to QWidget unchanged; Qt::Popup or
      * Qt::FramelessWindowHint make a window of it. The other arguments are those of
      * updatePreview(). Sets the application's tool-tip font to the host's small one.
      */
@@ -49,6 +44,7 @@ public:
                        const QSizeF& designSize, const QSizeF& printedSize, bool printedSizeOnly,
                        bool portrait, bool metric, int sequenceStart, int sequenceEnd,
                        const QString& recordList);
+    /** Destroys the popup and its children. Emits nothing. */
     ~PrintPreviewDialog() override;
 
     /**
@@ -67,13 +63,13 @@ public:
     void updatePreview(const QImage& image, const QSizeF& designSize, const QSizeF& printedSize,
                        bool printedSizeOnly, bool portrait, bool metric, int sequenceStart,
                        int sequenceEnd, const QString& recordList);
-    /** Composes the title from the sizes; see updatePreview(). */
+    /** Sets the title from the sizes; see updatePreview(). */
     void setUpTitleBar(const QSizeF& designSize, const QSizeF& printedSize, bool printedSizeOnly,
                        bool metric);
 
 Q_SIGNALS:
     /**
-     * The user asks to print what is shown: the range that the host gave last, as it was given. The
+     * The user asks to print what is shown: the range that the host set last, as it was set. The
      * popup stays open.
      */
     void previewPrintSignal(int sequenceStart, int sequenceEnd, const QString& recordList);
@@ -88,35 +84,20 @@ Q_SIGNALS:
 public Q_SLOTS:
     /** Enables or disables the Print button. */
     void enablePrintButton(bool state);
-    /** Emits previewPrintSignal() with the range given last, whatever the Print button's state. */
+    /** Emits previewPrintSignal() with the range set last, whatever the Print button's state. */
     void print();
-    /** Zooms the label in by one step, up to a limit. */
+    /** Zooms in by one step, up to a limit. */
     void zoomIn();
-    /** Zooms the label out by one step, down to one step below the fit. */
+    /** Zooms out by one step, down to one step below the fit. */
     void zoomOut();
     /** Fits the label into the view and centres it. */
     void zoomFit();
-    /** Moves the popup's top left corner to this place, in the parent's or screen's coordinates. */
+    /** Moves the popup's top left corner to this position, in the parent's or screen's coordinates.
+     */
     void mouseMoveSlot(int, int);
 
 private:
-    struct Buttons;
-    void createTitleBar();
-    Buttons createButtons();
-    void createOrientationButtons(bool portrait);
-    QBoxLayout* createButtonRow(const Buttons& buttons) const;
-    void createLayout(QBoxLayout* buttonRow);
-    void connectControls(const Buttons& buttons);
-
-    PrintPanels::PreviewView* preview = nullptr;
-    ContainerTitleBar* titleBar = nullptr;
-    QPushButton* portraitButton = nullptr;
-    QPushButton* landscapeButton = nullptr;
-    QButtonGroup* orientationGroup = nullptr;
-    QPushButton* printButton = nullptr;
-    int sequenceStart;
-    int sequenceEnd;
-    QString recordList;
+    std::unique_ptr<PrintPanels::PrintPreviewDialogPrivate> const d;
 };
 
 #endif

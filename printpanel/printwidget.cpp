@@ -1,131 +1,185 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-// ---- Construction, modules and buttons ----
-
 #include <printpanels/printwidget.h>
 
-#include "foundation/hostkit.h"
 #include "foundation/stylesheets.h"
+#include "printpanel/printwidget_p.h"
 
 #include <QtWidgets/QCheckBox>
-#include <QtWidgets/QFrame>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QVBoxLayout>
 
-PrintWidget::PrintWidget(bool withPrintToFile, QWidget* parent)
-    : PrintWidgetInterface(withPrintToFile, parent),
-      printToFile(withPrintToFile),
-      onlineText(tr("Online", "Printer status")),
-      offlineText(tr("Offline", "Printer status")),
-      remoteText(tr("Remote", "Printer status")),
-      unavailableText(tr(", Unavailable", "Printer status"))
+PrintWidget::PrintWidget(bool printToFile, QWidget* parent)
+    : PrintWidgetInterface(printToFile, parent),
+      d(std::make_unique<PrintPanels::PrintWidgetPrivate>(this, printToFile))
 {
     setObjectName(QStringLiteral("PrintWidget"));
     setStyleSheet(StyleSheets::printSettingsPanel());
-    createWidgetLayout();
+    d->createWidgetLayout();
 }
 
+// Children emit while they are destroyed, such as an edit that loses the focus. A handler would
+// then call a panel that is partly destroyed.
 PrintWidget::~PrintWidget()
 {
     blockSignals(true);
-}
-
-// Each step adds its section below the one before.
-void PrintWidget::createWidgetLayout()
-{
-    mainLayout = new QVBoxLayout;
-    setLayout(mainLayout);
-
-    createTitle();
-    createAmmoniaFrame();
-    createPrinterSelectorLayout();
-    createCopyCountLayout();
-    createSupplyInfoFrame();
-    createRecordsRangeLayout();
-    createUserBackgroundCheck();
-    createBottomSeparator();
-    if (printToFile)
-        createPrintToFileLayout();
-    createPrintButtonsLayout();
-}
-
-void PrintWidget::createTitle()
-{
-    auto* title = new QLabel(tr("PRINT SETTINGS", "Title for print settings."));
-    title->setFont(ApplicationFont::getWidgetFont(true));
-    mainLayout->addWidget(title);
-    mainLayout->addItem(new QSpacerItem(15, 15, QSizePolicy::Minimum, QSizePolicy::Minimum));
-    mainLayout->addWidget(createSeparatorBar());
-}
-
-void PrintWidget::createUserBackgroundCheck()
-{
-    userBackgroundCheck = new QCheckBox(
-        tr("Print User Background", "Checkbox to print or not the user background layer"));
-    userBackgroundCheck->setObjectName(QStringLiteral("userBackgroundCheck"));
-    userBackgroundCheck->setFont(ApplicationFont::getWidgetFont(true));
-    userBackgroundCheck->hide();
-    mainLayout->addWidget(userBackgroundCheck);
-}
-
-// The bar is the only item that stretches. A line has a fixed height, so its cell takes the extra
-// height and the line stays at the cell's bottom, next to the rows below it; nothing else grows.
-void PrintWidget::createBottomSeparator()
-{
-    constexpr int onlyStretch = 11;
-    mainLayout->addItem(new QSpacerItem(15, 7, QSizePolicy::Minimum, QSizePolicy::Minimum));
-    bottomSeparator = createSeparatorBar();
-    bottomSeparator->setObjectName(QStringLiteral("bottomSeparator"));
-    mainLayout->addWidget(bottomSeparator, onlyStretch, Qt::AlignBottom);
-    mainLayout->addItem(new QSpacerItem(15, 15, QSizePolicy::Minimum, QSizePolicy::Minimum));
 }
 
 void PrintWidget::setModule(const JxModuleInfo::JxModuleTypes& module)
 {
     if (module != JxModuleInfo::PipeMarking)
         return;
-    recordsFrame->hide();
-    createAmmoniaLayout();
+    d->records.hide();
+    d->ammonia.createAmmoniaLayout();
 }
 
 void PrintWidget::disablePrintButtons()
 {
-    previewButton->setEnabled(false);
-    printButton->setEnabled(false);
+    d->setPrintButtonsEnabled(false);
 }
 
 void PrintWidget::disableAllButtons()
 {
     disablePrintButtons();
-    preferencesButton->setEnabled(false);
+    d->printer.setPreferencesEnabled(false);
 }
 
 void PrintWidget::enablePrintButtons()
 {
-    previewButton->setEnabled(true);
-    printButton->setEnabled(true);
+    d->setPrintButtonsEnabled(true);
 }
 
 void PrintWidget::enableAllButtons()
 {
     enablePrintButtons();
-    preferencesButton->setEnabled(true);
+    d->printer.setPreferencesEnabled(true);
 }
 
 void PrintWidget::setShowUserBackground(bool show)
 {
-    userBackgroundCheck->setVisible(show);
+    d->userBackgroundCheck->setVisible(show);
 }
 
 void PrintWidget::setPrintUserBackground(bool print)
 {
-    userBackgroundCheck->setChecked(print);
+    d->userBackgroundCheck->setChecked(print);
 }
 
 bool PrintWidget::getPrintUserBackground() const
 {
-    return userBackgroundCheck->isChecked();
+    return d->userBackgroundCheck->isChecked();
+}
+
+void PrintWidget::addPrinterToList(const QString& name, bool atTop)
+{
+    d->printer.addPrinterToList(name, atTop);
+}
+
+void PrintWidget::updateListOfPrinters(const QStringList& printers, int currentIndex)
+{
+    d->printer.updateListOfPrinters(printers, currentIndex);
+}
+
+void PrintWidget::setSelectedPrinter(const QString& name)
+{
+    d->printer.setSelectedPrinter(name);
+}
+
+QString PrintWidget::getSelectedPrinter() const
+{
+    return d->printer.getSelectedPrinter();
+}
+
+void PrintWidget::setNumberOfCopies(int copies)
+{
+    d->printer.setNumberOfCopies(copies);
+}
+
+int PrintWidget::getNumberOfCopies()
+{
+    return d->printer.getNumberOfCopies();
+}
+
+void PrintWidget::whatToPrint(int& sequenceStart, int& sequenceEnd,
+                              QString& customRecordsList) const
+{
+    d->records.whatToPrint(sequenceStart, sequenceEnd, customRecordsList);
+}
+
+void PrintWidget::setRangeValues(int currentIndex, int lastIndex, bool enabled)
+{
+    d->records.setRangeValues(currentIndex, lastIndex, enabled);
+}
+
+void PrintWidget::listRangeParse()
+{
+    d->records.listRangeParse();
+}
+
+void PrintWidget::setNupSeqRepVisible(bool visible)
+{
+    d->nup.setNupSeqRepVisible(visible);
+}
+
+void PrintWidget::setNupDynamicLength(bool on)
+{
+    d->nup.setNupDynamicLength(on);
+}
+
+bool PrintWidget::getNupSeqRepOption() const
+{
+    return d->nup.getNupSeqRepOption();
+}
+
+void PrintWidget::createAmmoniaComboList()
+{
+    d->ammonia.createAmmoniaComboList();
+}
+
+void PrintWidget::createSupplyInfoLayout()
+{
+    d->supply.createSupplyInfoLayout();
+}
+
+void PrintWidget::showSupplyInfo(const QStringList& colors, bool twoRibbons, double width,
+                                 unsigned char metric, bool showTinyLadder)
+{
+    d->supply.showSupplyInfo(colors, twoRibbons, width, metric, showTinyLadder);
+}
+
+void PrintWidget::hideSupplyInfo()
+{
+    d->supply.hideSupplyInfo();
+}
+
+bool PrintWidget::isSupplyInfoVisible() const
+{
+    return d->supply.isSupplyInfoVisible();
+}
+
+bool PrintWidget::isTinySupply() const
+{
+    return d->supply.isTinySupply();
+}
+
+void PrintWidget::setColorPalette(const QStringList& ribbonColors, const QStringList& supplyColors)
+{
+    d->supply.setColorPalette(ribbonColors, supplyColors);
+}
+
+void PrintWidget::addMenuToStack(int index, const QString& color, const QString& tabText,
+                                 const QString& toolTip, ColorMenu* menu)
+{
+    d->supply.addMenuToStack(index, color, tabText, toolTip, menu);
+}
+
+void PrintWidget::updateColorSelection(int index, const QString& color, ColorMenu* menu)
+{
+    d->supply.updateColorSelection(index, color, menu);
+}
+
+bool PrintWidget::getPrintToFileEnabled() const
+{
+    return d->testControls.getPrintToFileEnabled();
 }
 
 void PrintWidget::showEvent(QShowEvent* event)
@@ -133,3 +187,25 @@ void PrintWidget::showEvent(QShowEvent* event)
     PrintWidgetInterface::showEvent(event);
     Q_EMIT printWidgetShowSignal();
 }
+
+void PrintWidget::updateCurrentRangeIndex(int sequenceCurrent)
+{
+    d->records.updateCurrentRangeIndex(sequenceCurrent);
+}
+
+void PrintWidget::setVisibleAmmoniaTag(int tag)
+{
+    d->ammonia.setVisibleAmmoniaTag(tag);
+}
+
+void PrintWidget::updatePrinterLocation(const QString& location)
+{
+    d->printer.updatePrinterLocation(location);
+}
+
+void PrintWidget::updatePrinterStatus(bool offline, bool remote, bool unavailable)
+{
+    d->printer.updatePrinterStatus(offline, remote, unavailable);
+}
+
+#include "moc_printwidget.cpp"

@@ -9,25 +9,19 @@
 
 #include <QtCore/QSizeF>
 
-class QFrame;
-class QGridLayout;
-class QImage;
-class QLabel;
-class QLayout;
-class QPushButton;
+#include <memory>
 
-class JxLineEdit;
-class JxSpinBox;
+class QImage;
 
 namespace PrintPanels {
-class PreviewView;
+class QuickPrintWidgetPrivate;
 }
 
 /**
  * The small panel that prints one finished label: printer name, size to print at, preview, copies.
  *
- * Print asks for the label that is shown, without a range of records; Open in Editor emits
- * openModuleSignal(). The panel owns all it shows. Print starts disabled.
+ * Print requests the label that is shown, without a range of records; Open in Editor emits
+ * openModuleSignal(). Print starts disabled.
  */
 class PRINTPANELS_EXPORT QuickPrintWidget : public PrintWidgetInterface
 {
@@ -36,41 +30,55 @@ class PRINTPANELS_EXPORT QuickPrintWidget : public PrintWidgetInterface
 
 public:
     /**
-     * Builds the panel. @p quickPrint is the host's own; the panel only keeps it. The panel does
-     * not become a child of @p parent: the layout that the host puts it into gives it a parent, and
-     * without one the host deletes it.
+     * Creates the panel. @p quickPrint has no effect on it. The panel does not become a child of
+     * @p parent: the layout that the host adds it to gives it a parent, and without one the host
+     * deletes it.
      */
     QuickPrintWidget(bool quickPrint, QWidget* parent);
+    /** Destroys the panel and its children. Emits nothing. */
     ~QuickPrintWidget() override;
 
+    /// @name Module and buttons
+    /// @{
     /** Shows the size fields for JxCatalog and JavaScript and hides them for all other modules. */
     void setModule(const JxModuleInfo::JxModuleTypes& module) override;
-    // The "print" button is Print alone; "all" adds Open in Editor.
+    /** Disables Print. */
     void disablePrintButtons() override;
+    /** Disables Print and Open in Editor. */
     void disableAllButtons() override;
+    /** Enables Print. */
     void enablePrintButtons() override;
+    /** Enables Print and Open in Editor. */
     void enableAllButtons() override;
-    /** Shows the number of copies, clamped to 1 to 999. */
+    /// @}
+
+    /// @name Copies
+    /// @{
+    /** Sets the number of copies, clamped to 1 to 999. */
     void setNumberOfCopies(int copies) override;
     /** The number of copies, 1 to 999. */
     int getNumberOfCopies() override;
+    /// @}
 
+    /// @name Printer and label
+    /// @{
     /** Shows the name of the current printer, as plain text. */
     void setCurrentPrinterName(const QString& name);
     /** Shows another rendering of the label, fitted and centred. A null image shows nothing. */
     void updateQuickPrint(const QImage& image);
-    /** Fills the size fields, length from the width, with two decimals, in the host's unit. */
+    /** Fills in the size fields, length from the width, with two decimals, in the host's unit. */
     void setCanvasSize(const QSizeF& size);
     /**
      * What the size fields hold, length as the width, in the unit of setCanvasSize(). A field
-     * whose text is no number counts as -1.0.
+     * whose text is not a number counts as -1.0.
      */
     QSizeF getCanvasSize() const;
+    /// @}
 
 Q_SIGNALS:
     /**
-     * The user asks for a label of this size, in the unit of setCanvasSize(). A dimension that was
-     * no number is -1.0; what is a sensible size is for the host to say.
+     * The user asks for a label of this size, in the unit of setCanvasSize(). A dimension whose
+     * text is not a number is -1.0; which sizes make sense is for the host to decide.
      */
     void resizeSignal(const QSizeF& canvasSize);
 
@@ -83,25 +91,7 @@ public Q_SLOTS:
     void resizeSlot();
 
 private:
-    void createWidgetLayout();
-    void createResizeLayout();
-    void createPreviewLayout();
-    QFrame* createCopyCountLayout();
-    QLayout* createButtonsLayout();
-
-    QGridLayout* mainLayout = nullptr;
-    QLabel* printerNameLabel = nullptr;
-    QFrame* resizeFrame = nullptr;
-    JxLineEdit* lengthEdit = nullptr;
-    JxLineEdit* widthEdit = nullptr;
-    QPushButton* resizeButton = nullptr;
-    PrintPanels::PreviewView* preview = nullptr;
-    JxSpinBox* copiesSpinBox = nullptr;
-    QPushButton* plusButton = nullptr;
-    QPushButton* minusButton = nullptr;
-    QPushButton* printButton = nullptr;
-    QPushButton* openInEditorButton = nullptr;
-    [[maybe_unused]] const bool quickPrintFlag;
+    std::unique_ptr<PrintPanels::QuickPrintWidgetPrivate> const d;
 };
 
 #endif

@@ -11,18 +11,18 @@
 namespace PrintPanels {
 
 /**
- * An elided label of several lines. It breaks between words, and inside a word that no line can
- * hold; the last line ends in an ellipsis when there is more.
+ * An elided label of several lines. Lines break between words, and inside a word that is longer
+ * than a line; the last line is elided if there is more text.
  */
 class WrappedLabel : public ElidedLabel
 {
 public:
     WrappedLabel();
 
-    /** One line's height and no width: the layout gives the width, and asks heightForWidth(). */
+    /** One line's height and no width: the layout sets the width and uses heightForWidth(). */
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
-    /** Height in pixels of the lines that the text takes at @p width pixels, four lines at most. */
+    /** Height in pixels of the text's lines at @p width pixels; four lines at most. */
     int heightForWidth(int width) const override;
 
 protected:

@@ -35,7 +35,8 @@ static QImage renderLabel(const QSizeF& size)
 static void printLabel(const QString& file, const QSizeF& size, int copies)
 {
     QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFileName(file); // for paper, setPrinterName() instead
+    printer.setOutputFormat(QPrinter::PdfFormat); // for paper, setPrinterName() instead
+    printer.setOutputFileName(file);
     printer.setPageSize(QPageSize(size, QPageSize::Inch, {}, QPageSize::ExactMatch));
     printer.setFullPage(true);
     QPainter painter;

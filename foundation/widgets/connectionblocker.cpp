@@ -19,7 +19,7 @@ ConnectionBlocker::ConnectionBlocker(QObject* sender, const char* signal, QObjec
 
 ConnectionBlocker::~ConnectionBlocker()
 {
-    // The change itself may have run a listener that deleted one of the two.
+    // A receiver of the change may have deleted either of the two.
     if (m_wasConnected && m_sender && m_receiver)
         QObject::connect(m_sender, m_signal, m_receiver, m_slot);
 }

@@ -9,18 +9,19 @@
 namespace PrintPanels {
 
 /**
- * Change without telling the host: takes one string-based connection away for its lifetime.
+ * Removes one string-based connection during its lifetime, to change a control without telling the
+ * host.
  *
- * Only the named connection pauses; other listeners of the same signal still hear of the change,
- * which is why the signal is not blocked. After the scope the connection stands exactly once, also
- * when a listener pauses it again meanwhile.
+ * QSignalBlocker would keep the change from other receivers of the signal, too. After the scope
+ * there is exactly one such connection, even if a receiver blocked it again meanwhile. Without a
+ * connection to begin with there is none afterwards.
  */
 class ConnectionBlocker
 {
     Q_DISABLE_COPY_MOVE(ConnectionBlocker)
 
 public:
-    /** @p signal and @p slot are SIGNAL() and SLOT() texts and must outlive the pause. */
+    /** @p signal and @p slot are SIGNAL() and SLOT() texts, which must outlive the blocker. */
     ConnectionBlocker(QObject* sender, const char* signal, QObject* receiver, const char* slot);
     ~ConnectionBlocker();
 

@@ -12,7 +12,7 @@ namespace PrintPanels {
 
 namespace {
 
-// More than any line can show; keeps measuring quick when a host pushes a megabyte of text.
+// More than any line can show. Keeps measuring fast if a host sets a megabyte of text.
 constexpr qsizetype longestLine = 1000;
 
 } // namespace
@@ -43,7 +43,7 @@ bool ElidedLabel::event(QEvent* event)
 {
     if (event->type() != QEvent::ToolTip || !toolTip().isEmpty())
         return QLabel::event(event);
-    // Escaped inside a paragraph, so that the tool tip shows markup instead of following it.
+    // Escaped and in a paragraph, so that the tool tip shows markup instead of interpreting it.
     const QString tip =
         isElided() ? QStringLiteral("<p>%1</p>").arg(measuredText().toHtmlEscaped()) : QString();
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, this);

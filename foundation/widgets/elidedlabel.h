@@ -9,9 +9,8 @@
 namespace PrintPanels {
 
 /**
- * One line of a host's text, shown as it is and never as markup. It asks for no width: what does
- * not fit ends in an ellipsis, and a tool tip then shows the whole. text() is always the whole
- * text.
+ * A label for one line of a host's text, shown as plain text. It requires no width: a text that
+ * does not fit is elided, and the tool tip shows all of it. text() is always the whole text.
  */
 class ElidedLabel : public QLabel
 {
@@ -22,9 +21,9 @@ protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
-    /** As much of the text as a label can show at all, so that a megabyte is measured quickly. */
+    /** As much of the text as any label can show, so that a megabyte is measured quickly. */
     QString measuredText() const;
-    /** What the label paints at its present width. */
+    /** The text that the label paints at its present width. */
     virtual QString shownText() const;
     /** Whether the label shows less than its text. */
     virtual bool isElided() const;

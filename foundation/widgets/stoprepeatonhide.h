@@ -11,15 +11,16 @@ class QAbstractButton;
 namespace PrintPanels {
 
 /**
- * Stops the auto-repeat of a button that is hidden while it is held. Its release never comes then,
- * and only in the active window does it lose the focus, which would stop it, too.
+ * Releases a button that is hidden while it is held down, and so stops its auto-repeat. The release
+ * never arrives then, and the button loses the focus, which would stop it too, only in the active
+ * window.
  */
 class StopRepeatOnHide : public QObject
 {
     Q_DISABLE_COPY_MOVE(StopRepeatOnHide)
 
 public:
-    /** Watches @p button, which becomes its parent. */
+    /** Watches @p button, which becomes the parent. */
     explicit StopRepeatOnHide(QAbstractButton* button);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -90,6 +90,8 @@ QByteArrayList publicOperations(const QByteArray& header)
     }
     // Makes a widget for the panels themselves.
     names.removeAll("createSeparatorBar");
+    // Called by Qt.
+    names.removeAll("showEvent");
     return names;
 }
 

@@ -89,6 +89,8 @@ QStringList publicOperations(QString header)
         }
     }
     names.removeDuplicates();
+    // Called by Qt.
+    names.removeAll(QStringLiteral("showEvent"));
     return names;
 }
 

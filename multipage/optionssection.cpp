@@ -1,29 +1,22 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-// ---- Options: form fill, fit to page, orientation, and the Print button ----
-
-#include <printpanels/multipageprintwidget.h>
+#include "multipage/optionssection.h"
 
 #include "foundation/hostkit.h"
 #include "foundation/stylesheets.h"
 #include "foundation/widgets/connectionblocker.h"
 
+#include <printpanels/multipageprintwidget.h>
 #include <printpanels/sharedconstants.h>
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QRadioButton>
-#include <QtWidgets/QVBoxLayout>
 
-using PrintPanels::ConnectionBlocker;
+namespace PrintPanels::MultiPage {
 
 namespace {
-
-const char* const stateSignal = SIGNAL(stateChanged(int));
-const char* const formFillSignal = SIGNAL(printFormFillChangedSignal(int));
-const char* const orientationSignal = SIGNAL(orientationChangedSignal(int));
 
 QCheckBox* createCheck(const QString& name, const QString& text)
 {
@@ -47,15 +40,18 @@ QPushButton* createPrintButton(const QString& text)
 
 } // namespace
 
-// Stands in the printer grid, because it is about the paper in the printer.
-void MultiPagePrintWidget::createOrientationCheck()
+OptionsSection::OptionsSection(MultiPagePrintWidget* panel) : q(panel) {}
+
+QCheckBox* OptionsSection::createOrientationCheck()
 {
     orientationCheck = createCheck(QStringLiteral("orientationCheck"), tr("Print 180 Orientation"));
     orientationCheck->setToolTip(SharedConstants::orientationToolTip);
-    connect(orientationCheck, stateSignal, this, orientationSignal);
+    QObject::connect(orientationCheck, SIGNAL(stateChanged(int)), q,
+                     SIGNAL(orientationChangedSignal(int)));
+    return orientationCheck;
 }
 
-void MultiPagePrintWidget::createOptionsLayout(bool fitToPage)
+QGridLayout* OptionsSection::createOptionsLayout(bool fitToPage)
 {
     formFillCheck = createCheck(QStringLiteral("formFillCheck"), tr("Print Only Form Fill Text"));
     formFillCheck->setChecked(true);
@@ -67,41 +63,38 @@ void MultiPagePrintWidget::createOptionsLayout(bool fitToPage)
     grid->addWidget(formFillCheck, 0, 0, 1, 2, Qt::AlignLeft);
     grid->addWidget(fitToPageCheck, 1, 0, Qt::AlignLeft);
     grid->addWidget(printButton, 1, 1, Qt::AlignRight);
-    mainLayout->addLayout(grid);
 
-    connect(formFillCheck, stateSignal, this, formFillSignal);
-    connect(fitToPageCheck, stateSignal, this, SIGNAL(fitToPageChangedSignal(int)));
-    connect(printButton, SIGNAL(clicked(bool)), this, SLOT(printSlot()));
+    QObject::connect(formFillCheck, SIGNAL(stateChanged(int)), q,
+                     SIGNAL(printFormFillChangedSignal(int)));
+    QObject::connect(fitToPageCheck, SIGNAL(stateChanged(int)), q,
+                     SIGNAL(fitToPageChangedSignal(int)));
+    QObject::connect(printButton, SIGNAL(clicked(bool)), q, SLOT(printSlot()));
+    return grid;
 }
 
-void MultiPagePrintWidget::setFormFillOption(bool visible, bool checked)
+void OptionsSection::setPrintEnabled(bool enabled)
+{
+    printButton->setEnabled(enabled);
+}
+
+void OptionsSection::setFormFillOption(bool visible, bool checked)
 {
     formFillCheck->setVisible(visible);
-    const ConnectionBlocker blocker(formFillCheck, stateSignal, this, formFillSignal);
+    const ConnectionBlocker blocker(formFillCheck, SIGNAL(stateChanged(int)), q,
+                                    SIGNAL(printFormFillChangedSignal(int)));
     formFillCheck->setChecked(checked);
 }
 
-void MultiPagePrintWidget::set180OrientationVisible(bool visible)
+void OptionsSection::set180OrientationVisible(bool visible)
 {
     orientationCheck->setVisible(visible);
 }
 
-void MultiPagePrintWidget::set180OrientationCheck(bool orientation180)
+void OptionsSection::set180OrientationCheck(bool orientation180)
 {
-    const ConnectionBlocker blocker(orientationCheck, stateSignal, this, orientationSignal);
+    const ConnectionBlocker blocker(orientationCheck, SIGNAL(stateChanged(int)), q,
+                                    SIGNAL(orientationChangedSignal(int)));
     orientationCheck->setChecked(orientation180);
 }
 
-void MultiPagePrintWidget::printSlot()
-{
-    const bool selection = selectionRadio->isChecked();
-    const QString list = selection ? pageListEdit->text() : QString();
-    if (!list.isEmpty()) {
-        Q_EMIT widgetPrintSignal(0, 0, list);
-    } else if (selection) {
-        Q_EMIT widgetPrintSignal(currentPage, currentPage, QString());
-    } else {
-        applyPageChoice();
-        Q_EMIT widgetPrintSignal(startPage, endPage, QString());
-    }
-}
+} // namespace PrintPanels::MultiPage

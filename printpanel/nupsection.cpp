@@ -1,26 +1,28 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-// ---- N-up: replicating or sequencing ----
-
-#include <printpanels/printwidget.h>
+#include "printpanel/nupsection.h"
 
 #include "foundation/hostkit.h"
 #include "foundation/stylesheets.h"
+#include "foundation/widgets/caption.h"
+#include "foundation/widgets/metrics.h"
+#include "printpanel/recordssection.h"
+
+#include <printpanels/printwidget.h>
 
 #include <QtWidgets/QButtonGroup>
 #include <QtWidgets/QFrame>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QRadioButton>
-#include <QtWidgets/QVBoxLayout>
+
+namespace PrintPanels {
 
 namespace {
 
 enum NupToolTip { ReplicatingTip, SequencingTip, DynamicLengthTip, SingleRecordTip };
-
-constexpr int replicatingId = 0;
-constexpr int sequencingId = 1;
+enum NupId { ReplicatingId, SequencingId };
 
 QRadioButton* createPictureRadio(const QString& name, const QString& toolTip)
 {
@@ -44,7 +46,34 @@ QLabel* createPicture(const QString& name, const QString& styleSheet, QRadioButt
 
 } // namespace
 
-void PrintWidget::createNupSeqRepFrame()
+NupSection::NupSection(PrintWidget* panel, const RecordsSection& recordsChoice)
+    : q(panel), records(recordsChoice)
+{
+}
+
+QFrame* NupSection::createNupSeqRepFrame()
+{
+    createToolTips();
+    createTitle();
+    createRadios();
+    createPictures();
+
+    auto* column = new QVBoxLayout;
+    column->setContentsMargins(0, 10, 0, 10);
+    column->addWidget(nupTitleLabel);
+    column->addLayout(createChoiceRow());
+    nupFrame = new QFrame;
+    nupFrame->setObjectName(QStringLiteral("nupFrame"));
+    nupFrame->setLayout(column);
+    nupFrame->hide();
+
+    // Clicks only: what the rules check is not the user's choice, which has to come back later.
+    QObject::connect(nupButtonGroup, &QButtonGroup::idClicked, q,
+                     [this](int id) { sequencingChosen = id != ReplicatingId; });
+    return nupFrame;
+}
+
+void NupSection::createToolTips()
 {
     nupToolTips = {
         tr("N-up replicating: Select to print identical labels on a single page.",
@@ -55,56 +84,36 @@ void PrintWidget::createNupSeqRepFrame()
            "N-up print checkbox tool tip text."),
         tr("N-up replicating option is enabled only for multiple records.",
            "N-up print checkbox tool tip text.")};
-
-    nupTitleLabel = new QLabel(tr("N-up replicating or sequencing:", "N-up print options title."));
-    nupTitleLabel->setObjectName(QStringLiteral("nupTitleLabel"));
-    nupTitleLabel->setFont(ApplicationFont::getWidgetFont(true));
-    nupTitleLabel->setMinimumHeight(35);
-    nupTitleLabel->setWordWrap(false);
-    nupTitleLabel->setToolTip(QString());
-    createNupRadios();
-    createNupPictures();
-
-    auto* row = new QHBoxLayout;
-    row->setContentsMargins(0, 10, 0, 0);
-    row->addWidget(replicatingRadio);
-    row->addWidget(replicatingIconLabel);
-    row->addItem(new QSpacerItem(10, 10, QSizePolicy::Expanding, QSizePolicy::Fixed));
-    row->addWidget(sequencingRadio);
-    row->addWidget(sequencingIconLabel);
-    auto* column = new QVBoxLayout;
-    column->setContentsMargins(0, 10, 0, 10);
-    column->addWidget(nupTitleLabel);
-    column->addLayout(row);
-    nupFrame = new QFrame;
-    nupFrame->setObjectName(QStringLiteral("nupFrame"));
-    nupFrame->setLayout(column);
-    nupFrame->hide();
-
-    // Clicks only: what the rules below check is not the user's choice, which must come back later.
-    connect(nupButtonGroup, &QButtonGroup::idClicked, this,
-            [this](int id) { sequencingChosen = id != replicatingId; });
 }
 
-void PrintWidget::createNupRadios()
+void NupSection::createTitle()
+{
+    nupTitleLabel =
+        createCaption(tr("N-up replicating or sequencing:", "N-up print options title."));
+    nupTitleLabel->setObjectName(QStringLiteral("nupTitleLabel"));
+    nupTitleLabel->setMinimumHeight(rowHeight);
+    nupTitleLabel->setWordWrap(false);
+    nupTitleLabel->setToolTip(QString());
+}
+
+void NupSection::createRadios()
 {
     replicatingRadio =
         createPictureRadio(QStringLiteral("replicatingRadio"), nupToolTips[ReplicatingTip]);
     replicatingRadio->setChecked(true);
     sequencingRadio =
         createPictureRadio(QStringLiteral("sequencingRadio"), nupToolTips[SequencingTip]);
-    sequencingChosen = false;
 
-    nupButtonGroup = new QButtonGroup(this);
+    nupButtonGroup = new QButtonGroup(q);
     nupButtonGroup->setObjectName(QStringLiteral("nupButtonGroup"));
-    nupButtonGroup->addButton(replicatingRadio, replicatingId);
-    nupButtonGroup->addButton(sequencingRadio, sequencingId);
+    nupButtonGroup->addButton(replicatingRadio, ReplicatingId);
+    nupButtonGroup->addButton(sequencingRadio, SequencingId);
     nupButtonGroup->setExclusive(true);
 }
 
-// Only the replicating picture has a tool tip of its own; the sequencing picture has none, by
-// decision.
-void PrintWidget::createNupPictures()
+// Only the replicating picture has a tool tip of its own; that the sequencing picture has none is
+// a decision.
+void NupSection::createPictures()
 {
     replicatingIconLabel = createPicture(QStringLiteral("replicatingIconLabel"),
                                          StyleSheets::replicatingLabel(), replicatingRadio);
@@ -113,36 +122,55 @@ void PrintWidget::createNupPictures()
                                         StyleSheets::sequencingLabel(), sequencingRadio);
 }
 
-void PrintWidget::setNupSeqRepVisible(bool visible)
+QBoxLayout* NupSection::createChoiceRow() const
 {
-    nupFrame->setVisible(visible && recordsFrame->isEnabled());
+    auto* row = new QHBoxLayout;
+    row->setContentsMargins(0, 10, 0, 0);
+    row->addWidget(replicatingRadio);
+    row->addWidget(replicatingIconLabel);
+    row->addItem(new QSpacerItem(10, 10, QSizePolicy::Expanding, QSizePolicy::Fixed));
+    row->addWidget(sequencingRadio);
+    row->addWidget(sequencingIconLabel);
+    return row;
 }
 
-void PrintWidget::setNupDynamicLength(bool on)
+void NupSection::setNupSeqRepVisible(bool visible)
+{
+    nupFrame->setVisible(visible && records.isEnabled());
+}
+
+void NupSection::setNupDynamicLength(bool on)
 {
     dynamicLengthOn = on;
     if (on) {
         nupFrame->setEnabled(false);
         replicatingRadio->setChecked(true);
-        setNupFrameToolTip(nupToolTips[DynamicLengthTip]);
-    } else if (rangeEnd > rangeStart) {
+        setFrameToolTip(nupToolTips[DynamicLengthTip]);
+    } else if (records.namesSeveral()) {
         nupFrame->setEnabled(true);
         (sequencingChosen ? sequencingRadio : replicatingRadio)->setChecked(true);
-        setNupFrameToolTip(QString());
+        setFrameToolTip(QString());
     } else {
         nupFrame->setEnabled(false);
         replicatingRadio->setChecked(true);
-        setNupFrameToolTip(nupToolTips[SingleRecordTip]);
+        setFrameToolTip(nupToolTips[SingleRecordTip]);
     }
 }
 
-void PrintWidget::setNupFrameToolTip(const QString& toolTip)
+void NupSection::setFrameToolTip(const QString& toolTip)
 {
     nupFrame->setToolTip(toolTip);
     nupTitleLabel->setToolTip(toolTip);
 }
 
-bool PrintWidget::getNupSeqRepOption() const
+bool NupSection::getNupSeqRepOption() const
 {
     return nupFrame->isVisible() && sequencingRadio->isChecked();
 }
+
+bool NupSection::isDynamicLengthOn() const
+{
+    return dynamicLengthOn;
+}
+
+} // namespace PrintPanels

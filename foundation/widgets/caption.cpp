@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include "foundation/widgets/caption.h"
+
+#include "foundation/hostkit.h"
+
+#include <QtWidgets/QLabel>
+
+namespace PrintPanels {
+
+QLabel* createCaption(const QString& text)
+{
+    auto* caption = new QLabel(text);
+    caption->setFont(ApplicationFont::getWidgetFont(true));
+    return caption;
+}
+
+} // namespace PrintPanels

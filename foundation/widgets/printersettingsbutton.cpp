@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include "foundation/widgets/printersettingsbutton.h"
+
+#include "foundation/stylesheets.h"
+#include "foundation/widgets/metrics.h"
+
+#include <QtWidgets/QPushButton>
+
+namespace PrintPanels {
+
+void setUpPrinterSettingsButton(QPushButton* button)
+{
+    button->setObjectName(QStringLiteral("PreferencesButton"));
+    button->setStyleSheet(StyleSheets::printerSettingsButton());
+    button->setFixedSize(squareButton);
+    button->setIconSize(squareButton);
+}
+
+} // namespace PrintPanels

@@ -1,0 +1,238 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include "preview/printpreviewdialog_p.h"
+
+#include "foundation/hostkit.h"
+#include "foundation/stylesheets.h"
+#include "preview/previewview.h"
+
+#include <printpanels/sharedconstants.h>
+
+#include <QtGui/QIcon>
+#include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QButtonGroup>
+#include <QtWidgets/QFrame>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QToolTip>
+
+namespace PrintPanels {
+
+namespace {
+
+constexpr QSize popupSize(860, 500);
+constexpr QSize viewSize(750, 450);
+constexpr QSize textButtonSize(100, 35);
+constexpr QSize zoomIconSize(42, 46);
+constexpr int titlePixelSize = 14;
+
+enum OrientationId { LandscapeId, PortraitId };
+
+// A host may embed the popup in a dialog of its own: Return there must not press a button here.
+QPushButton* createButton(const QString& name, const QString& text, const QString& styleSheet)
+{
+    auto* button = new QPushButton(text);
+    button->setObjectName(name);
+    button->setStyleSheet(styleSheet);
+    button->setAutoDefault(false);
+    return button;
+}
+
+QPushButton* createZoomButton(const QString& name, const QString& styleSheet)
+{
+    QPushButton* button = createButton(name, QString(), styleSheet);
+    button->setIconSize(zoomIconSize);
+    return button;
+}
+
+QPushButton* createOrientationButton(const QString& name, const QString& styleSheet, bool checked)
+{
+    QPushButton* button = createButton(name, QString(), styleSheet);
+    button->setToolTip(PrintPreviewDialog::ORIENTATION_TIP);
+    button->setCheckable(true);
+    button->setChecked(checked);
+    return button;
+}
+
+QSpacerItem* createGap()
+{
+    return new QSpacerItem(30, 10, QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+QFrame* createGreyFrame(PreviewView* view)
+{
+    auto* layout = new QVBoxLayout;
+    layout->setSpacing(0);
+    layout->setContentsMargins(1, 1, 1, 1);
+    layout->addWidget(view);
+
+    auto* frame = new QFrame;
+    frame->setStyleSheet(StyleSheets::previewFrame());
+    frame->setLayout(layout);
+    return frame;
+}
+
+QFrame* createOuterFrame(QLayout* layout)
+{
+    auto* frame = new QFrame;
+    frame->setObjectName(QStringLiteral("JxPreviewFrame"));
+    frame->setStyleSheet(StyleSheets::previewDialogFrame());
+    frame->setFrameShape(QFrame::Panel);
+    frame->setFrameShadow(QFrame::Raised);
+    frame->setLayout(layout);
+    return frame;
+}
+
+} // namespace
+
+/** The buttons that are needed only until they are connected. */
+struct PrintPreviewDialogPrivate::Buttons
+{
+    QPushButton* close;
+    QPushButton* zoomIn;
+    QPushButton* zoomOut;
+    QPushButton* fit;
+};
+
+PrintPreviewDialogPrivate::PrintPreviewDialogPrivate(PrintPreviewDialog* popup) : q(popup) {}
+
+void PrintPreviewDialogPrivate::createTitleBar()
+{
+    titleBar = new ContainerTitleBar(nullptr, QString(), QString(), titlePixelSize);
+    titleBar->setFont(ApplicationFont::getWidgetFontSmall(false));
+}
+
+void PrintPreviewDialogPrivate::createContents(const QImage& image, bool portrait)
+{
+    const Buttons buttons = createButtons();
+    QToolTip::setFont(ApplicationFont::getWidgetFontSmall(false));
+    createOrientationButtons(portrait);
+    preview = new PreviewView(image, viewSize);
+    createLayout(createButtonRow(buttons));
+    connectControls(buttons);
+}
+
+PrintPreviewDialogPrivate::Buttons PrintPreviewDialogPrivate::createButtons()
+{
+    const QString textStyle = StyleSheets::primaryPushButton();
+    printButton = createButton(QStringLiteral("printButton"),
+                               tr("Print", "Button to initiate print."), textStyle);
+    printButton->setFixedSize(textButtonSize);
+
+    Buttons buttons;
+    buttons.close = createButton(QStringLiteral("closeButton"),
+                                 tr("Close", "Button to close print preview."), textStyle);
+    buttons.close->setFixedSize(textButtonSize);
+    buttons.zoomIn = createZoomButton(QStringLiteral("zoomInButton"), StyleSheets::zoomInButton());
+    buttons.zoomOut =
+        createZoomButton(QStringLiteral("zoomOutButton"), StyleSheets::zoomOutButton());
+    buttons.fit = createZoomButton(QStringLiteral("fitButton"), StyleSheets::fitButton());
+    buttons.fit->setIcon(
+        QIcon(QStringLiteral(":/printicons/printericons/zoom_fit_transparent.png")));
+    return buttons;
+}
+
+void PrintPreviewDialogPrivate::createOrientationButtons(bool portrait)
+{
+    portraitButton = createOrientationButton(QStringLiteral("portraitButton"),
+                                             StyleSheets::portraitButton(), portrait);
+    landscapeButton = createOrientationButton(QStringLiteral("landscapeButton"),
+                                              StyleSheets::landscapeButton(), !portrait);
+    orientationGroup = new QButtonGroup(q);
+    orientationGroup->addButton(landscapeButton, LandscapeId);
+    orientationGroup->addButton(portraitButton, PortraitId);
+    orientationGroup->setExclusive(true);
+}
+
+QBoxLayout* PrintPreviewDialogPrivate::createButtonRow(const Buttons& buttons) const
+{
+    auto* row = new QHBoxLayout;
+    row->setSpacing(10);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(buttons.zoomIn);
+    row->addWidget(buttons.zoomOut);
+    row->addWidget(buttons.fit);
+    row->addItem(createGap());
+    row->addWidget(portraitButton);
+    row->addWidget(landscapeButton);
+    row->addItem(createGap());
+    row->addWidget(printButton);
+    row->addWidget(buttons.close);
+    return row;
+}
+
+void PrintPreviewDialogPrivate::createLayout(QBoxLayout* buttonRow)
+{
+    auto* inner = new QVBoxLayout;
+    inner->setSpacing(10);
+    inner->setContentsMargins(10, 0, 10, 5);
+    inner->addWidget(createGreyFrame(preview));
+    inner->addLayout(buttonRow);
+
+    auto* outer = new QVBoxLayout;
+    outer->setSpacing(10);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->addWidget(titleBar);
+    outer->addLayout(inner);
+
+    auto* whole = new QVBoxLayout;
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(createOuterFrame(outer));
+    q->setLayout(whole);
+    q->setFixedSize(popupSize);
+}
+
+void PrintPreviewDialogPrivate::connectControls(const Buttons& buttons)
+{
+    const auto connectClick = [this](QPushButton* button, const char* method) {
+        QObject::connect(button, SIGNAL(clicked()), q, method);
+    };
+    connectClick(printButton, SLOT(print()));
+    // Closes first: whoever receives the signal finds the popup hidden.
+    connectClick(buttons.close, SLOT(close()));
+    connectClick(buttons.close, SIGNAL(popupHideSignal()));
+    connectClick(buttons.zoomIn, SLOT(zoomIn()));
+    connectClick(buttons.zoomOut, SLOT(zoomOut()));
+    connectClick(buttons.fit, SLOT(zoomFit()));
+    QObject::connect(orientationGroup, SIGNAL(idClicked(int)), q,
+                     SIGNAL(orientationChangedSignal(int)));
+    QObject::connect(titleBar, SIGNAL(closeButtonClicked()), q, SLOT(close()));
+    QObject::connect(titleBar, SIGNAL(closeButtonClicked()), q, SIGNAL(popupHideSignal()));
+    QObject::connect(titleBar, SIGNAL(signalMove(int, int)), q, SLOT(mouseMoveSlot(int, int)));
+}
+
+void PrintPreviewDialogPrivate::setTitle(const QSizeF& designSize, const QSizeF& printedSize,
+                                         bool printedSizeOnly, bool metric)
+{
+    const QString unit =
+        metric ? SharedConstants::millimetersSuffix : SharedConstants::inchMarkSuffix;
+    const auto number = [decimals = metric ? 0 : 2](double length) {
+        return QString::number(length, 'f', decimals);
+    };
+    // One call with all arguments, so that a place marker inside a number or a unit stays text.
+    if (printedSizeOnly) {
+        titleBar->setTitle(
+            tr("Print Preview (%1%2 X %3%2)", "Dialog title with label size.")
+                .arg(number(printedSize.width()), unit, number(printedSize.height())));
+        return;
+    }
+    titleBar->setTitle(tr("Print Preview (Design: %1%2 X %3%2  Printed: %4%2 X %5%2)",
+                          "Dialog title with label size.")
+                           .arg(number(designSize.width()), unit, number(designSize.height()),
+                                number(printedSize.width()), number(printedSize.height())));
+}
+
+void PrintPreviewDialogPrivate::setRange(int firstRecord, int lastRecord, const QString& records)
+{
+    sequenceStart = firstRecord;
+    sequenceEnd = lastRecord;
+    recordList = records;
+}
+
+// The group unchecks the other button.
+void PrintPreviewDialogPrivate::setPortrait(bool portrait)
+{
+    (portrait ? portraitButton : landscapeButton)->setChecked(true);
+}
+
+} // namespace PrintPanels
