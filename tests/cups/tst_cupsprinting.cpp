@@ -3,7 +3,7 @@
 
 #include "cups/cupshost.h"
 #include "cups/cupstest.h"
-#include "samplehost/app/printprogressdialog.h"
+#include "samplehost/printing/printprogressdialog.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QProcess>

@@ -3,7 +3,7 @@
 
 #include "cups/cupshost.h"
 #include "cups/cupstest.h"
-#include "samplehost/app/eventlog.h"
+#include "samplehost/window/eventlog.h"
 
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMessageBox>

@@ -7,11 +7,11 @@
 #include "hostfixture.h"
 #include "pdfoutput.h"
 #include "pdfsamples.h"
-#include "samplehost/app/eventlog.h"
-#include "samplehost/app/pdfpage.h"
-#include "samplehost/app/pdfpreview.h"
-#include "samplehost/app/pdfprintcontroller.h"
-#include "samplehost/app/recordnavigator.h"
+#include "samplehost/pages/pdfpage.h"
+#include "samplehost/pages/recordnavigator.h"
+#include "samplehost/printing/pdfpreview.h"
+#include "samplehost/printing/pdfprintcontroller.h"
+#include "samplehost/window/eventlog.h"
 
 #include <printpanels-hostkit/containertitlebar.h>
 #include <printpanels/multipageprintdialog.h>

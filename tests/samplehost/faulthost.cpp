@@ -3,7 +3,7 @@
 
 #include "faulthost.h"
 
-#include "samplehost/app/catalogpage.h"
+#include "samplehost/pages/catalogpage.h"
 
 #include <printpanels/quickprintwidget.h>
 

@@ -5,7 +5,7 @@
 add_library(hostfaults STATIC
     faulthost.cpp faulthost.h fulldisk.cpp fulldisk.h hostprogram.cpp hostprogram.h)
 printpanels_configure_target(hostfaults)
-target_link_libraries(hostfaults PUBLIC samplehost_app pdfsamples Qt6::Pdf)
+target_link_libraries(hostfaults PUBLIC samplehost_automation pdfsamples Qt6::Pdf)
 target_compile_definitions(hostfaults PRIVATE
     "SAMPLEHOST_PROGRAM=\"$<TARGET_FILE:samplehost>\"")
 add_dependencies(hostfaults samplehost)

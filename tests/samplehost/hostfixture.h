@@ -4,11 +4,11 @@
 #ifndef TESTS_SAMPLEHOST_HOSTFIXTURE_H
 #define TESTS_SAMPLEHOST_HOSTFIXTURE_H
 
-#include "samplehost/app/labelpage.h"
-#include "samplehost/app/mainwindow.h"
-#include "samplehost/app/pipepage.h"
-#include "samplehost/app/printcontroller.h"
-#include "samplehost/app/userhands.h"
+#include "samplehost/automation/userhands.h"
+#include "samplehost/pages/labelpage.h"
+#include "samplehost/pages/pipepage.h"
+#include "samplehost/printing/printcontroller.h"
+#include "samplehost/window/mainwindow.h"
 
 #include <printpanels/printwidget.h>
 

@@ -7,7 +7,7 @@ find_package(qpdf 11 REQUIRED)
 
 # The documents that the tests make for themselves, and a look at those that come out.
 add_library(pdfsamples STATIC pdfoutput.cpp pdfoutput.h pdfsamples.cpp pdfsamples.h)
-printpanels_configure_target(pdfsamples)
+printpanels_configure_target(pdfsamples WITHOUT_WIDGETS)
 target_include_directories(pdfsamples PUBLIC "${PROJECT_SOURCE_DIR}" "${PROJECT_SOURCE_DIR}/tests")
 target_link_libraries(pdfsamples
     PUBLIC samplehost_pdf Qt6::Test
@@ -22,7 +22,7 @@ foreach(name IN ITEMS
         pdfpageplan
         pdfpainting
         pdfsheet)
-    printpanels_add_test(tst_${name}
+    printpanels_add_test(tst_${name} WITHOUT_WIDGETS
         SOURCES tst_${name}.cpp
         LIBRARIES pdfsamples Qt6::Pdf)
 endforeach()

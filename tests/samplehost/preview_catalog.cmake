@@ -12,18 +12,18 @@ foreach(name IN ITEMS
         orientation)
     printpanels_add_test(tst_${name}
         SOURCES tst_${name}.cpp hostfixture.h
-        LIBRARIES samplehost_app Qt6::Pdf)
+        LIBRARIES samplehost_automation Qt6::Pdf)
 endforeach()
 
 # Runs the program itself.
 printpanels_add_test(tst_catalogcommands
     SOURCES tst_catalogcommands.cpp hostfixture.h
-    LIBRARIES samplehost_app Qt6::Pdf
+    LIBRARIES samplehost_automation Qt6::Pdf
     DEFINITIONS "SAMPLEHOST_PROGRAM=\"$<TARGET_FILE:samplehost>\"")
 add_dependencies(tst_catalogcommands samplehost)
 
 # Whether the host uses all that the library offers.
 printpanels_add_test(tst_librarycoverage
     SOURCES tst_librarycoverage.cpp hostfixture.h
-    LIBRARIES samplehost_app Qt6::Pdf
+    LIBRARIES samplehost_automation Qt6::Pdf
     DEFINITIONS "PROJECT_SOURCE_DIR=\"${PROJECT_SOURCE_DIR}\"")

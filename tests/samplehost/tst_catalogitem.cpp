@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "hostfixture.h"
-#include "samplehost/app/catalogdesign.h"
-#include "samplehost/app/catalogsize.h"
+#include "samplehost/designs/catalogdesign.h"
+#include "samplehost/designs/catalogsize.h"
 #include "samplehost/label/catalogpainter.h"
 #include "samplehost/label/pictogram.h"
 #include "support/stricttest.h"

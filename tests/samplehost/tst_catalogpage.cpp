@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 
 #include "hostfixture.h"
-#include "samplehost/app/catalogpage.h"
-#include "samplehost/app/eventlog.h"
-#include "samplehost/app/labelpreview.h"
-#include "samplehost/app/labelview.h"
+#include "samplehost/pages/catalogpage.h"
+#include "samplehost/pages/labelview.h"
+#include "samplehost/printing/labelpreview.h"
+#include "samplehost/window/eventlog.h"
 #include "support/stricttest.h"
 
 #include <printpanels/printpreviewdialog.h>

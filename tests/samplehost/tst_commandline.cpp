@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/app/commandline.h"
-#include "samplehost/app/demostates.h"
+#include "samplehost/commandline/commandline.h"
 #include "support/stricttest.h"
 
 using namespace SampleHost;

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/app/eventlog.h"
+#include "samplehost/window/eventlog.h"
 #include "support/stricttest.h"
 
 #include <printpanels/printwidget.h>

@@ -3,9 +3,9 @@
 
 #include "faulthost.h"
 #include "hostprogram.h"
-#include "samplehost/app/labelpreview.h"
-#include "samplehost/app/labelview.h"
 #include "samplehost/data/seeddatabase.h"
+#include "samplehost/pages/labelview.h"
+#include "samplehost/printing/labelpreview.h"
 #include "support/stricttest.h"
 
 #include <QtCore/QFileInfo>

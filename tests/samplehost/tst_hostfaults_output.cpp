@@ -4,7 +4,7 @@
 #include "faulthost.h"
 #include "fulldisk.h"
 #include "hostprogram.h"
-#include "samplehost/app/preferencesdialog.h"
+#include "samplehost/window/preferencesdialog.h"
 #include "support/stricttest.h"
 
 #include <QtCore/QFileInfo>

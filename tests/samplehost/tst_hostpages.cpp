@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 
 #include "hostfixture.h"
-#include "samplehost/app/errormessages.h"
-#include "samplehost/app/eventlog.h"
-#include "samplehost/app/labelview.h"
-#include "samplehost/app/preferencesdialog.h"
-#include "samplehost/app/recordnavigator.h"
-#include "samplehost/app/supplysimulator.h"
+#include "samplehost/pages/labelview.h"
+#include "samplehost/pages/recordnavigator.h"
+#include "samplehost/simulator/supplysimulator.h"
+#include "samplehost/window/errormessages.h"
+#include "samplehost/window/eventlog.h"
+#include "samplehost/window/preferencesdialog.h"
 #include "support/stricttest.h"
 
 #include <QtWidgets/QCheckBox>

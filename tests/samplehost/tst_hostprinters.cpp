@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/app/errormessages.h"
-#include "samplehost/app/hostsettings.h"
-#include "samplehost/app/printerdirectory.h"
-#include "samplehost/app/printtofile.h"
 #include "samplehost/print/checkedsavefile.h"
+#include "samplehost/printing/hostsettings.h"
+#include "samplehost/printing/printerdirectory.h"
+#include "samplehost/printing/printtofile.h"
+#include "samplehost/window/errormessages.h"
 #include "support/stricttest.h"
 
 #include <printpanels/printwidget.h>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/app/hostsettings.h"
-#include "samplehost/app/nupcombo.h"
-#include "samplehost/app/preferencesdialog.h"
+#include "samplehost/pages/nupcombo.h"
+#include "samplehost/printing/hostsettings.h"
+#include "samplehost/window/preferencesdialog.h"
 #include "support/stricttest.h"
 
 #include <QtCore/QDir>

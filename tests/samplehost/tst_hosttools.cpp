@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 
 #include "hostfixture.h"
-#include "samplehost/app/catalogpage.h"
-#include "samplehost/app/eventlog.h"
-#include "samplehost/app/laminator.h"
-#include "samplehost/app/supplysimulator.h"
+#include "samplehost/pages/catalogpage.h"
+#include "samplehost/simulator/laminator.h"
+#include "samplehost/simulator/supplysimulator.h"
+#include "samplehost/window/eventlog.h"
 #include "support/stricttest.h"
 
 #include <printpanels-hostkit/colormenu.h>

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "hostfixture.h"
-#include "samplehost/app/eventlog.h"
-#include "samplehost/app/labelpreview.h"
-#include "samplehost/app/preferencesdialog.h"
+#include "samplehost/printing/labelpreview.h"
+#include "samplehost/window/eventlog.h"
+#include "samplehost/window/preferencesdialog.h"
 #include "support/stricttest.h"
 
 #include <printpanels-hostkit/containertitlebar.h>

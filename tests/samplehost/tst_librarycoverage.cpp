@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 
 #include "hostfixture.h"
-#include "samplehost/app/catalogpage.h"
-#include "samplehost/app/labelpreview.h"
-#include "samplehost/app/pdfpage.h"
-#include "samplehost/app/pdfpreview.h"
+#include "samplehost/pages/catalogpage.h"
+#include "samplehost/pages/pdfpage.h"
+#include "samplehost/printing/labelpreview.h"
+#include "samplehost/printing/pdfpreview.h"
 #include "support/stricttest.h"
 
 #include <printpanels/multipageprintdialog.h>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/app/labeldesign.h"
-#include "samplehost/app/lengthunit.h"
-#include "samplehost/app/pipedesign.h"
-#include "samplehost/app/requestsheet.h"
+#include "samplehost/designs/labeldesign.h"
+#include "samplehost/designs/lengthunit.h"
+#include "samplehost/designs/pipedesign.h"
+#include "samplehost/designs/requestsheet.h"
 #include "support/stricttest.h"
 
 #include <QtGui/QPainter>

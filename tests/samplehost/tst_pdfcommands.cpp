@@ -3,7 +3,7 @@
 
 #include "pdfoutput.h"
 #include "pdfsamples.h"
-#include "samplehost/app/commandline.h"
+#include "samplehost/commandline/commandline.h"
 #include "support/stricttest.h"
 
 #include <QtCore/QDir>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "documenthost.h"
-#include "samplehost/app/labelview.h"
+#include "samplehost/pages/labelview.h"
 #include "support/stricttest.h"
 
 #include <QtCore/QMimeData>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "documenthost.h"
-#include "samplehost/app/printprogressdialog.h"
+#include "samplehost/printing/printprogressdialog.h"
 #include "support/stricttest.h"
 
 #include <QtCore/QPointer>

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "hostfixture.h"
-#include "samplehost/app/labelpreview.h"
-#include "samplehost/app/printprogressdialog.h"
+#include "samplehost/printing/labelpreview.h"
+#include "samplehost/printing/printprogressdialog.h"
 #include "support/stricttest.h"
 
 #include <QtWidgets/QCheckBox>

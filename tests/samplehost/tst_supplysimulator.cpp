@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/app/supplypalettes.h"
-#include "samplehost/app/supplysimulator.h"
+#include "samplehost/simulator/supplypalettes.h"
+#include "samplehost/simulator/supplysimulator.h"
 #include "support/stricttest.h"
 
 #include <printpanels-hostkit/colormenu.h>

@@ -1,0 +1,182 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include "samplehost/automation/demostates.h"
+
+#include "samplehost/automation/demodocument.h"
+#include "samplehost/automation/userhands.h"
+#include "samplehost/pages/catalogpage.h"
+#include "samplehost/pages/labelpage.h"
+#include "samplehost/pages/pdfpage.h"
+#include "samplehost/pages/pipepage.h"
+#include "samplehost/printing/labelpreview.h"
+#include "samplehost/printing/pdfpreview.h"
+#include "samplehost/simulator/supplysimulator.h"
+#include "samplehost/window/mainwindow.h"
+
+#include <printpanels/multipageprintdialog.h>
+#include <printpanels/printpreviewdialog.h>
+#include <printpanels/printwidget.h>
+
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QSpinBox>
+
+namespace SampleHost {
+
+namespace {
+
+QWidget* panelWidget(const PrintPage& page, const char* name)
+{
+    return page.panel().findChild<QWidget*>(QString::fromLatin1(name));
+}
+
+bool showPlain(MainWindow& window)
+{
+    window.setCurrentPage(window.labelPage());
+    return true;
+}
+
+bool showListWithNup(MainWindow& window)
+{
+    const LabelPage& page = window.labelPage();
+    window.settings().setNup(NupLayout{2, 2});
+    return UserHands::click(panelWidget(page, "recordListRadio")) &&
+           UserHands::type(panelWidget(page, "recordListEdit"), QStringLiteral("1,4-5,11-20,33")) &&
+           UserHands::click(panelWidget(page, "sequencingRadio"));
+}
+
+bool showSupply(MainWindow& window)
+{
+    SupplySimulator& supply = window.supply();
+    auto* secondRibbon = supply.findChild<QComboBox*>(QStringLiteral("ribbon2Combo"));
+    supply.setReport(SupplySimulator::Report::TwoRibbons);
+    // The last colour stands for a place without a ribbon.
+    secondRibbon->setCurrentIndex(secondRibbon->count() - 1);
+    supply.findChild<QCheckBox*>(QStringLiteral("ladderCheck"))->setChecked(true);
+    return window.labelPage().panel().isSupplyInfoVisible();
+}
+
+bool showPipe(MainWindow& window)
+{
+    PipePage& page = window.pipePage();
+    window.setCurrentPage(page);
+    page.setCurrentMarker(0);
+    auto* items = page.panel().findChild<QComboBox*>(QStringLiteral("AmmoniaPrintCombo"));
+    return items != nullptr && items->isVisible();
+}
+
+bool showPreview(MainWindow& window, bool portrait)
+{
+    window.setCurrentPage(window.labelPage());
+    return openPreview(window.labelPage(), portrait);
+}
+
+bool showCatalog(MainWindow& window)
+{
+    CatalogPage& page = window.catalogPage();
+    window.setCurrentPage(page);
+    page.setCurrentItem(catalogIndexOf(QStringLiteral("EYE WASH STATION")));
+    UserHands::wait();
+    return page.findChild<QWidget*>(QStringLiteral("resizeFrame"))->isVisible();
+}
+
+bool showQuickPrint(MainWindow& window)
+{
+    return showCatalog(window) && UserHands::click(window.catalogPage().findChild<QWidget*>(
+                                      QStringLiteral("fixedSizeCheck")));
+}
+
+bool showDocument(MainWindow& window)
+{
+    PdfPage& page = window.pdfPage();
+    window.setCurrentPage(page);
+    if (page.document() == nullptr) {
+        auto* demo = new DemoDocument(&page);
+        return demo->write(window.labelPage().design()) && page.open(demo->path());
+    }
+    return true;
+}
+
+bool showMultiPage(MainWindow& window)
+{
+    return showDocument(window) &&
+           UserHands::click(
+               window.pdfPage().findChild<QWidget*>(QStringLiteral("documentPrintButton"))) &&
+           window.pdfPage().preview().dialog().isVisible();
+}
+
+} // namespace
+
+bool choosePrintToFile(const PrintPage& page)
+{
+    if (!page.panel().getPrintToFileEnabled()) {
+        UserHands::click(panelWidget(page, "printToFileCheck"));
+    }
+    return page.panel().getPrintToFileEnabled();
+}
+
+bool openPreview(const PrintPage& page, std::optional<bool> portrait)
+{
+    if (!UserHands::click(panelWidget(page, "PreviewButton")) ||
+        page.preview().popup() == nullptr) {
+        return false;
+    }
+    if (portrait) {
+        return UserHands::click(
+            previewWidget(page, *portrait ? "portraitButton" : "landscapeButton"));
+    }
+    return page.preview().popup()->isVisible();
+}
+
+QWidget* previewWidget(const PrintPage& page, const char* name)
+{
+    const PrintPreviewDialog* popup = page.preview().popup();
+    return popup != nullptr ? popup->findChild<QWidget*>(QString::fromLatin1(name)) : nullptr;
+}
+
+QWidget* openPopup(const MainWindow& window)
+{
+    const auto popups = window.findChildren<PrintPreviewDialog*>();
+    for (PrintPreviewDialog* popup : popups) {
+        if (popup->isVisible()) {
+            return popup;
+        }
+    }
+    if (window.pdfPage().preview().dialog().isVisible()) {
+        return &window.pdfPage().preview().dialog();
+    }
+    return nullptr;
+}
+
+bool applyDemoState(MainWindow& window, DemoState state)
+{
+    switch (state) {
+    case DemoState::None:
+        return true;
+    case DemoState::Plain:
+        return showPlain(window);
+    case DemoState::ListWithNup:
+        return showListWithNup(window);
+    case DemoState::Supply:
+        return showSupply(window);
+    case DemoState::Pipe:
+        return showPipe(window);
+    case DemoState::TestControls:
+        return choosePrintToFile(window.labelPage());
+    case DemoState::PortraitPreview:
+    case DemoState::LandscapePreview:
+        return showPreview(window, state == DemoState::PortraitPreview);
+    case DemoState::Catalog:
+        return showCatalog(window);
+    case DemoState::QuickPrint:
+        return showQuickPrint(window);
+    case DemoState::Document:
+        return showDocument(window);
+    case DemoState::MultiPage:
+        return showMultiPage(window);
+    }
+    return false;
+}
+
+} // namespace SampleHost

@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef SAMPLEHOST_CATALOGPAGE_H
+#define SAMPLEHOST_CATALOGPAGE_H
+
+#include "samplehost/designs/catalogdesign.h"
+
+#include <QtWidgets/QWidget>
+
+class QCheckBox;
+class QLabel;
+class QListWidget;
+class QPushButton;
+
+class QuickPrintWidget;
+
+namespace SampleHost {
+
+class HostSettings;
+class LabelView;
+class PanelScroller;
+class PrintController;
+
+/** The page of catalogue items: finished signs, printed in a size of the user's choice. */
+class CatalogPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /** A page that prints to the printer that the settings name. */
+    explicit CatalogPage(const HostSettings& settings, QWidget* parent = nullptr);
+    ~CatalogPage() override;
+
+    QuickPrintWidget& panel() const { return *m_panel; }
+    PrintController& controller() const { return *m_controller; }
+    const CatalogDesign& design() const { return m_design; }
+
+    /** Selects an item, 0-based; an index without an item changes nothing. */
+    void setCurrentItem(int index);
+
+    /** What the page tells the user about the size; empty when there is nothing to tell. */
+    QString message() const;
+
+    /** The height at which the whole panel is seen. */
+    int fullHeight() const;
+
+    /** Prints as the panel's Print button does, unless that is disabled. */
+    void print();
+
+Q_SIGNALS:
+    /** The user asked for a size in which the item cannot be printed; message() says why. */
+    void sizeRefused(const QString& problem);
+    /** The user wants to edit an item in the size that it has here, in millimetres. */
+    void editorWanted(const SampleHost::CatalogItem& item, const QSizeF& sizeMm);
+
+private:
+    QWidget* createContents();
+    QWidget* createSizeRow();
+    void connectPanel();
+    void selectItem(int index);
+    void applyStock(bool fixedSize);
+    void resizeItem(const QSizeF& canvasSize);
+    void restoreSize();
+    void showItem();
+    void showSize();
+    void showPrinter();
+    void notePendingSize();
+    void setMessage(const QString& message);
+    QSizeF shownSize() const;
+
+    CatalogDesign m_design;
+    const HostSettings& m_settings;
+    QuickPrintWidget* m_panel = nullptr;
+    PanelScroller* m_scroller = nullptr;
+    PrintController* m_controller = nullptr;
+    LabelView* m_view = nullptr;
+    QListWidget* m_items = nullptr;
+    QCheckBox* m_fixedSizeCheck = nullptr;
+    QPushButton* m_listedSizeButton = nullptr;
+    QLabel* m_sizeLabel = nullptr;
+    QLabel* m_message = nullptr;
+};
+
+} // namespace SampleHost
+
+#endif

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include "samplehost/pages/panelscroller.h"
+
+#include <QtCore/QEvent>
+#include <QtWidgets/QScrollBar>
+
+namespace SampleHost {
+
+PanelScroller::PanelScroller(QWidget* panel, QWidget* parent) : QScrollArea(parent)
+{
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setWidgetResizable(true);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    setWidget(panel);
+    panel->installEventFilter(this);
+    keepPanelWhole();
+}
+
+void PanelScroller::keepPanelWhole()
+{
+    // Without this a low window would squeeze the panel's rows before it scrolled them.
+    widget()->setMinimumHeight(fullHeight());
+    updateGeometry();
+}
+
+int PanelScroller::panelWidth() const
+{
+    return widget()->sizeHint().width() + verticalScrollBar()->sizeHint().width();
+}
+
+QSize PanelScroller::sizeHint() const
+{
+    return {panelWidth(), fullHeight()};
+}
+
+QSize PanelScroller::minimumSizeHint() const
+{
+    return {panelWidth(), 200};
+}
+
+int PanelScroller::fullHeight() const
+{
+    return widget()->sizeHint().height();
+}
+
+bool PanelScroller::eventFilter(QObject* watched, QEvent* event)
+{
+    // The panel got or lost a section.
+    if (event->type() == QEvent::LayoutRequest) {
+        keepPanelWhole();
+    }
+    return QScrollArea::eventFilter(watched, event);
+}
+
+} // namespace SampleHost

@@ -1,0 +1,195 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include "samplehost/printing/hostsettings.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtCore/QSettings>
+#include <QtCore/QStandardPaths>
+
+#include <array>
+
+namespace SampleHost {
+
+namespace {
+
+struct PaperSize
+{
+    Paper paper;
+    const char* name;
+    qreal widthMm;
+    qreal heightMm;
+};
+
+constexpr std::array<PaperSize, 3> papers = {{
+    {Paper::LabelSize, QT_TRANSLATE_NOOP("SampleHost::HostSettings", "As large as the labels"), 0,
+     0},
+    {Paper::A4, QT_TRANSLATE_NOOP("SampleHost::HostSettings", "A4"), 210, 297},
+    {Paper::Letter, QT_TRANSLATE_NOOP("SampleHost::HostSettings", "Letter"), 215.9, 279.4},
+}};
+
+const PaperSize& sizeOf(Paper paper)
+{
+    for (const PaperSize& size : papers) {
+        if (size.paper == paper) {
+            return size;
+        }
+    }
+    return papers.front();
+}
+
+const QString folderKey = QStringLiteral("output/folder");
+const QString fileKey = QStringLiteral("output/file");
+const QString paperKey = QStringLiteral("output/paper");
+const QString nupKey = QStringLiteral("output/nup");
+const QString documentKey = QStringLiteral("documents/recent");
+const QString metricKey = QStringLiteral("view/metric");
+
+bool isSameFile(const QString& path, const QString& other)
+{
+    const QString file = QFileInfo(path).canonicalFilePath();
+    return !file.isEmpty() && file == QFileInfo(other).canonicalFilePath();
+}
+
+} // namespace
+
+QString paperName(Paper paper)
+{
+    return HostSettings::tr(sizeOf(paper).name);
+}
+
+QSizeF paperSizeMm(Paper paper)
+{
+    const PaperSize& size = sizeOf(paper);
+    return {size.widthMm, size.heightMm};
+}
+
+HostSettings::HostSettings(QObject* parent)
+    : QObject(parent), m_outputFileName(QStringLiteral("labels.pdf"))
+{
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    m_outputFolder = QFileInfo(documents).isDir() ? documents : QDir::homePath();
+}
+
+QString HostSettings::outputPath() const
+{
+    return QDir(m_outputFolder).filePath(m_outputFileName);
+}
+
+bool HostSettings::isFileName(const QString& name)
+{
+    // The system takes a null character for the end of the name.
+    return !name.isEmpty() && !name.contains(QChar::Null) && QFileInfo(name).fileName() == name;
+}
+
+void HostSettings::setOutputFolder(const QString& folder)
+{
+    const QString absolute = QDir::cleanPath(QDir(folder).absolutePath());
+    if (!folder.isEmpty() && absolute != m_outputFolder) {
+        m_outputFolder = absolute;
+        Q_EMIT changed();
+    }
+}
+
+void HostSettings::setOutputFileName(const QString& fileName)
+{
+    if (isFileName(fileName) && fileName != m_outputFileName) {
+        m_outputFileName = fileName;
+        Q_EMIT changed();
+    }
+}
+
+void HostSettings::setOutputPath(const QString& path)
+{
+    if (!path.isEmpty()) {
+        const QFileInfo file(path);
+        setOutputFolder(file.absolutePath());
+        setOutputFileName(file.fileName());
+    }
+}
+
+void HostSettings::setPaper(Paper paper)
+{
+    if (paper != m_paper) {
+        m_paper = paper;
+        Q_EMIT changed();
+    }
+}
+
+void HostSettings::setNup(const NupLayout& nup)
+{
+    const NupLayout bounded = nup.bounded();
+    if (!(bounded == m_nup)) {
+        m_nup = bounded;
+        Q_EMIT changed();
+    }
+}
+
+void HostSettings::setMetric(bool metric)
+{
+    if (metric != m_metric) {
+        m_metric = metric;
+        Q_EMIT changed();
+    }
+}
+
+void HostSettings::setPrinter(const QString& printer)
+{
+    if (printer != m_printer) {
+        m_printer = printer;
+        Q_EMIT printerChanged(m_printer);
+    }
+}
+
+void HostSettings::setRecentDocument(const QString& path)
+{
+    m_recentDocument = path.isEmpty() ? QString() : QFileInfo(path).absoluteFilePath();
+}
+
+QString HostSettings::whyNotReplace(const QString& path) const
+{
+    const QString name = QDir::toNativeSeparators(path);
+    if (isSameFile(path, m_dataFile)) {
+        return tr("Writing \"%1\" would replace the database of the labels. Choose another file.")
+            .arg(name);
+    }
+    if (isSameFile(path, m_openDocument)) {
+        return tr("Printing to \"%1\" would replace the document itself. Choose another PDF "
+                  "file in the preferences.")
+            .arg(name);
+    }
+    return QString();
+}
+
+void HostSettings::load()
+{
+    const QSettings stored;
+    setOutputFolder(stored.value(folderKey).toString());
+    setOutputFileName(stored.value(fileKey).toString());
+    setRecentDocument(stored.value(documentKey, m_recentDocument).toString());
+    const int paper = stored.value(paperKey, int(m_paper)).toInt();
+    if (paper >= int(Paper::LabelSize) && paper <= int(Paper::Letter)) {
+        setPaper(Paper(paper));
+    }
+    if (const auto nup = NupLayout::fromText(stored.value(nupKey).toString())) {
+        setNup(*nup);
+    }
+    setMetric(stored.value(metricKey, m_metric).toBool());
+}
+
+bool HostSettings::save() const
+{
+    QSettings stored;
+    stored.setValue(folderKey, m_outputFolder);
+    stored.setValue(fileKey, m_outputFileName);
+    stored.setValue(paperKey, int(m_paper));
+    stored.setValue(documentKey, m_recentDocument);
+    stored.setValue(nupKey, m_nup.text());
+    stored.setValue(metricKey, m_metric);
+    stored.sync();
+    return stored.status() == QSettings::NoError;
+}
+
+} // namespace SampleHost

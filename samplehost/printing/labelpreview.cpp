@@ -1,0 +1,173 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include "samplehost/printing/labelpreview.h"
+
+#include "samplehost/designs/labeldesign.h"
+#include "samplehost/designs/lengthunit.h"
+#include "samplehost/designs/requestsheet.h"
+#include "samplehost/printing/hostsettings.h"
+#include "samplehost/printing/printcontroller.h"
+
+#include <printpanels/printpreviewdialog.h>
+
+#include <QtGui/QShortcut>
+#include <QtWidgets/QApplication>
+
+namespace SampleHost {
+
+namespace {
+
+// The values of the popup's orientation signal.
+constexpr int portraitOrientation = 1;
+
+// The popup's view is this large. It paints without smoothing: scaled down by an odd number it
+// shows the middle pixel of each block, and there is something left to see when the user zooms in.
+constexpr QSize viewPixels(832, 381);
+constexpr QSize picturePixels = viewPixels * 3;
+
+} // namespace
+
+LabelPreview::LabelPreview(PrintController& controller, const LabelDesign& design,
+                           const HostSettings& settings, QWidget& page)
+    : QObject(&page), m_controller(controller), m_design(design), m_settings(settings), m_page(page)
+{
+    connect(&controller, &PrintController::previewRequested, this, &LabelPreview::open);
+    connect(&controller, &PrintController::readinessChanged, this, &LabelPreview::showReadiness);
+    connect(&settings, &HostSettings::changed, this, &LabelPreview::showUnit);
+}
+
+LabelPreview::~LabelPreview() = default;
+
+PrintPreviewDialog* LabelPreview::popup() const
+{
+    return m_popup;
+}
+
+void LabelPreview::dismiss()
+{
+    if (m_popup != nullptr && m_popup->isVisible()) {
+        m_popup->close();
+        giveFocusBack();
+    }
+}
+
+void LabelPreview::open(const PrintRequest& request)
+{
+    m_asked = request;
+    m_portrait = isPortrait(sheetOf(m_design, request).sheetSizeMm());
+    m_shown = request;
+    if (m_popup == nullptr) {
+        createPopup();
+    } else {
+        showRequest();
+    }
+    showReadiness();
+    if (!m_popup->isVisible()) {
+        m_focusBefore = QApplication::focusWidget();
+        placePopup();
+        m_popup->show();
+    }
+    m_popup->raise();
+    m_popup->activateWindow();
+}
+
+void LabelPreview::createPopup()
+{
+    m_popup = new PrintPreviewDialog(m_page.window(), Qt::Dialog | Qt::FramelessWindowHint,
+                                     renderFirstSheet(m_design, m_shown, picturePixels),
+                                     designSize(), printedSize(), !m_design.hasDesignSize(),
+                                     m_portrait, m_settings.isMetric(), m_shown.sequenceStart,
+                                     m_shown.sequenceEnd, m_shown.customRecordsList);
+    m_popup->setWindowTitle(tr("Print Preview"));
+    addShortcuts();
+    connectPopup();
+    Q_EMIT popupCreated(m_popup);
+}
+
+void LabelPreview::addShortcuts()
+{
+    using Popup = PrintPreviewDialog;
+    Popup* popup = m_popup;
+    new QShortcut(QKeySequence::ZoomIn, popup, popup, &Popup::zoomIn);
+    new QShortcut(QKeySequence::ZoomOut, popup, popup, &Popup::zoomOut);
+    new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_0), popup, popup, &Popup::zoomFit);
+    m_printShortcut = new QShortcut(QKeySequence::Print, popup, popup, &Popup::print);
+    // Closing tells nobody unless one of the popup's own controls did it.
+    new QShortcut(QKeySequence(Qt::Key_Escape), popup, this, &LabelPreview::dismiss);
+}
+
+void LabelPreview::connectPopup()
+{
+    using Popup = PrintPreviewDialog;
+    connect(m_popup, &Popup::previewPrintSignal, this, &LabelPreview::print);
+    connect(m_popup, &Popup::orientationChangedSignal, this, &LabelPreview::turn);
+    connect(m_popup, &Popup::popupHideSignal, this, &LabelPreview::giveFocusBack);
+}
+
+void LabelPreview::showRequest()
+{
+    m_popup->updatePreview(renderFirstSheet(m_design, m_shown, picturePixels), designSize(),
+                           printedSize(), !m_design.hasDesignSize(), m_portrait,
+                           m_settings.isMetric(), m_shown.sequenceStart, m_shown.sequenceEnd,
+                           m_shown.customRecordsList);
+}
+
+void LabelPreview::showUnit()
+{
+    // The title alone: the user keeps the part of the label that is zoomed in on.
+    if (m_popup != nullptr) {
+        m_popup->setUpTitleBar(designSize(), printedSize(), !m_design.hasDesignSize(),
+                               m_settings.isMetric());
+    }
+}
+
+void LabelPreview::showReadiness()
+{
+    if (m_popup != nullptr) {
+        const bool ready = m_controller.isReady();
+        m_popup->enablePrintButton(ready);
+        m_printShortcut->setEnabled(ready);
+    }
+}
+
+void LabelPreview::turn(int orientation)
+{
+    m_portrait = orientation == portraitOrientation;
+    m_shown = oriented(m_design, m_asked, m_portrait);
+    showRequest();
+}
+
+void LabelPreview::print(int sequenceStart, int sequenceEnd, const QString& customRecordsList)
+{
+    PrintRequest request = m_shown;
+    request.sequenceStart = sequenceStart;
+    request.sequenceEnd = sequenceEnd;
+    request.customRecordsList = customRecordsList;
+    m_controller.printAgain(request);
+}
+
+void LabelPreview::placePopup()
+{
+    const QPoint corner = m_page.window()->geometry().center() - m_popup->rect().center();
+    m_popup->mouseMoveSlot(corner.x(), corner.y());
+}
+
+void LabelPreview::giveFocusBack()
+{
+    m_page.window()->activateWindow();
+    QWidget* widget = m_focusBefore != nullptr ? m_focusBefore.data() : &m_page;
+    widget->setFocus(Qt::PopupFocusReason);
+}
+
+QSizeF LabelPreview::designSize() const
+{
+    return LengthUnit::fromMm(m_design.labelSizeMm(m_asked), m_settings.isMetric());
+}
+
+QSizeF LabelPreview::printedSize() const
+{
+    return LengthUnit::fromMm(sheetOf(m_design, m_shown).sheetSizeMm(), m_settings.isMetric());
+}
+
+} // namespace SampleHost

@@ -1,0 +1,237 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include "samplehost/printing/pdfpreview.h"
+
+#include "samplehost/pdf/pdfdocument.h"
+#include "samplehost/pdf/pdfprinting.h"
+#include "samplehost/printing/hostsettings.h"
+#include "samplehost/printing/printerdirectory.h"
+
+#include <printpanels-hostkit/jxmoduleinfo.h>
+#include <printpanels/multipageprintdialog.h>
+#include <printpanels/multipageprintwidget.h>
+
+#include <QtCore/QFileInfo>
+#include <QtGui/QShortcut>
+
+#include <utility>
+
+namespace SampleHost {
+
+namespace {
+
+constexpr bool fitAtStart = true;
+// Twice what the window shows: enough to zoom in, and small text survives being shown without
+// smoothing.
+constexpr int imageSide = 920;
+
+} // namespace
+
+PdfPreview::PdfPreview(HostSettings& settings, const PrinterDirectory& printers, QWidget* parent)
+    : QObject(parent), m_settings(settings), m_printers(printers)
+{
+    m_options.fitToPage = fitAtStart;
+    m_panel = new MultiPagePrintWidget(fitAtStart, false, nullptr);
+    m_panel->setModule(JxModuleInfo::PDFViewer);
+    m_dialog = new MultiPagePrintDialog(m_panel, parent, Qt::FramelessWindowHint | Qt::Dialog);
+    connectPanel();
+    connectOptions();
+    addShortcuts();
+    connect(&settings, &HostSettings::changed, this, &PdfPreview::updateImage);
+    fillPrinters();
+    setDocument(nullptr);
+}
+
+void PdfPreview::connectPanel()
+{
+    using Panel = MultiPagePrintWidget;
+    connect(m_panel, &Panel::startPageChangedSignal, this, &PdfPreview::showPage);
+    connect(m_panel, &Panel::openPreferencesSignal, this, &PdfPreview::preferencesWanted);
+    connect(m_panel, &Panel::currentPrinterSelectionChanged, this, &PdfPreview::choosePrinter);
+    connect(&m_settings, &HostSettings::printerChanged, m_panel, &Panel::setSelectedPrinter);
+    connect(m_panel, &Panel::focusLost, this, &PdfPreview::tidyCopies);
+    // Printers come and go while the window is out of sight.
+    connect(m_panel, &Panel::printWidgetShowSignal, this, &PdfPreview::fillPrinters);
+}
+
+void PdfPreview::connectOptions()
+{
+    using Panel = MultiPagePrintWidget;
+    const auto follow = [this](void (Panel::*changed)(int), bool PdfPrintRequest::*option) {
+        connect(m_panel, changed, this, [this, option](int state) {
+            m_options.*option = state == Qt::Checked;
+            updateImage();
+        });
+    };
+    follow(&Panel::fitToPageChangedSignal, &PdfPrintRequest::fitToPage);
+    follow(&Panel::orientationChangedSignal, &PdfPrintRequest::rotated180);
+    follow(&Panel::printFormFillChangedSignal, &PdfPrintRequest::formFillOnly);
+}
+
+void PdfPreview::addShortcuts()
+{
+    const auto add = [this](const QKeySequence& keys, auto&& act) {
+        connect(new QShortcut(keys, m_dialog), &QShortcut::activated, m_panel,
+                std::forward<decltype(act)>(act));
+    };
+    add(QKeySequence::ZoomIn, &MultiPagePrintWidget::increaseCopyCount);
+    add(QKeySequence::ZoomOut, &MultiPagePrintWidget::decreaseCopyCount);
+    add(QKeySequence::Print, [this] {
+        if (canPrint()) {
+            m_panel->printSlot();
+        }
+    });
+}
+
+void PdfPreview::setDocument(std::shared_ptr<const PdfDocument> document)
+{
+    m_document = std::move(document);
+    const bool any = m_document != nullptr;
+    m_options.rotated180 = false;
+    m_options.formFillOnly = false;
+    m_panel->set180OrientationCheck(false);
+    m_panel->set180OrientationVisible(any);
+    m_panel->setFormFillOption(any && m_document->hasFormFields(), false);
+    m_panel->setNumberOfCopies(1);
+    if (any) {
+        m_panel->enableAllButtons();
+        m_panel->setPageInfo(1, m_document->pageCount(), true);
+        // The list may be usable again, which it was not without a document.
+        m_panel->recordsRadioChangedSlot();
+    } else {
+        m_panel->disableAllButtons();
+        m_panel->setPageInfo(1, 1, false);
+        m_dialog->hide();
+    }
+}
+
+PdfPrintRequest PdfPreview::request() const
+{
+    PdfPrintRequest request = m_options;
+    request.paperMm = paperSizeMm(m_settings.paper());
+    request.copies = m_panel->getNumberOfCopies();
+    return request;
+}
+
+void PdfPreview::setPageIndex(int index)
+{
+    m_panel->updateCurrentRangeIndex(index);
+}
+
+void PdfPreview::setPrinting(bool printing)
+{
+    m_printing = printing;
+    updateButtons();
+}
+
+void PdfPreview::show()
+{
+    if (!m_document) {
+        return;
+    }
+    if (!m_dialog->isVisible()) {
+        const QRect host = m_dialog->parentWidget()->window()->frameGeometry();
+        const QPoint middle = host.center() - m_dialog->rect().center();
+        m_dialog->mouseMoveSlot(qMax(0, middle.x()), qMax(0, middle.y()));
+        m_dialog->show();
+        // The host may have moved on to another page meanwhile.
+        m_panel->checkRangeUpdate(true);
+    }
+    m_dialog->raise();
+    m_dialog->activateWindow();
+}
+
+void PdfPreview::showPage(int page)
+{
+    m_shownPage = page;
+    updateImage();
+    updateTitle();
+    updateButtons();
+    if (m_document && page > 0) {
+        Q_EMIT pageWanted(page - 1);
+    }
+}
+
+void PdfPreview::updateImage()
+{
+    // While nobody sees it, turning the host's pages is not slowed down by it.
+    if (m_dialog->isVisible()) {
+        const bool any = m_document && m_shownPage > 0;
+        m_dialog->setPreviewImage(any ? previewPdfSheet(*m_document, request(), m_shownPage - 1,
+                                                        QSize(imageSide, imageSide))
+                                      : QImage());
+    }
+}
+
+QString PdfPreview::problem() const
+{
+    if (!m_document) {
+        return tr("no document is open");
+    }
+    if (!m_document->allowsPrinting()) {
+        return tr("the author of the document does not allow it");
+    }
+    return m_shownPage > 0 ? QString()
+                           : tr("the list names none of the %1 pages").arg(m_document->pageCount());
+}
+
+void PdfPreview::updateTitle()
+{
+    if (!m_document) {
+        m_dialog->setTitle(QString());
+        return;
+    }
+    const QString name = QFileInfo(m_document->path()).fileName();
+    if (problem().isEmpty()) {
+        m_dialog->setTitle(
+            tr("%1 - page %2 of %3")
+                .arg(name, QString::number(m_shownPage), QString::number(m_document->pageCount())));
+    } else {
+        m_dialog->setTitle(tr("%1 - cannot be printed: %2").arg(name, problem()));
+        Q_EMIT statusChanged(tr("%1 cannot be printed: %2.").arg(name, problem()));
+    }
+}
+
+bool PdfPreview::canPrint() const
+{
+    return problem().isEmpty() && !m_printing;
+}
+
+void PdfPreview::updateButtons()
+{
+    if (canPrint()) {
+        m_panel->enablePrintButtons();
+    } else {
+        m_panel->disablePrintButtons();
+    }
+}
+
+void PdfPreview::fillPrinters()
+{
+    const QStringList names = m_printers.names();
+    m_panel->updateListOfPrinters(names, 0);
+    if (names.contains(m_settings.printer())) {
+        m_panel->setSelectedPrinter(m_settings.printer());
+    } else if (!m_settings.printer().isEmpty()) {
+        // The printer has gone, and with it the choice: everybody prints to the first one now.
+        m_panel->currentPrinterSelectionChangedSlot(0);
+    }
+}
+
+void PdfPreview::choosePrinter(const QString& name)
+{
+    m_settings.setPrinter(name);
+    const PrinterState state = m_printers.state(name);
+    const QString place =
+        state.location.isEmpty() ? name : name + QStringLiteral(": ") + state.location;
+    Q_EMIT statusChanged(state.unavailable ? tr("%1 (unavailable)").arg(place) : place);
+}
+
+void PdfPreview::tidyCopies()
+{
+    // What is no number counts as one copy; the user should see so.
+    m_panel->setNumberOfCopies(m_panel->getNumberOfCopies());
+}
+
+} // namespace SampleHost

@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include "samplehost/printing/pdfprintcontroller.h"
+
+#include "samplehost/pdf/pdfdocument.h"
+#include "samplehost/pdf/pdfprinting.h"
+#include "samplehost/printing/hostsettings.h"
+#include "samplehost/printing/joboutcome.h"
+#include "samplehost/printing/pdfpreview.h"
+#include "samplehost/printing/printerdirectory.h"
+
+#include <printpanels/multipageprintwidget.h>
+
+#include <utility>
+
+namespace SampleHost {
+
+PdfPrintController::PdfPrintController(PdfPreview& preview, const HostSettings& settings,
+                                       QObject* parent)
+    : QObject(parent), m_preview(preview), m_settings(settings)
+{
+    connect(&preview.panel(), &MultiPagePrintWidget::widgetPrintSignal, this,
+            &PdfPrintController::print);
+}
+
+PdfPrintController::~PdfPrintController() = default;
+
+void PdfPrintController::setDocument(std::shared_ptr<const PdfDocument> document)
+{
+    m_document = std::move(document);
+}
+
+void PdfPrintController::print(int sequenceStart, int sequenceEnd, const QString& customRecordsList)
+{
+    if (isPrinting() || !m_document) {
+        return;
+    }
+    PdfPrintRequest request = m_preview.request();
+    request.startPage = sequenceStart;
+    request.endPage = sequenceEnd;
+    request.pageList = customRecordsList;
+    const QString reason = pdfPrintProblem(*m_document, request);
+    if (!reason.isEmpty()) {
+        Q_EMIT refused(reason);
+        return;
+    }
+    QString problem;
+    std::unique_ptr<PrintJob> job = makeJob(request, problem);
+    if (!job) {
+        Q_EMIT jobEnded(PrintJob::Outcome::Failed, problem);
+        return;
+    }
+    job->setParent(this);
+    m_job = job.release();
+    connect(m_job, &PrintJob::finished, this, &PdfPrintController::endJob);
+    Q_EMIT jobStarted(m_job);
+    m_job->start();
+}
+
+std::unique_ptr<PrintJob> PdfPrintController::makeJob(const PdfPrintRequest& request,
+                                                      QString& problem) const
+{
+    const QString printer = m_preview.panel().getSelectedPrinter();
+    if (printer != PrinterDirectory::pdfFileName()) {
+        return makePdfPrinterJob(*m_document, request,
+                                 std::make_unique<PrinterTarget>(printer, m_document->title()));
+    }
+    const QString path = m_settings.outputPath();
+    problem = m_settings.whyNotReplace(path);
+    if (!problem.isEmpty()) {
+        return nullptr;
+    }
+    return makePdfFileJob(*m_document, request, path);
+}
+
+void PdfPrintController::endJob(PrintJob::Outcome outcome, const QString& message)
+{
+    const QString text = jobOutcomeText(*m_job, outcome, message);
+    m_job->deleteLater();
+    m_job = nullptr;
+    Q_EMIT jobEnded(outcome, text);
+}
+
+} // namespace SampleHost

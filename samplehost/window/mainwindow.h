@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef SAMPLEHOST_MAINWINDOW_H
+#define SAMPLEHOST_MAINWINDOW_H
+
+#include "samplehost/commandline/hostoptions.h"
+#include "samplehost/print/printjob.h"
+#include "samplehost/printing/hostsettings.h"
+#include "samplehost/printing/printerdirectory.h"
+
+#include <QtWidgets/QMainWindow>
+
+class QMenu;
+class QTabWidget;
+
+namespace SampleHost {
+
+class CatalogPage;
+class EventLog;
+class LabelPage;
+class PdfPage;
+class PipePage;
+class PrintPage;
+class SupplySimulator;
+
+/** The window of the sample host: its pages, the simulated printer and the event log. */
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /** Opens the data source and builds everything. Without a data source the window works, empty.
+     */
+    explicit MainWindow(const HostOptions& options = HostOptions(), QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    /** Why the data source could not be opened; empty when it could. */
+    QString dataSourceProblem() const { return m_dataSourceProblem; }
+
+    /** Reads the stored settings, and stores them whenever one changes. */
+    void keepSettings();
+
+    /** Stores the settings; tells the user and returns false if that fails. */
+    bool saveSettings();
+
+    HostSettings& settings() { return m_settings; }
+    LabelPage& labelPage() const { return *m_labelPage; }
+    PipePage& pipePage() const { return *m_pipePage; }
+    CatalogPage& catalogPage() const { return *m_catalogPage; }
+    PdfPage& pdfPage() const { return *m_pdfPage; }
+    SupplySimulator& supply() const { return *m_supply; }
+    EventLog& eventLog() const { return *m_log; }
+
+    /** The page in front. */
+    PrintPage& currentPage() const;
+
+    /** Brings a page of this window to the front. */
+    void setCurrentPage(QWidget& page);
+
+    /** Makes the window high enough for the whole panel of the current page. */
+    void growToPanel();
+
+private:
+    void createPages(const HostOptions& options);
+    void createDocks();
+    void createMenus();
+    void addUnitAction(QMenu& menu);
+    void addPage(PrintPage* page, const QString& title, const QString& logName);
+    void connectPanel(PrintPage& page);
+    template <typename Controller>
+    void connectJobs(Controller& controller)
+    {
+        connect(&controller, &Controller::refused, this, &MainWindow::showError);
+        connect(&controller, &Controller::jobStarted, this, &MainWindow::showJob);
+        connect(&controller, &Controller::jobEnded, this, &MainWindow::showOutcome);
+    }
+    void addCatalogPage();
+    void addDocumentPage(const QString& document);
+    void clickPanelButton(const QString& name);
+    void refreshPrinterStates();
+    void askForPrinter();
+    void addPrinter(const QString& name);
+    void countPages();
+    void reloadData();
+    void openPreferences();
+    void showJob(PrintJob* job);
+    void showOutcome(PrintJob::Outcome outcome, const QString& message);
+    void showError(const QString& message);
+    QWidget* front();
+    void showPrintError(int number);
+    void showAbout();
+
+    DataSourceOptions m_dataSource;
+    HostSettings m_settings;
+    PrinterDirectory m_printers;
+    QString m_dataSourceProblem;
+    QTabWidget* m_pages = nullptr;
+    LabelPage* m_labelPage = nullptr;
+    PipePage* m_pipePage = nullptr;
+    CatalogPage* m_catalogPage = nullptr;
+    PdfPage* m_pdfPage = nullptr;
+    SupplySimulator* m_supply = nullptr;
+    EventLog* m_log = nullptr;
+};
+
+} // namespace SampleHost
+
+#endif
