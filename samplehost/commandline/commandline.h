@@ -4,9 +4,7 @@
 #ifndef SAMPLEHOST_COMMANDLINE_H
 #define SAMPLEHOST_COMMANDLINE_H
 
-#include "samplehost/commandline/catalogcommand.h"
 #include "samplehost/commandline/demostate.h"
-#include "samplehost/commandline/documentcommand.h"
 #include "samplehost/commandline/hostoptions.h"
 #include "samplehost/printing/hostsettings.h"
 
@@ -16,6 +14,48 @@
 #include <optional>
 
 namespace SampleHost {
+
+/** What a command line asks for with an item of the catalogue. */
+struct CatalogCommand
+{
+    /** The item's name as it was given; empty without one. */
+    QString item;
+    /** What to type into the size fields, numbers or not; empty to keep the listed size. */
+    QString length;
+    QString width;
+
+    /** Whether an item is asked for. */
+    bool isGiven() const { return !item.isEmpty(); }
+    /** Whether a size is asked for. */
+    bool hasSize() const { return !length.isEmpty() || !width.isEmpty(); }
+};
+
+/** What a command line asks for with a PDF document. */
+struct DocumentCommand
+{
+    /** Which pages are printed without a user. */
+    enum class Pages {
+        None, ///< Nothing is printed.
+        Current,
+        All,
+        List
+    };
+
+    /** The document as it was given; empty without one. */
+    QString file;
+    Pages pages = Pages::None;
+    /** The list as it was given, valid or not. */
+    QString list;
+    /** The 1-based current page, as it was given. */
+    int page = 1;
+    /** Whether pages are fitted to the paper; without a choice the panel's own stays. */
+    std::optional<bool> fitToPage;
+    bool rotate180 = false;
+    bool formFillOnly = false;
+
+    /** Whether pages are printed. */
+    bool prints() const { return pages != Pages::None; }
+};
 
 /** What the program was asked to do on its command line. */
 struct CommandLine
