@@ -26,8 +26,6 @@
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
 
-#include <type_traits>
-
 namespace SampleHost {
 
 using Records = CommandLine::Records;
@@ -58,11 +56,10 @@ bool savePicture(const QPixmap& picture, const QString& path, QString& problem)
 HeadlessRun::HeadlessRun(MainWindow& window, const CommandLine& command, QObject* parent)
     : QObject(parent), m_window(window), m_command(command)
 {
-    const auto follow = [this](const auto& controller) {
-        using Controller = std::decay_t<decltype(controller)>;
-        connect(&controller, &Controller::refused, this,
+    const auto follow = [this](const JobController& controller) {
+        connect(&controller, &JobController::refused, this,
                 [this](const QString& reason) { fail(NothingToPrint, reason); });
-        connect(&controller, &Controller::jobEnded, this, &HeadlessRun::endJob);
+        connect(&controller, &JobController::jobEnded, this, &HeadlessRun::endJob);
     };
     follow(window.labelPage().controller());
     follow(window.catalogPage().controller());

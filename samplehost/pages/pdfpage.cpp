@@ -47,7 +47,7 @@ PdfPage::PdfPage(HostSettings& settings, const PrinterDirectory& printers, QWidg
     createContents();
     m_preview = new PdfPreview(settings, printers, this);
     m_controller = new PdfPrintController(*m_preview, settings, this);
-    connectPrinting();
+    connect(m_preview, &PdfPreview::pageWanted, m_navigator, &RecordNavigator::setCurrentIndex);
     connect(m_navigator, &RecordNavigator::currentIndexChanged, this, &PdfPage::showPage);
     setDocument(nullptr);
 }
@@ -92,15 +92,6 @@ void PdfPage::createContents()
     m_navigator = new RecordNavigator(RecordNavigator::Items::Pages);
     m_navigator->setObjectName(QStringLiteral("documentNavigator"));
     column->addWidget(m_navigator);
-}
-
-void PdfPage::connectPrinting()
-{
-    connect(m_preview, &PdfPreview::pageWanted, m_navigator, &RecordNavigator::setCurrentIndex);
-    connect(m_controller, &PdfPrintController::jobStarted, m_preview,
-            [this] { m_preview->setPrinting(true); });
-    connect(m_controller, &PdfPrintController::jobEnded, m_preview,
-            [this] { m_preview->setPrinting(false); });
 }
 
 void PdfPage::addActions(QMenu& menu)

@@ -80,7 +80,6 @@ protected:
 private:
     QWidget* createBar();
     void createContents();
-    void connectPrinting();
     void showRecentDocument(QAction& action);
     void setDocument(std::shared_ptr<PdfDocument> document);
     void showPage(int index);

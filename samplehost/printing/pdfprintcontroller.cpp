@@ -6,7 +6,6 @@
 #include "samplehost/pdf/pdfdocument.h"
 #include "samplehost/pdf/pdfprinting.h"
 #include "samplehost/printing/hostsettings.h"
-#include "samplehost/printing/joboutcome.h"
 #include "samplehost/printing/pdfpreview.h"
 #include "samplehost/printing/printerdirectory.h"
 
@@ -18,7 +17,7 @@ namespace SampleHost {
 
 PdfPrintController::PdfPrintController(PdfPreview& preview, const HostSettings& settings,
                                        QObject* parent)
-    : QObject(parent), m_preview(preview), m_settings(settings)
+    : JobController(parent), m_preview(preview), m_settings(settings)
 {
     connect(&preview.panel(), &MultiPagePrintWidget::widgetPrintSignal, this,
             &PdfPrintController::print);
@@ -47,15 +46,7 @@ void PdfPrintController::print(int sequenceStart, int sequenceEnd, const QString
     }
     QString problem;
     std::unique_ptr<PrintJob> job = makeJob(request, problem);
-    if (!job) {
-        Q_EMIT jobEnded(PrintJob::Outcome::Failed, problem);
-        return;
-    }
-    job->setParent(this);
-    m_job = job.release();
-    connect(m_job, &PrintJob::finished, this, &PdfPrintController::endJob);
-    Q_EMIT jobStarted(m_job);
-    m_job->start();
+    startJob(std::move(job), problem);
 }
 
 std::unique_ptr<PrintJob> PdfPrintController::makeJob(const PdfPrintRequest& request,
@@ -74,12 +65,9 @@ std::unique_ptr<PrintJob> PdfPrintController::makeJob(const PdfPrintRequest& req
     return makePdfFileJob(*m_document, request, path);
 }
 
-void PdfPrintController::endJob(PrintJob::Outcome outcome, const QString& message)
+void PdfPrintController::showPrinting(bool printing)
 {
-    const QString text = jobOutcomeText(*m_job, outcome, message);
-    m_job->deleteLater();
-    m_job = nullptr;
-    Q_EMIT jobEnded(outcome, text);
+    m_preview.setPrinting(printing);
 }
 
 } // namespace SampleHost

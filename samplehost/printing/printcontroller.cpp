@@ -6,7 +6,6 @@
 #include "samplehost/designs/labeldesign.h"
 #include "samplehost/designs/requestsheet.h"
 #include "samplehost/printing/hostsettings.h"
-#include "samplehost/printing/joboutcome.h"
 #include "samplehost/printing/printerdirectory.h"
 #include "samplehost/printing/printtofile.h"
 
@@ -25,7 +24,7 @@ const QString noPrinter = QStringLiteral("No printer");
 
 PrintController::PrintController(PrintWidgetInterface& panel, const LabelDesign& design,
                                  const HostSettings& settings, QObject* parent)
-    : QObject(parent), m_panel(panel), m_design(design), m_settings(settings)
+    : JobController(parent), m_panel(panel), m_design(design), m_settings(settings)
 {
     using Panel = PrintWidgetInterface;
     connect(&panel, &Panel::widgetPrintSignal, this, &PrintController::print);
@@ -124,12 +123,12 @@ void PrintController::printRequest(const PrintRequest& request)
         return;
     }
     QString problem;
-    auto target = makeTarget(problem);
-    if (target == nullptr) {
-        Q_EMIT jobEnded(PrintJob::Outcome::Failed, problem);
-        return;
+    std::unique_ptr<PrintJob> job;
+    if (auto target = makeTarget(problem)) {
+        job = std::make_unique<PrintJob>(plan, sheetOf(m_design, request),
+                                         m_design.painter(request), std::move(target));
     }
-    startJob(request, plan, std::move(target));
+    startJob(std::move(job), problem);
 }
 
 std::unique_ptr<PrintTarget> PrintController::makeTarget(QString& problem) const
@@ -148,26 +147,14 @@ std::unique_ptr<PrintTarget> PrintController::makeTarget(QString& problem) const
     return std::make_unique<PrinterTarget>(printer, title);
 }
 
-void PrintController::startJob(const PrintRequest& request, const PagePlan& plan,
-                               std::unique_ptr<PrintTarget> target)
+void PrintController::showPrinting(bool printing)
 {
-    m_job = new PrintJob(plan, sheetOf(m_design, request), m_design.painter(request),
-                         std::move(target), this);
-    connect(m_job, &PrintJob::finished, this, &PrintController::endJob);
-    m_panel.disablePrintButtons();
+    if (printing) {
+        m_panel.disablePrintButtons();
+    } else {
+        m_panel.enablePrintButtons();
+    }
     Q_EMIT readinessChanged();
-    Q_EMIT jobStarted(m_job);
-    m_job->start();
-}
-
-void PrintController::endJob(PrintJob::Outcome outcome, const QString& message)
-{
-    const QString text = jobOutcomeText(*m_job, outcome, message);
-    m_job->deleteLater();
-    m_job = nullptr;
-    m_panel.enablePrintButtons();
-    Q_EMIT readinessChanged();
-    Q_EMIT jobEnded(outcome, text);
 }
 
 } // namespace SampleHost

@@ -4,11 +4,8 @@
 #ifndef SAMPLEHOST_PRINTCONTROLLER_H
 #define SAMPLEHOST_PRINTCONTROLLER_H
 
-#include "samplehost/print/printjob.h"
 #include "samplehost/print/printrequest.h"
-
-#include <QtCore/QObject>
-#include <QtCore/QPointer>
+#include "samplehost/printing/jobcontroller.h"
 
 class PrintWidgetInterface;
 
@@ -18,7 +15,7 @@ class HostSettings;
 class LabelDesign;
 
 /** Carries out what the user asks for in one panel, one job at a time. */
-class PrintController : public QObject
+class PrintController : public JobController
 {
     Q_OBJECT
 
@@ -26,14 +23,7 @@ public:
     /** Answers a panel's requests with a design's labels. All three must outlive the controller. */
     PrintController(PrintWidgetInterface& panel, const LabelDesign& design,
                     const HostSettings& settings, QObject* parent = nullptr);
-    /** A job that is still running is given up. */
     ~PrintController() override;
-
-    /** Whether a job is running. */
-    bool isPrinting() const { return m_job != nullptr; }
-
-    /** The running job, or null. */
-    PrintJob* job() const { return m_job; }
 
     /** Whether a request would be taken: there is a printer, and no job is running. */
     bool isReady() const;
@@ -49,17 +39,13 @@ public:
     void printAgain(const PrintRequest& request);
 
 Q_SIGNALS:
-    /** A request names nothing that could be printed or previewed; reason says why. */
-    void refused(const QString& reason);
-    /** A job was started. It is deleted after it has ended. */
-    void jobStarted(SampleHost::PrintJob* job);
-    /** The job, or the attempt to start or preview one, ended; message says how, in words for the
-     * user. */
-    void jobEnded(SampleHost::PrintJob::Outcome outcome, const QString& message);
     /** The user wants to see a request that has at least one page. */
     void previewRequested(const SampleHost::PrintRequest& request);
     /** isReady() may have changed. */
     void readinessChanged();
+
+protected:
+    void showPrinting(bool printing) override;
 
 private:
     void print(int sequenceStart, int sequenceEnd, const QString& customRecordsList);
@@ -68,14 +54,10 @@ private:
     bool makePlan(const PrintRequest& request, PagePlan& plan);
     QString selectedPrinter() const;
     std::unique_ptr<PrintTarget> makeTarget(QString& problem) const;
-    void startJob(const PrintRequest& request, const PagePlan& plan,
-                  std::unique_ptr<PrintTarget> target);
-    void endJob(PrintJob::Outcome outcome, const QString& message);
 
     PrintWidgetInterface& m_panel;
     const LabelDesign& m_design;
     const HostSettings& m_settings;
-    QPointer<PrintJob> m_job;
 };
 
 } // namespace SampleHost

@@ -85,6 +85,13 @@ void MainWindow::addPage(PrintPage* page, const QString& title, const QString& l
     m_pages->addTab(page, title);
 }
 
+void MainWindow::connectJobs(const JobController& controller)
+{
+    connect(&controller, &JobController::refused, this, &MainWindow::showError);
+    connect(&controller, &JobController::jobStarted, this, &MainWindow::showJob);
+    connect(&controller, &JobController::jobEnded, this, &MainWindow::showOutcome);
+}
+
 void MainWindow::createDocks()
 {
     m_supply = new SupplySimulator;

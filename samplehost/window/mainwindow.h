@@ -18,6 +18,7 @@ namespace SampleHost {
 
 class CatalogPage;
 class EventLog;
+class JobController;
 class LabelPage;
 class PdfPage;
 class PipePage;
@@ -68,13 +69,7 @@ private:
     void addUnitAction(QMenu& menu);
     void addPage(PrintPage* page, const QString& title, const QString& logName);
     void connectPanel(PrintPage& page);
-    template <typename Controller>
-    void connectJobs(Controller& controller)
-    {
-        connect(&controller, &Controller::refused, this, &MainWindow::showError);
-        connect(&controller, &Controller::jobStarted, this, &MainWindow::showJob);
-        connect(&controller, &Controller::jobEnded, this, &MainWindow::showOutcome);
-    }
+    void connectJobs(const JobController& controller);
     void addCatalogPage();
     void addDocumentPage(const QString& document);
     void clickPanelButton(const QString& name);
