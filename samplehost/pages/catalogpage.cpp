@@ -8,9 +8,7 @@
 #include "samplehost/designs/requestsheet.h"
 #include "samplehost/label/catalogpainter.h"
 #include "samplehost/pages/labelview.h"
-#include "samplehost/pages/panelscroller.h"
 #include "samplehost/printing/hostsettings.h"
-#include "samplehost/printing/printcontroller.h"
 
 #include <printpanels-hostkit/jxmoduleinfo.h>
 #include <printpanels/quickprintwidget.h>
@@ -43,7 +41,7 @@ bool isShownAlike(const QSizeF& a, const QSizeF& b)
 } // namespace
 
 CatalogPage::CatalogPage(const HostSettings& settings, QWidget* parent)
-    : QWidget(parent), m_settings(settings), m_panel(new QuickPrintWidget(true, nullptr))
+    : HostPage(parent), m_settings(settings), m_panel(new QuickPrintWidget(true, nullptr))
 {
     m_controller = new PrintController(*m_panel, m_design, settings, this);
     // A panel as high as the page would be torn apart.
@@ -52,16 +50,7 @@ CatalogPage::CatalogPage(const HostSettings& settings, QWidget* parent)
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(m_panel);
     column->addStretch(1);
-    m_scroller = new PanelScroller(holder, this);
-    auto* border = new QFrame;
-    border->setFrameShape(QFrame::VLine);
-    border->setForegroundRole(QPalette::Mid);
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(0);
-    row->addWidget(createContents(), 1);
-    row->addWidget(border);
-    row->addWidget(m_scroller);
+    setUpLayout(createContents(), holder);
     m_panel->setModule(JxModuleInfo::JxCatalog);
     connectPanel();
     connect(m_items, &QListWidget::currentRowChanged, this, &CatalogPage::selectItem);
@@ -233,11 +222,6 @@ QString CatalogPage::message() const
 QSizeF CatalogPage::shownSize() const
 {
     return LengthUnit::fromMm(m_design.sizeMm(), m_settings.isMetric());
-}
-
-int CatalogPage::fullHeight() const
-{
-    return m_scroller->fullHeight();
 }
 
 void CatalogPage::print()

@@ -5,8 +5,8 @@
 #define SAMPLEHOST_CATALOGPAGE_H
 
 #include "samplehost/designs/catalogdesign.h"
-
-#include <QtWidgets/QWidget>
+#include "samplehost/pages/hostpage.h"
+#include "samplehost/printing/printcontroller.h"
 
 class QCheckBox;
 class QLabel;
@@ -19,11 +19,9 @@ namespace SampleHost {
 
 class HostSettings;
 class LabelView;
-class PanelScroller;
-class PrintController;
 
 /** The page of catalogue items: finished signs, printed in a size of the user's choice. */
-class CatalogPage : public QWidget
+class CatalogPage : public HostPage
 {
     Q_OBJECT
 
@@ -33,7 +31,7 @@ public:
     ~CatalogPage() override;
 
     QuickPrintWidget& panel() const { return *m_panel; }
-    PrintController& controller() const { return *m_controller; }
+    PrintController& controller() const override { return *m_controller; }
     const CatalogDesign& design() const { return m_design; }
 
     /** Selects an item, 0-based; an index without an item changes nothing. */
@@ -42,11 +40,8 @@ public:
     /** What the page tells the user about the size; empty when there is nothing to tell. */
     QString message() const;
 
-    /** The height at which the whole panel is seen. */
-    int fullHeight() const;
-
     /** Prints as the panel's Print button does, unless that is disabled. */
-    void print();
+    void print() override;
 
 Q_SIGNALS:
     /** The user asked for a size in which the item cannot be printed; message() says why. */
@@ -72,7 +67,6 @@ private:
     CatalogDesign m_design;
     const HostSettings& m_settings;
     QuickPrintWidget* m_panel = nullptr;
-    PanelScroller* m_scroller = nullptr;
     PrintController* m_controller = nullptr;
     LabelView* m_view = nullptr;
     QListWidget* m_items = nullptr;

@@ -8,7 +8,6 @@
 #include "samplehost/pages/recordnavigator.h"
 #include "samplehost/printing/hostsettings.h"
 #include "samplehost/printing/labelpreview.h"
-#include "samplehost/printing/printcontroller.h"
 
 #include <printpanels-hostkit/jxmoduleinfo.h>
 #include <printpanels/printwidget.h>

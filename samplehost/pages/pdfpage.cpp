@@ -8,7 +8,6 @@
 #include "samplehost/pdf/units.h"
 #include "samplehost/printing/hostsettings.h"
 #include "samplehost/printing/pdfpreview.h"
-#include "samplehost/printing/pdfprintcontroller.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -40,7 +39,7 @@ QString draggedFile(const QMimeData& data)
 } // namespace
 
 PdfPage::PdfPage(HostSettings& settings, const PrinterDirectory& printers, QWidget* parent)
-    : QWidget(parent), m_settings(settings), m_folder(QDir::homePath())
+    : HostPage(parent), m_settings(settings), m_folder(QDir::homePath())
 {
     setObjectName(QStringLiteral("pdfPage"));
     setAcceptDrops(true);

@@ -4,10 +4,11 @@
 #ifndef SAMPLEHOST_PDFPAGE_H
 #define SAMPLEHOST_PDFPAGE_H
 
+#include "samplehost/pages/hostpage.h"
 #include "samplehost/pdf/pdfdocument.h"
+#include "samplehost/printing/pdfprintcontroller.h"
 
 #include <QtGui/QImage>
-#include <QtWidgets/QWidget>
 
 #include <memory>
 
@@ -22,12 +23,11 @@ namespace SampleHost {
 class HostSettings;
 class LabelView;
 class PdfPreview;
-class PdfPrintController;
 class PrinterDirectory;
 class RecordNavigator;
 
 /** The page of documents: shows a PDF file page by page, and opens the window that prints it. */
-class PdfPage : public QWidget
+class PdfPage : public HostPage
 {
     Q_OBJECT
 
@@ -57,8 +57,10 @@ public:
     /** The window "Preview and Print" of this page. */
     PdfPreview& preview() const { return *m_preview; }
 
-    /** Carries out what that window asks for. */
-    PdfPrintController& controller() const { return *m_controller; }
+    PdfPrintController& controller() const override { return *m_controller; }
+
+    /** Opens that window, where the user chooses what is printed. */
+    void print() override { showPrintWindow(); }
 
 public Q_SLOTS:
     /** Lets the user choose the file to open. */

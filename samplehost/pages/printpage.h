@@ -4,7 +4,8 @@
 #ifndef SAMPLEHOST_PRINTPAGE_H
 #define SAMPLEHOST_PRINTPAGE_H
 
-#include <QtWidgets/QWidget>
+#include "samplehost/pages/hostpage.h"
+#include "samplehost/printing/printcontroller.h"
 
 class PrintWidget;
 
@@ -13,11 +14,9 @@ namespace SampleHost {
 class HostSettings;
 class LabelDesign;
 class LabelPreview;
-class PanelScroller;
-class PrintController;
 
 /** A page of the host: contents on the left, a print panel of its own on the right. */
-class PrintPage : public QWidget
+class PrintPage : public HostPage
 {
     Q_OBJECT
 
@@ -25,17 +24,14 @@ public:
     /** The panel. */
     PrintWidget& panel() const { return *m_panel; }
 
-    /** Carries out what the panel asks for. */
-    PrintController& controller() const { return *m_controller; }
+    PrintController& controller() const override { return *m_controller; }
 
     /** Shows what the panel is about to print. */
     LabelPreview& preview() const { return *m_preview; }
 
-    /** How many pages Print would print now; 0 when the panel's choice names nothing. */
-    qint64 pageCount() const;
-
-    /** The height at which the whole panel is seen. */
-    int fullHeight() const;
+    void print() override;
+    void showPreview() override;
+    qint64 pageCount() const override;
 
     /** What this page prints. */
     virtual const LabelDesign& design() const = 0;
@@ -48,8 +44,9 @@ protected:
     void setUp(QWidget* contents, const LabelDesign& design, const HostSettings& settings);
 
 private:
+    void clickPanelButton(const char* name);
+
     PrintWidget* m_panel = nullptr;
-    PanelScroller* m_scroller = nullptr;
     PrintController* m_controller = nullptr;
     LabelPreview* m_preview = nullptr;
 };

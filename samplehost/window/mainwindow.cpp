@@ -3,12 +3,8 @@
 
 #include "samplehost/window/mainwindow.h"
 
-#include "samplehost/pages/catalogpage.h"
 #include "samplehost/pages/labelpage.h"
 #include "samplehost/pages/pdfpage.h"
-#include "samplehost/pages/pipepage.h"
-#include "samplehost/printing/labelpreview.h"
-#include "samplehost/printing/printcontroller.h"
 #include "samplehost/printing/printprogressdialog.h"
 #include "samplehost/simulator/supplysimulator.h"
 #include "samplehost/window/errormessages.h"
@@ -16,11 +12,6 @@
 #include "samplehost/window/messagebox.h"
 #include "samplehost/window/preferencesdialog.h"
 
-#include <printpanels/printpreviewdialog.h>
-#include <printpanels/printwidget.h>
-#include <printpanels/quickprintwidget.h>
-
-#include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QMessageBox>
@@ -55,43 +46,6 @@ MainWindow::MainWindow(const HostOptions& options, QWidget* parent)
 
 MainWindow::~MainWindow() = default;
 
-void MainWindow::createPages(const HostOptions& options)
-{
-    m_pages = new QTabWidget;
-    m_pages->setDocumentMode(true);
-    setCentralWidget(m_pages);
-    auto source = RecordSource::open(m_dataSource, &m_dataSourceProblem);
-    m_settings.setDataFile(RecordSource::filePath(m_dataSource));
-    auto design = std::make_unique<ChemicalDesign>(std::move(source), m_dataSourceProblem);
-    m_labelPage = new LabelPage(std::move(design), m_settings, options.testControls);
-    m_pipePage = new PipePage(m_settings, options.testControls);
-    addPage(m_labelPage, tr("Chemical Labels"), tr("Labels"));
-    addPage(m_pipePage, tr("Pipe Markers"), tr("Pipes"));
-    addCatalogPage();
-    addDocumentPage(options.document);
-}
-
-void MainWindow::addPage(PrintPage* page, const QString& title, const QString& logName)
-{
-    m_log->watch(page->panel(), logName);
-    connect(&page->preview(), &LabelPreview::popupCreated, m_log,
-            [this, logName](PrintPreviewDialog* popup) {
-                m_log->watch(*popup, tr("%1 preview").arg(logName));
-            });
-    connectPanel(*page);
-    connectJobs(page->controller());
-    m_printers.fill(page->panel());
-    m_supply->connectPanel(page->panel());
-    m_pages->addTab(page, title);
-}
-
-void MainWindow::connectJobs(const JobController& controller)
-{
-    connect(&controller, &JobController::refused, this, &MainWindow::showError);
-    connect(&controller, &JobController::jobStarted, this, &MainWindow::showJob);
-    connect(&controller, &JobController::jobEnded, this, &MainWindow::showOutcome);
-}
-
 void MainWindow::createDocks()
 {
     m_supply = new SupplySimulator;
@@ -114,10 +68,8 @@ void MainWindow::createMenus()
     QMenu* file = menuBar()->addMenu(tr("&File"));
     m_pdfPage->addActions(*file);
     file->addSeparator();
-    file->addAction(tr("&Print"), QKeySequence::Print, this,
-                    [this] { clickPanelButton(QStringLiteral("PrintButton")); });
-    file->addAction(tr("Print Pre&view"), this,
-                    [this] { clickPanelButton(QStringLiteral("PreviewButton")); });
+    file->addAction(tr("&Print"), QKeySequence::Print, this, [this] { currentPage().print(); });
+    file->addAction(tr("Print Pre&view"), this, [this] { currentPage().showPreview(); });
     file->addAction(tr("&Count Pages"), this, &MainWindow::countPages)
         ->setObjectName(QStringLiteral("countPagesAction"));
     file->addAction(tr("&Add Printer..."), this, &MainWindow::askForPrinter)
@@ -148,12 +100,9 @@ void MainWindow::addUnitAction(QMenu& menu)
             [this, metric] { metric->setChecked(m_settings.isMetric()); });
 }
 
-PrintPage& MainWindow::currentPage() const
+HostPage& MainWindow::currentPage() const
 {
-    if (m_pages->currentWidget() == m_pipePage) {
-        return *m_pipePage;
-    }
-    return *m_labelPage;
+    return *static_cast<HostPage*>(m_pages->currentWidget());
 }
 
 void MainWindow::setCurrentPage(QWidget& page)
@@ -163,37 +112,19 @@ void MainWindow::setCurrentPage(QWidget& page)
 
 void MainWindow::growToPanel()
 {
-    const QWidget* page = m_pages->currentWidget();
-    const int fullHeight =
-        page == m_catalogPage ? m_catalogPage->fullHeight() : currentPage().fullHeight();
-    const int missing = fullHeight - page->height();
-    resize(width(), height() + std::max(0, missing));
-}
-
-void MainWindow::clickPanelButton(const QString& name)
-{
-    if (m_pages->currentWidget() == m_pdfPage) {
-        m_pdfPage->showPrintWindow();
-        return;
-    }
-    if (m_pages->currentWidget() == m_catalogPage) {
-        m_catalogPage->print();
-        return;
-    }
-    if (auto* button = currentPage().panel().findChild<QAbstractButton*>(name)) {
-        button->click();
-    }
+    const HostPage& page = currentPage();
+    // A page without a panel gets the height of the labels', to which the user may turn next.
+    const int panelHeight = page.fullHeight() > 0 ? page.fullHeight() : m_labelPage->fullHeight();
+    resize(width(), height() + std::max(0, panelHeight - page.height()));
 }
 
 void MainWindow::countPages()
 {
-    const auto* page = qobject_cast<const PrintPage*>(m_pages->currentWidget());
-    if (page == nullptr) {
-        return;
+    const qint64 pages = currentPage().pageCount();
+    if (pages >= 0) {
+        statusBar()->showMessage(pages == 1 ? tr("1 page would be printed.")
+                                            : tr("%1 pages would be printed.").arg(pages));
     }
-    const qint64 pages = page->pageCount();
-    statusBar()->showMessage(pages == 1 ? tr("1 page would be printed.")
-                                        : tr("%1 pages would be printed.").arg(pages));
 }
 
 void MainWindow::reloadData()

@@ -18,7 +18,7 @@ namespace SampleHost {
 
 class CatalogPage;
 class EventLog;
-class JobController;
+class HostPage;
 class LabelPage;
 class PdfPage;
 class PipePage;
@@ -54,7 +54,7 @@ public:
     EventLog& eventLog() const { return *m_log; }
 
     /** The page in front. */
-    PrintPage& currentPage() const;
+    HostPage& currentPage() const;
 
     /** Brings a page of this window to the front. */
     void setCurrentPage(QWidget& page);
@@ -67,12 +67,11 @@ private:
     void createDocks();
     void createMenus();
     void addUnitAction(QMenu& menu);
-    void addPage(PrintPage* page, const QString& title, const QString& logName);
+    void addPage(HostPage* page, const QString& title);
+    void addPrintPage(PrintPage* page, const QString& title, const QString& logName);
     void connectPanel(PrintPage& page);
-    void connectJobs(const JobController& controller);
     void addCatalogPage();
     void addDocumentPage(const QString& document);
-    void clickPanelButton(const QString& name);
     void refreshPrinterStates();
     void askForPrinter();
     void addPrinter(const QString& name);

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef SAMPLEHOST_HOSTPAGE_H
+#define SAMPLEHOST_HOSTPAGE_H
+
+#include <QtWidgets/QWidget>
+
+namespace SampleHost {
+
+class JobController;
+class PanelScroller;
+
+/** A page of the window: what the window asks of the page in front, whichever it is. */
+class HostPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    ~HostPage() override;
+
+    /** Runs the jobs of this page. */
+    virtual JobController& controller() const = 0;
+
+    /** Prints, as the page's own Print button does. */
+    virtual void print() = 0;
+
+    /** Shows a preview, as the page's own button does; prints on a page without that button. */
+    virtual void showPreview() { print(); }
+
+    /** How many pages would be printed now; -1 on a page that cannot tell. */
+    virtual qint64 pageCount() const { return -1; }
+
+    /** The height at which the whole panel is visible; 0 on a page without a panel. */
+    int fullHeight() const;
+
+protected:
+    explicit HostPage(QWidget* parent);
+
+    /** Puts contents on the left and a panel on the right. Called once at most. */
+    void setUpLayout(QWidget* contents, QWidget* panel);
+
+private:
+    PanelScroller* m_scroller = nullptr;
+};
+
+} // namespace SampleHost
+
+#endif

@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include "samplehost/pages/catalogpage.h"
+#include "samplehost/pages/labelpage.h"
+#include "samplehost/pages/pdfpage.h"
+#include "samplehost/pages/pipepage.h"
+#include "samplehost/printing/labelpreview.h"
+#include "samplehost/printing/pdfpreview.h"
+#include "samplehost/simulator/supplysimulator.h"
+#include "samplehost/window/eventlog.h"
+#include "samplehost/window/mainwindow.h"
+
+#include <printpanels/multipageprintdialog.h>
+#include <printpanels/multipageprintwidget.h>
+#include <printpanels/printpreviewdialog.h>
+#include <printpanels/printwidget.h>
+#include <printpanels/quickprintwidget.h>
+
+#include <QtWidgets/QStatusBar>
+#include <QtWidgets/QTabWidget>
+
+#include <utility>
+
+namespace SampleHost {
+
+void MainWindow::createPages(const HostOptions& options)
+{
+    m_pages = new QTabWidget;
+    m_pages->setDocumentMode(true);
+    setCentralWidget(m_pages);
+    auto source = RecordSource::open(m_dataSource, &m_dataSourceProblem);
+    m_settings.setDataFile(RecordSource::filePath(m_dataSource));
+    auto design = std::make_unique<ChemicalDesign>(std::move(source), m_dataSourceProblem);
+    m_labelPage = new LabelPage(std::move(design), m_settings, options.testControls);
+    m_pipePage = new PipePage(m_settings, options.testControls);
+    addPrintPage(m_labelPage, tr("Chemical Labels"), tr("Labels"));
+    addPrintPage(m_pipePage, tr("Pipe Markers"), tr("Pipes"));
+    addCatalogPage();
+    addDocumentPage(options.document);
+}
+
+void MainWindow::addPage(HostPage* page, const QString& title)
+{
+    const JobController* controller = &page->controller();
+    connect(controller, &JobController::refused, this, &MainWindow::showError);
+    connect(controller, &JobController::jobStarted, this, &MainWindow::showJob);
+    connect(controller, &JobController::jobEnded, this, &MainWindow::showOutcome);
+    m_pages->addTab(page, title);
+}
+
+void MainWindow::addPrintPage(PrintPage* page, const QString& title, const QString& logName)
+{
+    m_log->watch(page->panel(), logName);
+    connect(&page->preview(), &LabelPreview::popupCreated, m_log,
+            [this, logName](PrintPreviewDialog* popup) {
+                m_log->watch(*popup, tr("%1 preview").arg(logName));
+            });
+    connectPanel(*page);
+    m_printers.fill(page->panel());
+    m_supply->connectPanel(page->panel());
+    addPage(page, title);
+}
+
+void MainWindow::addCatalogPage()
+{
+    m_catalogPage = new CatalogPage(m_settings);
+    m_log->watch(m_catalogPage->panel(), tr("Catalogue"));
+    // The page itself shows the problem; a message box on top of it would only be in the way.
+    connect(m_catalogPage, &CatalogPage::sizeRefused, this,
+            [this](const QString& problem) { statusBar()->showMessage(problem); });
+    connect(m_catalogPage, &CatalogPage::editorWanted, this,
+            [this](const CatalogItem& item, const QSizeF& sizeMm) {
+                m_labelPage->openItem(item, sizeMm);
+                setCurrentPage(*m_labelPage);
+            });
+    addPage(m_catalogPage, tr("Catalogue"));
+}
+
+void MainWindow::addDocumentPage(const QString& document)
+{
+    m_pdfPage = new PdfPage(m_settings, m_printers);
+    m_log->watch(m_pdfPage->preview().panel(), tr("Documents"));
+    addPage(m_pdfPage, tr("Documents"));
+    const auto showStatus = [this](const QString& text) { statusBar()->showMessage(text); };
+    connect(m_pdfPage, &PdfPage::opened, this, [this, showStatus](const QString& path) {
+        setCurrentPage(*m_pdfPage);
+        showStatus(tr("Opened %1").arg(path));
+    });
+    connect(&m_pdfPage->preview(), &PdfPreview::statusChanged, this, showStatus);
+    connect(m_pdfPage, &PdfPage::openFailed, this, &MainWindow::showError);
+    connect(&m_pdfPage->preview(), &PdfPreview::preferencesWanted, this,
+            &MainWindow::openPreferences);
+    if (!document.isEmpty()) {
+        m_pdfPage->open(document);
+    }
+}
+
+// A window over this one would cover what belongs to this one.
+QWidget* MainWindow::front()
+{
+    MultiPagePrintDialog& dialog = m_pdfPage->preview().dialog();
+    return dialog.isVisible() ? static_cast<QWidget*>(&dialog) : this;
+}
+
+} // namespace SampleHost
