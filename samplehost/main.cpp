@@ -4,7 +4,7 @@
 #include "samplehost/automation/demostates.h"
 #include "samplehost/automation/headlessrun.h"
 #include "samplehost/commandline/commandline.h"
-#include "samplehost/window/hostlook.h"
+#include "samplehost/window/hoststyle.h"
 #include "samplehost/window/mainwindow.h"
 
 #include <printpanels/printpanels_version.h>
@@ -19,13 +19,13 @@ using namespace SampleHost;
 
 namespace {
 
-void say(std::FILE* stream, const QString& text)
+void printLine(std::FILE* stream, const QString& text)
 {
     std::fputs(qPrintable(text + QLatin1Char('\n')), stream);
     std::fflush(stream);
 }
 
-/** Notes of the platform on the machine it finds are not news to who runs one command there. */
+/** Whether the platform plugin describes the machine, which does not concern the user. */
 bool isPlatformNote(const QString& message)
 {
     return message == QLatin1String("This plugin does not support propagateSizeHints()") ||
@@ -36,11 +36,11 @@ bool isPlatformNote(const QString& message)
 void reportMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
     if (!isPlatformNote(message)) {
-        say(stderr, qFormatLogMessage(type, context, message));
+        printLine(stderr, qFormatLogMessage(type, context, message));
     }
 }
 
-/** Work without a user needs no display; neither can a user be served without one. */
+/** Runs without a user need no display, and interactive use is impossible without one. */
 void choosePlatform(int argc, const char* const* argv)
 {
     const bool display =
@@ -54,29 +54,31 @@ void choosePlatform(int argc, const char* const* argv)
 int runHeadless(MainWindow& window, const CommandLine& command)
 {
     HeadlessRun run(window, command);
-    QObject::connect(&run, &HeadlessRun::reported, [](const QString& line) { say(stdout, line); });
-    QObject::connect(&run, &HeadlessRun::warned, [](const QString& line) { say(stderr, line); });
+    QObject::connect(&run, &HeadlessRun::reported,
+                     [](const QString& line) { printLine(stdout, line); });
+    QObject::connect(&run, &HeadlessRun::warned,
+                     [](const QString& line) { printLine(stderr, line); });
     QObject::connect(&run, &HeadlessRun::finished,
                      [](HeadlessRun::ExitCode code, const QString& message) {
                          if (!message.isEmpty()) {
-                             say(stderr, message);
+                             printLine(stderr, message);
                          }
                          QCoreApplication::exit(code);
                      });
-    // Only a running event loop can be left with an exit code.
+    // QCoreApplication::exit() has no effect before the event loop runs.
     QTimer::singleShot(0, &run, &HeadlessRun::start);
     return QCoreApplication::exec();
 }
 
 int runWithUser(MainWindow& window, const CommandLine& command)
 {
-    window.keepSettings();
+    window.persistSettings();
     command.applyTo(window.settings());
     window.show();
     applyDemoState(window, command.state);
     const int code = QCoreApplication::exec();
     if (!window.saveSettings()) {
-        say(stderr, window.statusBar()->currentMessage());
+        printLine(stderr, window.statusBar()->currentMessage());
     }
     return code;
 }
@@ -93,19 +95,19 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationVersion(QStringLiteral(PRINTPANELS_VERSION_STRING));
     const CommandLine command = parseCommandLine(QCoreApplication::arguments());
     if (!command.problem.isEmpty()) {
-        say(stderr, command.problem);
+        printLine(stderr, command.problem);
         return HeadlessRun::NothingToPrint;
     }
     if (command.helpAsked) {
-        say(stdout, commandLineHelp());
+        printLine(stdout, commandLineHelp());
         return HeadlessRun::Success;
     }
     if (command.versionAsked) {
-        say(stdout, QCoreApplication::applicationName() + QLatin1Char(' ') +
-                        QCoreApplication::applicationVersion());
+        printLine(stdout, QCoreApplication::applicationName() + QLatin1Char(' ') +
+                              QCoreApplication::applicationVersion());
         return HeadlessRun::Success;
     }
-    applyHostLook(application);
+    applyHostStyle(application);
     MainWindow window(command.host);
     return command.isHeadless() ? runHeadless(window, command) : runWithUser(window, command);
 }

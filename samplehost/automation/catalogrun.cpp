@@ -3,7 +3,7 @@
 
 #include "samplehost/automation/catalogrun.h"
 
-#include "samplehost/automation/userhands.h"
+#include "samplehost/automation/inputsimulation.h"
 #include "samplehost/pages/catalogpage.h"
 #include "samplehost/pages/labelpage.h"
 #include "samplehost/window/mainwindow.h"
@@ -47,11 +47,11 @@ bool CatalogRun::choosePrinter()
     if (m_command.printer.isEmpty()) {
         return true;
     }
-    // The printer is chosen where there is a list of them.
+    // Only the panel of this page has a list of printers.
     m_window.setCurrentPage(m_window.labelPage());
     auto* printers =
         m_window.labelPage().panel().findChild<QComboBox*>(QStringLiteral("PrinterListCombo"));
-    return UserHands::pick(printers, m_command.printer) ||
+    return InputSimulation::select(printers, m_command.printer) ||
            fail(HeadlessRun::RuntimeFailure,
                 tr("There is no printer \"%1\".").arg(m_command.printer));
 }
@@ -70,7 +70,7 @@ bool CatalogRun::chooseItem()
     }
     m_window.setCurrentPage(m_page);
     m_page.setCurrentItem(index);
-    UserHands::wait();
+    InputSimulation::processEvents();
     m_window.growToPanel();
     return true;
 }
@@ -81,9 +81,9 @@ bool CatalogRun::chooseSize()
     if (!catalog.hasSize()) {
         return true;
     }
-    if (!UserHands::type(panelWidget("lengthEdit"), catalog.length) ||
-        !UserHands::type(panelWidget("widthEdit"), catalog.width) ||
-        !UserHands::click(panelWidget("resizeButton"))) {
+    if (!InputSimulation::type(panelWidget("lengthEdit"), catalog.length) ||
+        !InputSimulation::type(panelWidget("widthEdit"), catalog.width) ||
+        !InputSimulation::click(panelWidget("resizeButton"))) {
         return fail(HeadlessRun::RuntimeFailure, tr("The panel takes no size."));
     }
     if (!m_page.message().isEmpty()) {
@@ -95,7 +95,8 @@ bool CatalogRun::chooseSize()
 
 bool CatalogRun::chooseCopies()
 {
-    return (UserHands::type(panelWidget("copiesSpinBox"), QString::number(m_command.copies)) &&
+    return (InputSimulation::type(panelWidget("copiesSpinBox"),
+                                  QString::number(m_command.copies)) &&
             m_page.panel().getNumberOfCopies() == m_command.copies) ||
            fail(HeadlessRun::RuntimeFailure,
                 tr("The panel does not take %1 copies.").arg(m_command.copies));
@@ -103,7 +104,7 @@ bool CatalogRun::chooseCopies()
 
 bool CatalogRun::print()
 {
-    return UserHands::click(panelWidget("printButton")) ||
+    return InputSimulation::click(panelWidget("printButton")) ||
            fail(HeadlessRun::RuntimeFailure, tr("The panel's Print button cannot be pressed."));
 }
 

@@ -15,8 +15,8 @@ class CatalogPage;
 class MainWindow;
 
 /**
- * Does what a command line asks for with an item of the catalogue, as a user would. Every step
- * answers false when it cannot be done; exitCode() and problem() then say why.
+ * Prints the catalogue item of a command line through the window's widgets, as a user would. If a
+ * step fails, it returns false and sets exitCode() and problem().
  */
 class CatalogRun
 {

@@ -11,19 +11,19 @@ namespace SampleHost {
 
 class LabelDesign;
 
-/** A PDF document for a first look, made anew; its file goes with the object. */
+/** A PDF document for demonstration, in a temporary file that is removed with the object. */
 class DemoDocument : public QObject
 {
     Q_OBJECT
 
 public:
-    /** Nothing is written yet. */
+    /** Does not write the file yet. */
     explicit DemoDocument(QObject* parent = nullptr);
 
-    /** The file. */
+    /** The path of the file. */
     QString path() const;
 
-    /** Writes a document with a label on each page, a dozen at most. False if that failed. */
+    /** Writes up to twelve pages with a label each. Returns false if that fails. */
     bool write(const LabelDesign& design);
 
 private:

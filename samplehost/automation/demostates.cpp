@@ -4,7 +4,7 @@
 #include "samplehost/automation/demostates.h"
 
 #include "samplehost/automation/demodocument.h"
-#include "samplehost/automation/userhands.h"
+#include "samplehost/automation/inputsimulation.h"
 #include "samplehost/pages/catalogpage.h"
 #include "samplehost/pages/labelpage.h"
 #include "samplehost/pages/pdfpage.h"
@@ -41,9 +41,10 @@ bool showListWithNup(MainWindow& window)
 {
     const LabelPage& page = window.labelPage();
     window.settings().setNup(NupLayout{2, 2});
-    return UserHands::click(panelWidget(page, "recordListRadio")) &&
-           UserHands::type(panelWidget(page, "recordListEdit"), QStringLiteral("1,4-5,11-20,33")) &&
-           UserHands::click(panelWidget(page, "sequencingRadio"));
+    return InputSimulation::click(panelWidget(page, "recordListRadio")) &&
+           InputSimulation::type(panelWidget(page, "recordListEdit"),
+                                 QStringLiteral("1,4-5,11-20,33")) &&
+           InputSimulation::click(panelWidget(page, "sequencingRadio"));
 }
 
 bool showSupply(MainWindow& window)
@@ -51,7 +52,7 @@ bool showSupply(MainWindow& window)
     SupplySimulator& supply = window.supply();
     auto* secondRibbon = supply.findChild<QComboBox*>(QStringLiteral("ribbon2Combo"));
     supply.setReport(SupplySimulator::Report::TwoRibbons);
-    // The last colour stands for a place without a ribbon.
+    // The last colour stands for no ribbon.
     secondRibbon->setCurrentIndex(secondRibbon->count() - 1);
     supply.findChild<QCheckBox*>(QStringLiteral("ladderCheck"))->setChecked(true);
     return window.labelPage().panel().isSupplyInfoVisible();
@@ -77,13 +78,13 @@ bool showCatalog(MainWindow& window)
     CatalogPage& page = window.catalogPage();
     window.setCurrentPage(page);
     page.setCurrentItem(catalogIndexOf(QStringLiteral("EYE WASH STATION")));
-    UserHands::wait();
+    InputSimulation::processEvents();
     return page.findChild<QWidget*>(QStringLiteral("resizeFrame"))->isVisible();
 }
 
 bool showQuickPrint(MainWindow& window)
 {
-    return showCatalog(window) && UserHands::click(window.catalogPage().findChild<QWidget*>(
+    return showCatalog(window) && InputSimulation::click(window.catalogPage().findChild<QWidget*>(
                                       QStringLiteral("fixedSizeCheck")));
 }
 
@@ -101,7 +102,7 @@ bool showDocument(MainWindow& window)
 bool showMultiPage(MainWindow& window)
 {
     return showDocument(window) &&
-           UserHands::click(
+           InputSimulation::click(
                window.pdfPage().findChild<QWidget*>(QStringLiteral("documentPrintButton"))) &&
            window.pdfPage().preview().dialog().isVisible();
 }
@@ -111,19 +112,19 @@ bool showMultiPage(MainWindow& window)
 bool choosePrintToFile(const PrintPage& page)
 {
     if (!page.panel().getPrintToFileEnabled()) {
-        UserHands::click(panelWidget(page, "printToFileCheck"));
+        InputSimulation::click(panelWidget(page, "printToFileCheck"));
     }
     return page.panel().getPrintToFileEnabled();
 }
 
 bool openPreview(const PrintPage& page, std::optional<bool> portrait)
 {
-    if (!UserHands::click(panelWidget(page, "PreviewButton")) ||
+    if (!InputSimulation::click(panelWidget(page, "PreviewButton")) ||
         page.preview().popup() == nullptr) {
         return false;
     }
     if (portrait) {
-        return UserHands::click(
+        return InputSimulation::click(
             previewWidget(page, *portrait ? "portraitButton" : "landscapeButton"));
     }
     return page.preview().popup()->isVisible();

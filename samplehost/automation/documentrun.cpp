@@ -3,7 +3,7 @@
 
 #include "samplehost/automation/documentrun.h"
 
-#include "samplehost/automation/userhands.h"
+#include "samplehost/automation/inputsimulation.h"
 #include "samplehost/pages/pdfpage.h"
 #include "samplehost/pages/recordnavigator.h"
 #include "samplehost/printing/pdfpreview.h"
@@ -49,10 +49,11 @@ bool DocumentRun::openWindow()
         return fail(HeadlessRun::RuntimeFailure, m_page.problem());
     }
     m_window.setCurrentPage(m_page);
-    if (!UserHands::click(m_page.findChild<QWidget*>(QStringLiteral("documentPrintButton")))) {
+    if (!InputSimulation::click(
+            m_page.findChild<QWidget*>(QStringLiteral("documentPrintButton")))) {
         return fail(HeadlessRun::RuntimeFailure, tr("There is no document."));
     }
-    UserHands::wait();
+    InputSimulation::processEvents();
     return true;
 }
 
@@ -63,7 +64,7 @@ bool DocumentRun::chooseOutput()
                     tr("\"%1\" is not the name of a file.").arg(m_command.output));
     }
     auto* printers = qobject_cast<QComboBox*>(panelWidget("PrinterListCombo"));
-    if (!m_command.printer.isEmpty() && !UserHands::pick(printers, m_command.printer)) {
+    if (!m_command.printer.isEmpty() && !InputSimulation::select(printers, m_command.printer)) {
         return fail(HeadlessRun::RuntimeFailure,
                     tr("There is no printer \"%1\".").arg(m_command.printer));
     }
@@ -78,7 +79,7 @@ bool DocumentRun::choosePages()
     case Pages::Current:
         return chooseCurrent();
     case Pages::All:
-        return UserHands::click(panelWidget("allPagesRadio")) ||
+        return InputSimulation::click(panelWidget("allPagesRadio")) ||
                fail(HeadlessRun::RuntimeFailure, tr("The panel offers no choice of pages."));
     case Pages::List:
         break;
@@ -96,7 +97,7 @@ bool DocumentRun::chooseCurrent()
             tr("There is no page %1 among the %2 pages. Nothing is printed.").arg(page).arg(count));
     }
     m_page.navigator().setCurrentIndex(page - 1);
-    return UserHands::click(panelWidget("currentPageRadio")) ||
+    return InputSimulation::click(panelWidget("currentPageRadio")) ||
            fail(HeadlessRun::RuntimeFailure, tr("The panel offers no choice of pages."));
 }
 
@@ -107,7 +108,8 @@ bool DocumentRun::chooseList()
         return fail(HeadlessRun::NothingToPrint, tr("The list is empty. Nothing is printed."));
     }
     auto* edit = qobject_cast<QLineEdit*>(panelWidget("pageListEdit"));
-    if (!UserHands::click(panelWidget("selectionRadio")) || !UserHands::type(edit, list)) {
+    if (!InputSimulation::click(panelWidget("selectionRadio")) ||
+        !InputSimulation::type(edit, list)) {
         return fail(HeadlessRun::RuntimeFailure, tr("The panel offers no choice of pages."));
     }
     if (edit->text() != list) {
@@ -127,7 +129,7 @@ bool DocumentRun::chooseList()
 bool DocumentRun::chooseCopies()
 {
     const QString copies = QString::number(m_command.copies);
-    return (UserHands::type(panelWidget("copiesEdit"), copies) &&
+    return (InputSimulation::type(panelWidget("copiesEdit"), copies) &&
             m_page.preview().panel().getNumberOfCopies() == m_command.copies) ||
            fail(HeadlessRun::RuntimeFailure, tr("The panel does not take %1 copies.").arg(copies));
 }
@@ -152,7 +154,7 @@ bool DocumentRun::setChecked(const char* name, bool checked)
         return false;
     }
     return check->isChecked() == checked ||
-           (UserHands::click(check) && check->isChecked() == checked);
+           (InputSimulation::click(check) && check->isChecked() == checked);
 }
 
 bool DocumentRun::print()
@@ -162,7 +164,7 @@ bool DocumentRun::print()
         return fail(HeadlessRun::RuntimeFailure,
                     tr("The document cannot be printed: %1.").arg(reason));
     }
-    return UserHands::click(panelWidget("PrintButton")) ||
+    return InputSimulation::click(panelWidget("PrintButton")) ||
            fail(HeadlessRun::RuntimeFailure, tr("The panel's Print button cannot be pressed."));
 }
 

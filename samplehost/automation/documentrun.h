@@ -15,8 +15,8 @@ class MainWindow;
 class PdfPage;
 
 /**
- * Does what a command line asks for with a document in the window "Preview and Print", as a user
- * would. Every step answers false when it cannot be done; exitCode() and problem() then say why.
+ * Prints the document of a command line through the window "Preview and Print", as a user would. If
+ * a step fails, it returns false and sets exitCode() and problem().
  */
 class DocumentRun
 {

@@ -6,14 +6,12 @@
 #include "samplehost/automation/catalogrun.h"
 #include "samplehost/automation/demostates.h"
 #include "samplehost/automation/documentrun.h"
-#include "samplehost/automation/userhands.h"
+#include "samplehost/automation/inputsimulation.h"
 #include "samplehost/pages/catalogpage.h"
 #include "samplehost/pages/labelpage.h"
 #include "samplehost/pages/pdfpage.h"
 #include "samplehost/pages/recordnavigator.h"
 #include "samplehost/print/outputfile.h"
-#include "samplehost/printing/pdfprintcontroller.h"
-#include "samplehost/printing/printcontroller.h"
 #include "samplehost/window/mainwindow.h"
 
 #include <printpanels/printwidget.h>
@@ -32,10 +30,10 @@ using Records = CommandLine::Records;
 
 namespace {
 
-/** Writes a PNG file, complete or not at all. */
+/** Writes a complete PNG file or none. */
 bool savePicture(const QPixmap& picture, const QString& path, QString& problem)
 {
-    // By way of memory, since the encoder prints messages of its own when writing fails.
+    // Encoded in memory, because the encoder prints warnings when writing fails.
     QByteArray bytes;
     QBuffer buffer(&bytes);
     if (!picture.save(&buffer, "PNG")) {
@@ -82,7 +80,7 @@ bool HeadlessRun::fail(ExitCode code, const QString& message)
 
 void HeadlessRun::start()
 {
-    arrange();
+    applyOptions();
     m_window.show();
     if (!m_window.pdfPage().problem().isEmpty()) {
         fail(RuntimeFailure, m_window.pdfPage().problem());
@@ -93,7 +91,7 @@ void HeadlessRun::start()
              tr("The state \"%1\" cannot be shown.").arg(demoStateName(m_command.state)));
         return;
     }
-    UserHands::wait();
+    InputSimulation::processEvents();
     m_window.growToPanel();
     if (!m_command.document.file.isEmpty()) {
         printDocument();
@@ -106,7 +104,7 @@ void HeadlessRun::start()
     }
 }
 
-void HeadlessRun::arrange()
+void HeadlessRun::applyOptions()
 {
     m_command.applyTo(m_window.settings());
     if (m_command.userBackground) {
@@ -123,7 +121,7 @@ bool HeadlessRun::chooseOutput()
         return fail(RuntimeFailure, tr("\"%1\" is not the name of a file.").arg(m_command.output));
     }
     auto* printers = qobject_cast<QComboBox*>(panelWidget("PrinterListCombo"));
-    if (!m_command.printer.isEmpty() && !UserHands::pick(printers, m_command.printer)) {
+    if (!m_command.printer.isEmpty() && !InputSimulation::select(printers, m_command.printer)) {
         return fail(RuntimeFailure, tr("There is no printer \"%1\".").arg(m_command.printer));
     }
     if (m_command.printToFile && !choosePrintToFile(m_window.labelPage())) {
@@ -138,7 +136,7 @@ bool HeadlessRun::chooseRecords()
     case Records::Current:
         return chooseCurrent();
     case Records::All:
-        return UserHands::click(panelWidget("allRecordsRadio")) ||
+        return InputSimulation::click(panelWidget("allRecordsRadio")) ||
                fail(NothingToPrint, tr("There are no records. Nothing is printed."));
     default:
         return chooseList();
@@ -156,7 +154,7 @@ bool HeadlessRun::chooseCurrent()
                                         .arg(count));
     }
     navigator.setCurrentIndex(m_command.currentRecord - 1);
-    return UserHands::click(panelWidget("currentRecordRadio")) ||
+    return InputSimulation::click(panelWidget("currentRecordRadio")) ||
            fail(NothingToPrint, tr("There are no records. Nothing is printed."));
 }
 
@@ -166,8 +164,8 @@ bool HeadlessRun::chooseList()
         return fail(NothingToPrint, tr("The list is empty. Nothing is printed."));
     }
     auto* edit = qobject_cast<QLineEdit*>(panelWidget("recordListEdit"));
-    if (!UserHands::click(panelWidget("recordListRadio")) ||
-        !UserHands::type(edit, m_command.list)) {
+    if (!InputSimulation::click(panelWidget("recordListRadio")) ||
+        !InputSimulation::type(edit, m_command.list)) {
         return fail(NothingToPrint, tr("There are no records. Nothing is printed."));
     }
     if (edit->text() != m_command.list) {
@@ -181,13 +179,14 @@ bool HeadlessRun::chooseList()
 
 bool HeadlessRun::chooseSheet()
 {
-    if (!UserHands::type(panelWidget("copiesSpinBox"), QString::number(m_command.copies)) ||
+    if (!InputSimulation::type(panelWidget("copiesSpinBox"), QString::number(m_command.copies)) ||
         m_window.labelPage().panel().getNumberOfCopies() != m_command.copies) {
         return fail(RuntimeFailure, tr("The panel does not take %1 copies.").arg(m_command.copies));
     }
     if (m_command.nupMode) {
         const bool sequencing = *m_command.nupMode == NupMode::Sequencing;
-        if (!UserHands::click(panelWidget(sequencing ? "sequencingRadio" : "replicatingRadio"))) {
+        if (!InputSimulation::click(
+                panelWidget(sequencing ? "sequencingRadio" : "replicatingRadio"))) {
             Q_EMIT warned(
                 tr("The panel offers no N-up choice for this request; --%1 has no "
                    "effect.")
@@ -199,7 +198,7 @@ bool HeadlessRun::chooseSheet()
 
 void HeadlessRun::print()
 {
-    if (!UserHands::click(panelWidget("PrintButton"))) {
+    if (!InputSimulation::click(panelWidget("PrintButton"))) {
         fail(RuntimeFailure, tr("The panel's Print button cannot be pressed."));
     }
 }
@@ -232,7 +231,7 @@ void HeadlessRun::printFromPreview()
         fail(RuntimeFailure, tr("The preview cannot be shown."));
     } else if (!m_command.hasTarget()) {
         finish();
-    } else if (!UserHands::click(previewWidget(m_window.labelPage(), "printButton"))) {
+    } else if (!InputSimulation::click(previewWidget(m_window.labelPage(), "printButton"))) {
         fail(RuntimeFailure, tr("The preview's Print button cannot be pressed."));
     }
 }
@@ -257,10 +256,10 @@ void HeadlessRun::finish()
 
 bool HeadlessRun::saveScreenshot()
 {
-    UserHands::wait();
+    InputSimulation::processEvents();
     QWidget* popup = openPopup(m_window);
     QWidget* picture = popup != nullptr ? popup : &m_window;
-    QString problem = m_window.settings().whyNotReplace(m_command.screenshot);
+    QString problem = m_window.settings().overwriteProblem(m_command.screenshot);
     if (!problem.isEmpty() || !savePicture(picture->grab(), m_command.screenshot, problem)) {
         return fail(RuntimeFailure, problem);
     }

@@ -14,8 +14,8 @@ namespace SampleHost {
 class MainWindow;
 
 /**
- * Does what a command line asks for with the window's own widgets, as a user would: chooses the
- * records in the panel, types the list, presses Print, waits for the job, takes the picture.
+ * Executes a command line with the window's widgets, as a user would: selects the records in the
+ * panel, types the list, presses Print, waits for the job and takes the screenshot.
  */
 class HeadlessRun : public QObject
 {
@@ -25,27 +25,27 @@ public:
     /** How a run ended; the values are the program's exit codes. */
     enum ExitCode {
         Success = 0,
-        RuntimeFailure = 1, ///< The output could not be written, the data not be read.
-        NothingToPrint = 2  ///< The command names no record, or cannot be read.
+        RuntimeFailure = 1, ///< The output cannot be written or the data cannot be read.
+        NothingToPrint = 2  ///< The command line is invalid or names no record.
     };
     Q_ENUM(ExitCode)
 
     /** Prepares a run in a window, which must outlive it. */
     HeadlessRun(MainWindow& window, const CommandLine& command, QObject* parent = nullptr);
 
-    /** Starts the run. It shows the window. finished() is sent before or after this returns. */
+    /** Shows the window and starts. finished() may be emitted before this returns. */
     void start();
 
 Q_SIGNALS:
-    /** A line of good news for standard output. */
+    /** There is a line for standard output. */
     void reported(const QString& line);
-    /** Something asked for has no effect; a line for standard error. */
+    /** There is a warning for standard error. */
     void warned(const QString& line);
-    /** The run ended; message is what to say on standard error, empty on success. */
+    /** The run ended; message is for standard error and empty on success. */
     void finished(SampleHost::HeadlessRun::ExitCode code, const QString& message);
 
 private:
-    void arrange();
+    void applyOptions();
     bool chooseRecords();
     bool chooseCurrent();
     bool chooseList();

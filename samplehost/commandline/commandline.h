@@ -20,7 +20,7 @@ struct CatalogCommand
 {
     /** The item's name as it was given; empty without one. */
     QString item;
-    /** What to type into the size fields, numbers or not; empty to keep the listed size. */
+    /** The texts for the size fields, valid or not; empty for the listed size. */
     QString length;
     QString width;
 
@@ -33,7 +33,7 @@ struct CatalogCommand
 /** What a command line asks for with a PDF document. */
 struct DocumentCommand
 {
-    /** Which pages are printed without a user. */
+    /** Which pages are printed. */
     enum class Pages {
         None, ///< Nothing is printed.
         Current,
@@ -41,14 +41,14 @@ struct DocumentCommand
         List
     };
 
-    /** The document as it was given; empty without one. */
+    /** The path as it was given; empty without a document. */
     QString file;
     Pages pages = Pages::None;
     /** The list as it was given, valid or not. */
     QString list;
     /** The 1-based current page, as it was given. */
     int page = 1;
-    /** Whether pages are fitted to the paper; without a choice the panel's own stays. */
+    /** Whether pages are fitted to the paper; the panel's default if unset. */
     std::optional<bool> fitToPage;
     bool rotate180 = false;
     bool formFillOnly = false;
@@ -60,7 +60,7 @@ struct DocumentCommand
 /** What the program was asked to do on its command line. */
 struct CommandLine
 {
-    /** Which records are printed without a user. */
+    /** Which records are printed. */
     enum class Records {
         None, ///< Nothing is printed.
         Current,
@@ -75,43 +75,43 @@ struct CommandLine
     /** The 1-based current record, as it was given. */
     int currentRecord = 1;
     int copies = 1;
-    /** The mode to choose in the panel; without one the panel's own choice stays. */
+    /** The mode to select in the panel; the panel's default if unset. */
     std::optional<NupMode> nupMode;
     std::optional<NupLayout> nup;
     std::optional<Paper> paper;
     bool userBackground = false;
-    /** Whether the records are shown in the preview, and printed from there if at all. */
+    /** Whether the records are shown in the preview, and printed from there. */
     bool preview = false;
-    /** The orientation to choose in the preview; without one it stays as the label is designed. */
+    /** The orientation to select in the preview; that of the label if unset. */
     std::optional<bool> portrait;
     /** Whether sizes are shown in millimetres. */
     bool metric = false;
     bool printToFile = false;
     /** The PDF file to print to. */
     QString output;
-    /** The printer to print to in place of a PDF file. */
+    /** The printer to print to instead of a PDF file. */
     QString printer;
-    /** The PNG file for a picture of the window. */
+    /** The PNG file for a screenshot of the window. */
     QString screenshot;
     /** The state to bring the window into. */
     DemoState state = DemoState::None;
-    /** Which item of the catalogue is printed in place of labels. */
+    /** The catalogue item to print instead of labels. */
     CatalogCommand catalog;
-    /** What is to be done with a document in place of labels. */
+    /** The document to print instead of labels. */
     DocumentCommand document;
 
     bool helpAsked = false;
     bool versionAsked = false;
-    /** What is wrong with the command line; empty if it can be carried out. */
+    /** What is wrong with the command line; empty if it is valid. */
     QString problem;
 
-    /** Puts what the command line says about the output in the place of what the settings say. */
+    /** Overrides the settings that the command line names. */
     void applyTo(HostSettings& settings) const;
 
-    /** Whether there is somewhere to print to. */
+    /** Whether there is an output file or a printer. */
     bool hasTarget() const { return !output.isEmpty() || !printer.isEmpty(); }
 
-    /** Whether the program does its work and ends, instead of waiting for a user. */
+    /** Whether the program runs without a user and ends. */
     bool isHeadless() const
     {
         return records != Records::None || catalog.isGiven() || document.prints() ||
@@ -119,15 +119,15 @@ struct CommandLine
     }
 };
 
-/** Reads a command line, the program's name first. */
+/** Parses a command line, which starts with the name of the program. */
 CommandLine parseCommandLine(const QStringList& arguments);
 
-/** The text that --help shows. Needs the application object. */
+/** The text of --help. Needs the application object. */
 QString commandLineHelp();
 
 /**
- * Whether a command line asks for something that needs no user, seen from the raw arguments: it is
- * needed before there is an application object.
+ * Whether the raw arguments ask for a run without a user. The platform has to be chosen before the
+ * application object, which parsing needs, exists.
  */
 bool looksHeadless(int argc, const char* const* argv);
 

@@ -9,13 +9,13 @@ namespace SampleHost {
 /** One option of the program. */
 struct CommandOption
 {
-    /** The command that an option is useless without. */
+    /** The command that an option belongs to. */
     enum Command { AnyCommand, Catalog, Document };
-    /** Whether the option asks for something that needs no display. */
+    /** Whether the program needs a display with this option. */
     enum Display { WithDisplay, WithoutDisplay };
 
     const char* name;
-    /** What --help calls the value; null for an option without one. */
+    /** The name of the value in --help; null for an option without a value. */
     const char* valueName;
     const char* description;
     Command command = AnyCommand;
@@ -23,7 +23,7 @@ struct CommandOption
 };
 
 // clang-format off
-/** All options, in the order of --help; that of "state" has a place for the names of the states. */
+/** All options in the order of --help. The states replace the place marker of "state". */
 inline constexpr CommandOption commandOptions[] = {
     {"print", "list", "Print a list of records such as 1,4-5, without a user.",
      CommandOption::AnyCommand, CommandOption::WithoutDisplay},

@@ -43,7 +43,7 @@ int CatalogDesign::recordCount() const
 
 void CatalogDesign::complete(PrintRequest& request) const
 {
-    // The panel of this page asks for the item that it shows.
+    // The panel of this page prints the selected item.
     request.sequenceStart = m_currentIndex + 1;
     request.sequenceEnd = -1;
     request.customRecordsList.clear();

@@ -11,7 +11,7 @@
 
 namespace SampleHost {
 
-/** The items of the catalogue: the selected one is printed, in the size that was chosen for it. */
+/** The items of the catalogue. The selected one is printed, in the size chosen for it. */
 class CatalogDesign : public LabelDesign
 {
     Q_DECLARE_TR_FUNCTIONS(CatalogDesign)
@@ -23,14 +23,14 @@ public:
 
     /** The selected item, 0-based. */
     int currentIndex() const override { return m_currentIndex; }
-    /** Selects an item in its listed size; an index without an item changes nothing. */
+    /** Selects an item in its listed size; an index without an item is ignored. */
     void setCurrentIndex(int index);
     /** The selected item. */
     const CatalogItem& currentItem() const;
 
     /** The size of the selected item, in millimetres. */
     QSizeF sizeMm() const { return m_sizeMm; }
-    /** Changes it; an empty size changes nothing. */
+    /** Sets that size; an empty one is ignored. */
     void setSizeMm(const QSizeF& sizeMm);
 
     QString title() const override;

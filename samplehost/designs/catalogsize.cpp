@@ -18,7 +18,7 @@ struct Side
     const char* unreadable;
     const char* tooShort;
     const char* tooLong;
-    double greatestMm;
+    double maximumMm;
 };
 
 constexpr Side length{
@@ -27,16 +27,16 @@ constexpr Side length{
                       "A length of %1 is too short to be printed; the least is %2."),
     QT_TRANSLATE_NOOP("SampleHost::CatalogSize",
                       "A length of %1 is too long to be printed; the greatest is %2."),
-    greatestLengthMm};
+    maximumLengthMm};
 constexpr Side width{
     QT_TRANSLATE_NOOP("SampleHost::CatalogSize", "The width has to be a number greater than 0."),
     QT_TRANSLATE_NOOP("SampleHost::CatalogSize",
                       "A width of %1 is too narrow to be printed; the least is %2."),
     QT_TRANSLATE_NOOP("SampleHost::CatalogSize",
                       "A width of %1 is too wide to be printed; the greatest is %2."),
-    greatestWidthMm};
+    maximumWidthMm};
 
-// A size that was written with two decimals and read again is still the same size.
+// Rounding to the two decimals that are shown must not make a valid size invalid.
 constexpr double tolerance = 0.005;
 
 QString tr(const char* text)
@@ -59,8 +59,8 @@ QString sideProblem(const Side& side, double value, bool metric)
     if (!std::isfinite(value) || value <= 0) {
         return tr(side.unreadable);
     }
-    const double least = inUnit(leastMm, metric);
-    const double greatest = inUnit(side.greatestMm, metric);
+    const double least = inUnit(minimumMm, metric);
+    const double greatest = inUnit(side.maximumMm, metric);
     const auto written = [metric](double number) {
         return QString::number(number, 'g', 6) + unit(metric);
     };

@@ -9,23 +9,23 @@
 
 namespace SampleHost {
 
-/** The sizes in which catalogue items can be printed: length by width. */
+/** The sizes, length by width, in which catalogue items can be printed. */
 namespace CatalogSize {
 
-/** The shortest side in millimetres, whichever it is. */
-constexpr double leastMm = 10.0;
-/** The greatest length in millimetres; the printer cuts it off a roll. */
-constexpr double greatestLengthMm = 914.4;
-/** The greatest width in millimetres, that of the widest roll. */
-constexpr double greatestWidthMm = 304.8;
+/** The minimum of both sides in millimetres. */
+constexpr double minimumMm = 10.0;
+/** The maximum length in millimetres, which is cut off a roll. */
+constexpr double maximumLengthMm = 914.4;
+/** The maximum width in millimetres, which is that of the widest roll. */
+constexpr double maximumWidthMm = 304.8;
 
 /**
- * Why an item cannot be printed in a size, in words for the user; empty if it can. The size is in
- * millimetres or inches, and may hold anything.
+ * Why an item cannot be printed in a size, for the user; empty if it can. The size, in millimetres
+ * or inches, may have any values.
  */
 QString problem(const QSizeF& size, bool metric);
 
-/** A size as it is written for the user, "10.00 x 7.00 in" or "254.00 x 177.80 mm". */
+/** A size as text for the user, "10.00 x 7.00 in" or "254.00 x 177.80 mm". */
 QString text(const QSizeF& size, bool metric);
 
 } // namespace CatalogSize

@@ -14,8 +14,8 @@ namespace SampleHost {
 namespace {
 
 /**
- * Reads records one after the other; copies of the same label are read once. So is one that cannot
- * be read: a locked database lets each try wait, and a window is painted often.
+ * Reads records and caches the last one, for copies of a label. An unreadable record is cached,
+ * too: with a locked database each attempt takes time, and windows are painted often.
  */
 class RecordReader
 {

@@ -21,38 +21,37 @@ class ChemicalDesign : public LabelDesign
     Q_DECLARE_TR_FUNCTIONS(ChemicalDesign)
 
 public:
-    /** A design over a source, which may be null: then there are no records, and problem says why
-     * in words for the user. */
+    /** A design for a source. Without one there are no records, and problem says why. */
     explicit ChemicalDesign(std::unique_ptr<RecordSource> source,
                             const QString& problem = QString());
     ~ChemicalDesign() override;
 
-    /** Takes the records from another source. Painters keep the source they were made for. */
+    /** Takes the records from another source. Existing painters keep theirs. */
     void setSource(std::unique_ptr<RecordSource> source);
 
-    /** The record that the host shows, 0-based; clamped to the records there are. */
+    /** The current record, 0-based; clamped to the existing records. */
     int currentIndex() const override { return m_currentIndex; }
     void setCurrentIndex(int index);
 
     /**
-     * Whether the label takes its contents from the data source. An unbound label has the contents
-     * that it shows now and no records to choose from.
+     * Whether the label shows the records of the data source. An unbound label shows one record or
+     * catalogue item, without a choice.
      */
     bool isBound() const { return m_bound; }
-    /** Binds the label, which ends what openItem() began, or keeps what it shows now. */
+    /** Binds the label, which closes an item, or unbinds it with its current record. */
     void setBound(bool bound);
 
-    /** Makes an unbound label of a catalogue item, of a size in millimetres. */
+    /** Shows a catalogue item, in a size in millimetres, as an unbound label. */
     void openItem(const CatalogItem& item, const QSizeF& sizeMm);
-    /** Whether it is one. */
+    /** Whether it shows a catalogue item. */
     bool hasItem() const { return m_item.has_value(); }
 
-    /** The data source as a text for the user. */
+    /** A description of the data source for the user. */
     QString sourceDescription() const;
 
     QString title() const override;
-    /** The number of records now; while they cannot be read, the number when they last could, so
-     * that a choice among them stays until printing tells what is wrong. */
+    /** The current number of records, or the last known one while they cannot be read, so that the
+     * user's choice stays. */
     int recordCount() const override;
     void complete(PrintRequest& request) const override;
     QSizeF labelSizeMm(const PrintRequest& request) const override;
@@ -64,7 +63,7 @@ private:
     mutable int m_knownCount = 0;
     int m_currentIndex = 0;
     bool m_bound = true;
-    // What an unbound label shows in place of the current record.
+    // The catalogue item that is shown instead of a record.
     std::optional<CatalogItem> m_item;
     QSizeF m_itemSizeMm;
 };

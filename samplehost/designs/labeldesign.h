@@ -12,41 +12,39 @@
 
 namespace SampleHost {
 
-/** What a page of the host prints: how many records there are, and how one of them looks. */
+/** What a page prints: its records, their size and how they are painted. */
 class LabelDesign
 {
 public:
     LabelDesign() = default;
     virtual ~LabelDesign();
 
-    /** The name of the documents that are printed from this design. */
+    /** The title of documents that are printed with this design. */
     virtual QString title() const = 0;
 
-    /** The record that the host shows, 0-based. */
+    /** The current record, 0-based. */
     virtual int currentIndex() const = 0;
 
-    /** The number of records now. */
+    /** The current number of records. */
     virtual int recordCount() const = 0;
 
-    /** Fills in what the panel does not know, and overrules what does not apply to this design. */
+    /** Adds what the panel does not know to a request, and resets what does not apply. */
     virtual void complete(PrintRequest& request) const = 0;
 
-    /** Whether the user designs a label of a size of its own, or the size follows from the
-     * contents.
-     */
+    /** Whether the label has a size of its own; otherwise the contents determine the size. */
     virtual bool hasDesignSize() const { return true; }
 
-    /** The size of one label, in millimetres; exchanged sides for a turned one. */
+    /** The size of one label in millimetres, transposed for a turned one. */
     virtual QSizeF labelSizeMm(const PrintRequest& request) const = 0;
 
-    /** Paints the records of a request; it may be used as long as the design exists. */
+    /** A painter for the records of a request, valid as long as the design exists. */
     virtual LabelPainter painter(const PrintRequest& request) const = 0;
 
 private:
     Q_DISABLE_COPY_MOVE(LabelDesign)
 };
 
-/** Paints what another painter paints, turned by 90 degrees so that it reads upwards. */
+/** A painter that rotates another one by 90 degrees, so that text reads upwards. */
 LabelPainter turnedPainter(LabelPainter paint);
 
 } // namespace SampleHost

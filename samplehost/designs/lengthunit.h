@@ -8,13 +8,13 @@
 
 namespace SampleHost {
 
-/** The unit in which sizes are shown: millimetres, or else inches. */
+/** The unit in which sizes are shown: millimetres if metric, otherwise inches. */
 namespace LengthUnit {
 
-/** A size in millimetres as numbers of the unit. */
+/** Converts a size from millimetres. */
 QSizeF fromMm(const QSizeF& sizeMm, bool metric);
 
-/** Numbers of the unit as a size in millimetres. */
+/** Converts a size to millimetres. */
 QSizeF toMm(const QSizeF& size, bool metric);
 
 } // namespace LengthUnit

@@ -45,7 +45,7 @@ void PipeDesign::complete(PrintRequest& request) const
     request.sequenceEnd = -1;
     request.customRecordsList.clear();
     request.ammoniaItem = m_item;
-    // Markers come off a roll one by one.
+    // Markers are printed on a roll, one by one.
     request.nup = NupLayout{};
 }
 

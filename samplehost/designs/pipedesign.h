@@ -11,8 +11,7 @@
 
 namespace SampleHost {
 
-/** The pipe markers of the sample: the selected one is printed, whole or one of its ammonia tags.
- */
+/** The pipe markers. The selected one, or one of its ammonia tags, is printed. */
 class PipeDesign : public LabelDesign
 {
     Q_DECLARE_TR_FUNCTIONS(PipeDesign)
@@ -23,14 +22,14 @@ public:
 
     /** The selected marker, 0-based. */
     int currentIndex() const override { return m_currentIndex; }
-    /** Selects a marker; an index without a marker changes nothing. */
+    /** Selects a marker; an index without a marker is ignored. */
     void setCurrentIndex(int index);
     /** The selected marker. */
     const PipeMarker& currentMarker() const;
 
-    /** What of the marker is printed: a PipeItem value. */
+    /** The part of the marker that is printed: a PipeItem value. */
     int item() const { return m_item; }
-    /** Chooses what is printed; what the marker does not have counts as the whole marker. */
+    /** Selects that part. A part that the marker does not have selects the whole marker. */
     void setItem(int item);
 
     QString title() const override;

@@ -15,7 +15,7 @@ namespace SampleHost {
 
 namespace {
 
-// As many lines as a preview that is shown scaled down keeps readable.
+// The number of lines that stays legible when the preview is scaled down.
 constexpr int problemLines = 20;
 
 } // namespace
@@ -45,12 +45,12 @@ PrintRequest oriented(const LabelDesign& design, const PrintRequest& request, bo
     return turned;
 }
 
-QImage renderFirstSheet(const LabelDesign& design, const PrintRequest& request, const QSize& room,
-                        QString* problem)
+QImage renderFirstSheet(const LabelDesign& design, const PrintRequest& request,
+                        const QSize& maximumSize, QString* problem)
 {
     const SheetGeometry sheet = sheetOf(design, request);
-    const QSizeF fitting = sheet.sheetSizeMm().scaled(room, Qt::KeepAspectRatio);
-    QImage image(fitting.toSize().expandedTo(QSize(1, 1)).boundedTo(room),
+    const QSizeF connection = sheet.sheetSizeMm().scaled(maximumSize, Qt::KeepAspectRatio);
+    QImage image(connection.toSize().expandedTo(QSize(1, 1)).boundedTo(maximumSize),
                  QImage::Format_ARGB32_Premultiplied);
     if (image.isNull()) {
         return image;
@@ -58,7 +58,7 @@ QImage renderFirstSheet(const LabelDesign& design, const PrintRequest& request, 
     image.fill(Qt::white);
     QPainter painter(&image);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    const qreal dotsPerMm = fitting.width() / sheet.sheetSizeMm().width();
+    const qreal dotsPerMm = connection.width() / sheet.sheetSizeMm().width();
     const PagePlan plan = PagePlan::make(request, design.recordCount());
     QString reason;
     if (!paintPage(painter, dotsPerMm, sheet, plan.recordsOnPage(0), design.painter(request),

@@ -16,23 +16,21 @@ class LabelDesign;
 /** The sheet that the labels of a request are printed on. */
 SheetGeometry sheetOf(const LabelDesign& design, const PrintRequest& request);
 
-/** Whether something of this size stands upright; a square does. */
+/** Whether a size is higher than wide, or a square. */
 bool isPortrait(const QSizeF& size);
 
 /**
- * A request as it has to be for a sheet in the given orientation, from one that is not turned yet.
- * Paper is turned under its labels; a sheet without paper is turned with them, rows and columns
- * exchanged.
+ * An unturned request, changed for a sheet in the given orientation. Paper is turned without its
+ * labels; a sheet as large as its labels is turned with them, and rows and columns are exchanged.
  */
 PrintRequest oriented(const LabelDesign& design, const PrintRequest& request, bool portrait);
 
 /**
- * The first sheet of a request as a picture that fits into room (pixels). What cannot be painted is
- * explained in the picture, and in problem unless that is null. Null only for a room without
- * pixels.
+ * The first sheet of a request as an image that fits into maximumSize (pixels). If it cannot be
+ * painted, the image and problem, unless null, say why. Null only if maximumSize is empty.
  */
-QImage renderFirstSheet(const LabelDesign& design, const PrintRequest& request, const QSize& room,
-                        QString* problem = nullptr);
+QImage renderFirstSheet(const LabelDesign& design, const PrintRequest& request,
+                        const QSize& maximumSize, QString* problem = nullptr);
 
 } // namespace SampleHost
 

@@ -26,13 +26,13 @@ namespace SampleHost {
 
 namespace {
 
-// An odd multiple of the panel's view, which paints without smoothing.
+// An odd multiple of the panel's view, which scales without smoothing.
 constexpr QSize picturePixels(600, 600);
 
 // Half of the last decimal that the panel shows.
 constexpr double shownTolerance = 0.005;
 
-bool isShownAlike(const QSizeF& a, const QSizeF& b)
+bool looksEqual(const QSizeF& a, const QSizeF& b)
 {
     return std::abs(a.width() - b.width()) <= shownTolerance &&
            std::abs(a.height() - b.height()) <= shownTolerance;
@@ -44,7 +44,7 @@ CatalogPage::CatalogPage(const HostSettings& settings, QWidget* parent)
     : HostPage(parent), m_settings(settings), m_panel(new QuickPrintWidget(true, nullptr))
 {
     m_controller = new PrintController(*m_panel, m_design, settings, this);
-    // A panel as high as the page would be torn apart.
+    // The panel would stretch its rows if it became as high as the page.
     auto* holder = new QWidget;
     auto* column = new QVBoxLayout(holder);
     column->setContentsMargins(0, 0, 0, 0);
@@ -118,9 +118,9 @@ QWidget* CatalogPage::createSizeRow()
 void CatalogPage::connectPanel()
 {
     connect(m_panel, &QuickPrintWidget::resizeSignal, this, &CatalogPage::resizeItem);
-    connect(m_panel, &QuickPrintWidget::widgetPrintSignal, this, &CatalogPage::notePendingSize);
+    connect(m_panel, &QuickPrintWidget::widgetPrintSignal, this, &CatalogPage::showPendingSize);
     connect(m_panel, &QuickPrintWidget::openModuleSignal, this,
-            [this] { Q_EMIT editorWanted(m_design.currentItem(), m_design.sizeMm()); });
+            [this] { Q_EMIT editorRequested(m_design.currentItem(), m_design.sizeMm()); });
 }
 
 void CatalogPage::setCurrentItem(int index)
@@ -138,7 +138,7 @@ void CatalogPage::selectItem(int index)
     }
     m_design.setCurrentIndex(index);
     m_panel->updateCurrentRangeIndex(index);
-    // Another item is another errand.
+    // The number was chosen for the previous item.
     m_panel->setNumberOfCopies(1);
     if (!m_controller->isPrinting()) {
         m_panel->enableAllButtons();
@@ -165,14 +165,14 @@ void CatalogPage::resizeItem(const QSizeF& canvasSize)
     const bool metric = m_settings.isMetric();
     const QString problem = CatalogSize::problem(canvasSize, metric);
     if (problem.isEmpty()) {
-        // What the fields show of the present size is rounded, and means that size.
-        if (!isShownAlike(canvasSize, shownSize())) {
+        // The fields show rounded values; unchanged ones stand for the exact size.
+        if (!looksEqual(canvasSize, shownSize())) {
             m_design.setSizeMm(LengthUnit::toMm(canvasSize, metric));
         }
         showItem();
         return;
     }
-    // The fields keep what was typed, so that it can be corrected.
+    // The fields keep the text, so that the user can correct it.
     setMessage(problem);
     Q_EMIT sizeRefused(problem);
 }
@@ -201,9 +201,9 @@ void CatalogPage::showPrinter()
     m_panel->setCurrentPrinterName(m_settings.printer());
 }
 
-void CatalogPage::notePendingSize()
+void CatalogPage::showPendingSize()
 {
-    if (!isShownAlike(m_panel->getCanvasSize(), shownSize())) {
+    if (!looksEqual(m_panel->getCanvasSize(), shownSize())) {
         setMessage(tr("Printed as shown, %1. Press Resize to use the size in the fields.")
                        .arg(CatalogSize::text(shownSize(), m_settings.isMetric())));
     }

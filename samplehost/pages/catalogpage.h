@@ -20,13 +20,13 @@ namespace SampleHost {
 class HostSettings;
 class LabelView;
 
-/** The page of catalogue items: finished signs, printed in a size of the user's choice. */
+/** The page of catalogue items: ready-made signs, printed in a size that the user chooses. */
 class CatalogPage : public HostPage
 {
     Q_OBJECT
 
 public:
-    /** A page that prints to the printer that the settings name. */
+    /** A page that prints to the printer in the settings. */
     explicit CatalogPage(const HostSettings& settings, QWidget* parent = nullptr);
     ~CatalogPage() override;
 
@@ -37,17 +37,17 @@ public:
     /** Selects an item, 0-based; an index without an item changes nothing. */
     void setCurrentItem(int index);
 
-    /** What the page tells the user about the size; empty when there is nothing to tell. */
+    /** The message about the size that is shown; empty if there is none. */
     QString message() const;
 
-    /** Prints as the panel's Print button does, unless that is disabled. */
+    /** Prints as the panel's Print button does, unless it is disabled. */
     void print() override;
 
 Q_SIGNALS:
     /** The user asked for a size in which the item cannot be printed; message() says why. */
     void sizeRefused(const QString& problem);
-    /** The user wants to edit an item in the size that it has here, in millimetres. */
-    void editorWanted(const SampleHost::CatalogItem& item, const QSizeF& sizeMm);
+    /** The user wants to edit an item in its current size, in millimetres. */
+    void editorRequested(const SampleHost::CatalogItem& item, const QSizeF& sizeMm);
 
 private:
     QWidget* createContents();
@@ -60,7 +60,7 @@ private:
     void showItem();
     void showSize();
     void showPrinter();
-    void notePendingSize();
+    void showPendingSize();
     void setMessage(const QString& message);
     QSizeF shownSize() const;
 

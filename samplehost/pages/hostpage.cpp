@@ -16,7 +16,7 @@ HostPage::~HostPage() = default;
 
 void HostPage::setUpLayout(QWidget* contents, QWidget* panel)
 {
-    // First in the tab order.
+    // Created first, so that the panel comes first in the tab order.
     m_scroller = new PanelScroller(panel, this);
     auto* border = new QFrame;
     border->setFrameShape(QFrame::VLine);

@@ -11,7 +11,7 @@ namespace SampleHost {
 class JobController;
 class PanelScroller;
 
-/** A page of the window: what the window asks of the page in front, whichever it is. */
+/** A page of the window, with the operations that the window calls on the current page. */
 class HostPage : public QWidget
 {
     Q_OBJECT
@@ -19,19 +19,19 @@ class HostPage : public QWidget
 public:
     ~HostPage() override;
 
-    /** Runs the jobs of this page. */
+    /** Runs the print jobs of this page. */
     virtual JobController& controller() const = 0;
 
     /** Prints, as the page's own Print button does. */
     virtual void print() = 0;
 
-    /** Shows a preview, as the page's own button does; prints on a page without that button. */
+    /** Shows a preview, as the page's own button does. A page without that button prints. */
     virtual void showPreview() { print(); }
 
-    /** How many pages would be printed now; -1 on a page that cannot tell. */
+    /** The number of pages that print() would print now; -1 if the page cannot tell. */
     virtual qint64 pageCount() const { return -1; }
 
-    /** The height at which the whole panel is visible; 0 on a page without a panel. */
+    /** The height at which the whole panel is visible; 0 for a page without a panel. */
     int fullHeight() const;
 
 protected:

@@ -79,7 +79,7 @@ void LabelPage::applyLabelType()
     }
     m_design->setBound(m_typeBar->isBound());
     const int count = m_design->recordCount();
-    // A list stands for one record or several; how many there are may be new.
+    // Whether a list stands for one record or several depends on how many there are.
     panel().listRangeParse();
     const bool choosable = m_design->isBound() && count > 0;
     m_navigator->setEnabled(choosable);
@@ -109,7 +109,7 @@ void LabelPage::applyUserBackground()
     if (has != m_hadBackground) {
         m_hadBackground = has;
         panel().setShowUserBackground(has);
-        // A new layer is meant to be printed; one that is gone cannot be.
+        // A new layer is printed by default.
         panel().setPrintUserBackground(has);
     }
 }

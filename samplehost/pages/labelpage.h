@@ -21,7 +21,7 @@ class LabelPage : public PrintPage
     Q_OBJECT
 
 public:
-    /** A page over a design with its data source; a null one leaves the page without records. */
+    /** A page that prints the records of a design. */
     LabelPage(std::unique_ptr<ChemicalDesign> design, HostSettings& settings, bool testControls,
               QWidget* parent = nullptr);
     ~LabelPage() override;
@@ -29,12 +29,12 @@ public:
     const ChemicalDesign& design() const override { return *m_design; }
 
     /**
-     * Shows a catalogue item of a size in millimetres as the label to edit, in place of the label
-     * of the records, until the user binds the label to the data source again.
+     * Shows a catalogue item, in a size in millimetres, instead of the records until the user binds
+     * the label to the data source again.
      */
     void openItem(const CatalogItem& item, const QSizeF& sizeMm);
 
-    /** Takes the records from another source. What the user chose and typed stays. */
+    /** Takes the records from another source. The choices in the panel stay. */
     void setSource(std::unique_ptr<RecordSource> source);
 
     /** Chooses the current record. */

@@ -13,7 +13,7 @@ namespace SampleHost {
 class HostSettings;
 class NupCombo;
 
-/** The properties of a label type that decide what its print panel offers. */
+/** The properties of a label type that determine what its print panel offers. */
 class LabelTypeBar : public QWidget
 {
     Q_OBJECT
@@ -31,7 +31,7 @@ public:
     bool hasUserBackground() const;
 
 Q_SIGNALS:
-    /** One of the properties changed; the layout of sheets is HostSettings' to tell. */
+    /** One of the properties changed. The layout of sheets belongs to HostSettings. */
     void changed();
 
 private:

@@ -11,7 +11,7 @@
 
 namespace SampleHost {
 
-/** Shows one sheet as large as there is room for, as paper on a desk. */
+/** Shows one sheet as paper with a shadow, scaled to the available space. */
 class LabelView : public QWidget
 {
     Q_OBJECT

@@ -16,13 +16,13 @@ class NupCombo : public QComboBox
     Q_OBJECT
 
 public:
-    /** Offers the usual layouts; one label a page is selected. */
+    /** Offers the usual layouts; one label per page is selected. */
     explicit NupCombo(QWidget* parent = nullptr);
 
     /** The selected layout. */
     NupLayout layoutChoice() const;
 
-    /** Selects a layout without a signal; one that is not on offer is added. */
+    /** Selects a layout, which is added if necessary, without a signal. */
     void setLayoutChoice(const NupLayout& layout);
 
 Q_SIGNALS:

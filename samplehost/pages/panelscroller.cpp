@@ -16,12 +16,12 @@ PanelScroller::PanelScroller(QWidget* panel, QWidget* parent) : QScrollArea(pare
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     setWidget(panel);
     panel->installEventFilter(this);
-    keepPanelWhole();
+    updateMinimumHeight();
 }
 
-void PanelScroller::keepPanelWhole()
+void PanelScroller::updateMinimumHeight()
 {
-    // Without this a low window would squeeze the panel's rows before it scrolled them.
+    // Otherwise the panel's rows would be squeezed before the panel is scrolled.
     widget()->setMinimumHeight(fullHeight());
     updateGeometry();
 }
@@ -48,9 +48,9 @@ int PanelScroller::fullHeight() const
 
 bool PanelScroller::eventFilter(QObject* watched, QEvent* event)
 {
-    // The panel got or lost a section.
+    // A section of the panel was shown or hidden.
     if (event->type() == QEvent::LayoutRequest) {
-        keepPanelWhole();
+        updateMinimumHeight();
     }
     return QScrollArea::eventFilter(watched, event);
 }

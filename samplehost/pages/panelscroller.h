@@ -9,8 +9,8 @@
 namespace SampleHost {
 
 /**
- * Holds a print panel at its natural width. A panel that is higher than the window is scrolled,
- * with room kept for the scroll bar, so that the panel never changes its width.
+ * Shows a print panel at its natural width and scrolls it if it is higher than the window. There is
+ * always room for the scroll bar, so that the panel never changes its width.
  */
 class PanelScroller : public QScrollArea
 {
@@ -23,14 +23,14 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-    /** The height at which nothing has to be scrolled. */
+    /** The height at which the whole panel is visible. */
     int fullHeight() const;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void keepPanelWhole();
+    void updateMinimumHeight();
     int panelWidth() const;
 };
 

@@ -29,7 +29,7 @@ namespace SampleHost {
 
 namespace {
 
-/** The file that is dragged; empty if it is not exactly one. */
+/** The dragged file; empty if there are several. */
 QString draggedFile(const QMimeData& data)
 {
     const QList<QUrl> urls = data.urls();
@@ -46,7 +46,7 @@ PdfPage::PdfPage(HostSettings& settings, const PrinterDirectory& printers, QWidg
     createContents();
     m_preview = new PdfPreview(settings, printers, this);
     m_controller = new PdfPrintController(*m_preview, settings, this);
-    connect(m_preview, &PdfPreview::pageWanted, m_navigator, &RecordNavigator::setCurrentIndex);
+    connect(m_preview, &PdfPreview::pageRequested, m_navigator, &RecordNavigator::setCurrentIndex);
     connect(m_navigator, &RecordNavigator::currentIndexChanged, this, &PdfPage::showPage);
     setDocument(nullptr);
 }
@@ -79,13 +79,13 @@ void PdfPage::createContents()
 {
     auto* column = new QVBoxLayout(this);
     column->addWidget(createBar());
-    auto* invitation = new QLabel(tr("Open a PDF document, or drop one here."));
-    invitation->setAlignment(Qt::AlignCenter);
-    invitation->setEnabled(false);
+    auto* placeholder = new QLabel(tr("Open a PDF document, or drop one here."));
+    placeholder->setAlignment(Qt::AlignCenter);
+    placeholder->setEnabled(false);
     m_view = new LabelView;
     m_view->setObjectName(QStringLiteral("documentView"));
     m_stack = new QStackedWidget;
-    m_stack->addWidget(invitation);
+    m_stack->addWidget(placeholder);
     m_stack->addWidget(m_view);
     column->addWidget(m_stack, 1);
     m_navigator = new RecordNavigator(RecordNavigator::Items::Pages);
@@ -106,7 +106,7 @@ void PdfPage::addActions(QMenu& menu)
 void PdfPage::showRecentDocument(QAction& action)
 {
     const QString path = m_settings.recentDocument();
-    // An ampersand of the name must not be taken for a shortcut.
+    // Ampersands in the name do not mark a shortcut.
     const QString name = QFileInfo(path).fileName().replace(QLatin1Char('&'), QLatin1String("&&"));
     action.setText(path.isEmpty() ? tr("Open &Recent Document") : tr("Open &Recent: %1").arg(name));
     action.setEnabled(!path.isEmpty());
@@ -143,7 +143,7 @@ void PdfPage::setDocument(std::shared_ptr<PdfDocument> document)
         m_navigator->setCurrentIndex(0);
         m_navigator->setCount(any ? m_document->pageCount() : 0);
     }
-    // A list that is still typed in the panel may ask for another page than the first.
+    // A list in the panel may start at another page than the first.
     m_preview->setDocument(m_document);
     showPage(m_navigator->currentIndex());
 }

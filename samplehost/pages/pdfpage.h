@@ -32,20 +32,20 @@ class PdfPage : public HostPage
     Q_OBJECT
 
 public:
-    /** A page without a document. What is referred to must outlive it. */
+    /** A page without a document. The arguments must outlive it. */
     PdfPage(HostSettings& settings, const PrinterDirectory& printers, QWidget* parent = nullptr);
     ~PdfPage() override;
 
     /**
-     * Opens a PDF file at its first page. False, with openFailed(), when that is not possible; the
-     * document that is open then stays.
+     * Opens a PDF file at its first page. If that fails, emits openFailed(), keeps the current
+     * document and returns false.
      */
     bool open(const QString& path);
 
-    /** Why the last file could not be opened; empty when it could. */
+    /** Why the last file could not be opened; empty if it is open. */
     QString problem() const { return m_problem; }
 
-    /** Adds what opens documents to a menu: any one, and the one that was opened last. */
+    /** Adds the actions that open a document or the most recent one to a menu. */
     void addActions(QMenu& menu);
 
     /** The open document, or null. */

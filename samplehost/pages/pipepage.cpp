@@ -19,7 +19,7 @@ PipePage::PipePage(const HostSettings& settings, bool testControls, QWidget* par
 {
     setUp(createContents(), m_design, settings);
     panel().setModule(JxModuleInfo::PipeMarking);
-    // The names of the tags, before the first marker with tags needs them.
+    // Needed before the first marker with tags is shown.
     panel().createAmmoniaComboList();
     connect(m_markers, &QListWidget::currentRowChanged, this, &PipePage::showMarker);
     connect(&panel(), &PrintWidget::ammoniaPrintTagChanged, this, &PipePage::showItem);
@@ -61,7 +61,7 @@ void PipePage::showMarker(int index)
         return;
     }
     m_design.setCurrentIndex(index);
-    // The panel starts over at the whole marker and does not say so.
+    // The panel selects the whole marker without a signal.
     m_design.setItem(PipeItem::Label);
     panel().setVisibleAmmoniaTag(m_design.currentMarker().tags);
     panel().updateCurrentRangeIndex(index);

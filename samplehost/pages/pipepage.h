@@ -13,7 +13,7 @@ namespace SampleHost {
 
 class LabelView;
 
-/** The page of pipe markers; markers of ammonia lines can be printed as tags too. */
+/** The page of pipe markers. The tags of ammonia markers can be printed separately. */
 class PipePage : public PrintPage
 {
     Q_OBJECT

@@ -15,7 +15,7 @@ class HostSettings;
 class LabelDesign;
 class LabelPreview;
 
-/** A page of the host: contents on the left, a print panel of its own on the right. */
+/** A page with a print settings panel. */
 class PrintPage : public HostPage
 {
     Q_OBJECT
@@ -37,10 +37,10 @@ public:
     virtual const LabelDesign& design() const = 0;
 
 protected:
-    /** Makes the panel, with test controls or without. */
+    /** Creates the panel, with or without test controls. */
     PrintPage(bool testControls, QWidget* parent);
 
-    /** Puts contents and panel side by side and starts to answer the panel. Called once. */
+    /** Lays the page out and connects the panel. Called once by the constructor of a subclass. */
     void setUp(QWidget* contents, const LabelDesign& design, const HostSettings& settings);
 
 private:

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int iconSide = 16;
 
-/** A triangle that points to the left or the right, at a bar if it means the end. */
+/** A triangle that points to the left or the right, with a bar for the first or last item. */
 QPixmap arrowPixmap(const QColor& color, bool toRight, bool toEnd)
 {
     constexpr int scale = 2;

@@ -19,15 +19,15 @@ class RecordNavigator : public QWidget
     Q_OBJECT
 
 public:
-    /** What is walked through, for the words on the buttons. */
+    /** What the buttons step through, for their tool tips. */
     enum class Items { Records, Pages };
 
     /** A navigator without records, disabled. */
     explicit RecordNavigator(Items items = Items::Records, QWidget* parent = nullptr);
 
     /**
-     * Sets the number of records, and the current one to the nearest that exists. The navigator is
-     * disabled while there is none. Tells of a new current record like any other change.
+     * Sets the number of records. The current one becomes the nearest that exists, which emits
+     * currentIndexChanged() if it changes. Without records the navigator is disabled.
      */
     void setCount(int count);
 
@@ -38,11 +38,11 @@ public:
     int currentIndex() const { return m_index; }
 
 public Q_SLOTS:
-    /** Makes a record current; an index beyond the ends means the record at that end. */
+    /** Makes a record current. An index that is out of range is clamped. */
     void setCurrentIndex(int index);
 
 Q_SIGNALS:
-    /** Another record became current, by the user or by the program; 0-based. */
+    /** The current record changed, by the user or the program; 0-based. */
     void currentIndexChanged(int index);
 
 private:

@@ -80,7 +80,7 @@ QString HostSettings::outputPath() const
 
 bool HostSettings::isFileName(const QString& name)
 {
-    // The system takes a null character for the end of the name.
+    // The system ends the name at a null character.
     return !name.isEmpty() && !name.contains(QChar::Null) && QFileInfo(name).fileName() == name;
 }
 
@@ -148,7 +148,7 @@ void HostSettings::setRecentDocument(const QString& path)
     m_recentDocument = path.isEmpty() ? QString() : QFileInfo(path).absoluteFilePath();
 }
 
-QString HostSettings::whyNotReplace(const QString& path) const
+QString HostSettings::overwriteProblem(const QString& path) const
 {
     const QString name = QDir::toNativeSeparators(path);
     if (isSameFile(path, m_dataFile)) {

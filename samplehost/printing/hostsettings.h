@@ -25,16 +25,16 @@ QString paperName(Paper paper);
 /** The size of a paper in millimetres; empty for Paper::LabelSize. */
 QSizeF paperSizeMm(Paper paper);
 
-/** What the user decided about the output, for all pages of the host. */
+/** The settings for the output of all pages. */
 class HostSettings : public QObject
 {
     Q_OBJECT
 
 public:
-    /** Settings for a PDF file "labels.pdf" in the user's documents folder, one label a page. */
+    /** Settings for a PDF file "labels.pdf" in the user's documents folder, one label per page. */
     explicit HostSettings(QObject* parent = nullptr);
 
-    /** The folder that files are printed into. */
+    /** The folder of the output files. */
     QString outputFolder() const { return m_outputFolder; }
     /** The name of the PDF file in that folder. */
     QString outputFileName() const { return m_outputFileName; }
@@ -45,47 +45,44 @@ public:
     NupLayout nup() const { return m_nup; }
     /** Whether sizes are shown in millimetres instead of inches. */
     bool isMetric() const { return m_metric; }
-    /** The printer that was chosen last, in whichever panel. Not kept for the next start. */
+    /** The printer that was selected last in any panel. It is not stored. */
     QString printer() const { return m_printer; }
-    /** The document that was opened last; empty if none was. */
+    /** The document that was opened last; empty if there is none. */
     QString recentDocument() const { return m_recentDocument; }
 
-    /** Whether a text can be the name of a file, without a folder in it. */
+    /** Whether a text is a valid file name without a folder. */
     static bool isFileName(const QString& name);
 
-    /** Sets the folder; an empty one changes nothing. A relative one counts from the current
-     * folder. */
+    /** Sets the folder; an empty one is ignored. A relative path is resolved. */
     void setOutputFolder(const QString& folder);
-    /** Sets the file name; an empty one, or one with a folder in it, changes nothing. */
+    /** Sets the file name; an empty one, or one with a folder, is ignored. */
     void setOutputFileName(const QString& fileName);
-    /** Sets folder and file name from one path; an empty one changes nothing. */
+    /** Sets folder and file name from a path; an empty one is ignored. */
     void setOutputPath(const QString& path);
     void setPaper(Paper paper);
-    /** Sets the layout of sheets, brought into its bounds. */
+    /** Sets the layout of sheets, bounded. */
     void setNup(const NupLayout& nup);
     void setMetric(bool metric);
     void setPrinter(const QString& printer);
-    /** Keeps an opened document in mind; nobody is told. */
+    /** Sets the document that was opened last, without a signal. */
     void setRecentDocument(const QString& path);
 
-    /** Names the file of the records; empty for none. */
+    /** Sets the file of the records, which must not be overwritten; empty for none. */
     void setDataFile(const QString& path) { m_dataFile = path; }
-    /** Names the document that is open; empty for none. */
+    /** Sets the open document, which must not be overwritten; empty for none. */
     void setOpenDocument(const QString& path) { m_openDocument = path; }
-    /** Why nothing may be written in the place of a file, in words for the user: the host reads
-     * it. Empty for any other. */
-    QString whyNotReplace(const QString& path) const;
+    /** Why a file must not be overwritten, for the user; empty if it may. */
+    QString overwriteProblem(const QString& path) const;
 
-    /** Reads what save() wrote for this user; what was never saved stays. */
+    /** Loads what save() stored for this user. */
     void load();
-    /** Keeps the settings for the next start of the program. False, with those kept before as they
-     * were, if they cannot be written. */
+    /** Stores the settings. Returns false, without a change to the stored ones, if that fails. */
     bool save() const;
 
 Q_SIGNALS:
-    /** Any of the settings but the printer has a new value. */
+    /** A setting other than the printer changed. */
     void changed();
-    /** Another printer is the one chosen last. */
+    /** The printer that was selected last changed. */
     void printerChanged(const QString& printer);
 
 private:

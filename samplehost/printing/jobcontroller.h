@@ -39,10 +39,10 @@ Q_SIGNALS:
 protected:
     explicit JobController(QObject* parent);
 
-    /** Starts a job. Without one, tells why there is none. */
+    /** Takes ownership of a job and starts it. A null job has failed, with the given problem. */
     void startJob(std::unique_ptr<PrintJob> job, const QString& problem);
 
-    /** Called before jobStarted() and after a job, before jobEnded(): updates the panel. */
+    /** Updates the panel. Called before jobStarted(), and before jobEnded() of a started job. */
     virtual void showPrinting(bool printing) = 0;
 
 private:

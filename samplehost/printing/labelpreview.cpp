@@ -18,11 +18,11 @@ namespace SampleHost {
 
 namespace {
 
-// The values of the popup's orientation signal.
+// The value of the popup's orientation signal for portrait.
 constexpr int portraitOrientation = 1;
 
-// The popup's view is this large. It paints without smoothing: scaled down by an odd number it
-// shows the middle pixel of each block, and there is something left to see when the user zooms in.
+// The popup's view has this size. It scales without smoothing: scaled down by an odd factor, it
+// shows the middle pixel of each block. A larger image shows more details when the user zooms in.
 constexpr QSize viewPixels(832, 381);
 constexpr QSize picturePixels = viewPixels * 3;
 
@@ -48,13 +48,13 @@ void LabelPreview::dismiss()
 {
     if (m_popup != nullptr && m_popup->isVisible()) {
         m_popup->close();
-        giveFocusBack();
+        restoreFocus();
     }
 }
 
 void LabelPreview::open(const PrintRequest& request)
 {
-    m_asked = request;
+    m_requested = request;
     m_portrait = isPortrait(sheetOf(m_design, request).sheetSizeMm());
     m_shown = request;
     if (m_popup == nullptr) {
@@ -65,7 +65,7 @@ void LabelPreview::open(const PrintRequest& request)
     showReadiness();
     if (!m_popup->isVisible()) {
         m_focusBefore = QApplication::focusWidget();
-        placePopup();
+        centerPopup();
         m_popup->show();
     }
     m_popup->raise();
@@ -93,7 +93,7 @@ void LabelPreview::addShortcuts()
     new QShortcut(QKeySequence::ZoomOut, popup, popup, &Popup::zoomOut);
     new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_0), popup, popup, &Popup::zoomFit);
     m_printShortcut = new QShortcut(QKeySequence::Print, popup, popup, &Popup::print);
-    // Closing tells nobody unless one of the popup's own controls did it.
+    // The popup emits its signal only if one of its own controls closes it.
     new QShortcut(QKeySequence(Qt::Key_Escape), popup, this, &LabelPreview::dismiss);
 }
 
@@ -102,7 +102,7 @@ void LabelPreview::connectPopup()
     using Popup = PrintPreviewDialog;
     connect(m_popup, &Popup::previewPrintSignal, this, &LabelPreview::print);
     connect(m_popup, &Popup::orientationChangedSignal, this, &LabelPreview::turn);
-    connect(m_popup, &Popup::popupHideSignal, this, &LabelPreview::giveFocusBack);
+    connect(m_popup, &Popup::popupHideSignal, this, &LabelPreview::restoreFocus);
 }
 
 void LabelPreview::showRequest()
@@ -115,7 +115,7 @@ void LabelPreview::showRequest()
 
 void LabelPreview::showUnit()
 {
-    // The title alone: the user keeps the part of the label that is zoomed in on.
+    // Only the title, so that the view keeps its zoom and position.
     if (m_popup != nullptr) {
         m_popup->setUpTitleBar(designSize(), printedSize(), !m_design.hasDesignSize(),
                                m_settings.isMetric());
@@ -134,7 +134,7 @@ void LabelPreview::showReadiness()
 void LabelPreview::turn(int orientation)
 {
     m_portrait = orientation == portraitOrientation;
-    m_shown = oriented(m_design, m_asked, m_portrait);
+    m_shown = oriented(m_design, m_requested, m_portrait);
     showRequest();
 }
 
@@ -147,13 +147,13 @@ void LabelPreview::print(int sequenceStart, int sequenceEnd, const QString& cust
     m_controller.printAgain(request);
 }
 
-void LabelPreview::placePopup()
+void LabelPreview::centerPopup()
 {
     const QPoint corner = m_page.window()->geometry().center() - m_popup->rect().center();
     m_popup->mouseMoveSlot(corner.x(), corner.y());
 }
 
-void LabelPreview::giveFocusBack()
+void LabelPreview::restoreFocus()
 {
     m_page.window()->activateWindow();
     QWidget* widget = m_focusBefore != nullptr ? m_focusBefore.data() : &m_page;
@@ -162,7 +162,7 @@ void LabelPreview::giveFocusBack()
 
 QSizeF LabelPreview::designSize() const
 {
-    return LengthUnit::fromMm(m_design.labelSizeMm(m_asked), m_settings.isMetric());
+    return LengthUnit::fromMm(m_design.labelSizeMm(m_requested), m_settings.isMetric());
 }
 
 QSizeF LabelPreview::printedSize() const

@@ -20,28 +20,27 @@ class LabelDesign;
 class PrintController;
 
 /**
- * Shows the first sheet of what a page's panel is about to print in a popup, and prints from there
- * what was shown. Whatever the user changes in the panel meanwhile, but for the copies, counts from
- * the next preview on.
+ * Shows the first sheet of a request in a popup and prints the request from there. Except for the
+ * copies, changes in the panel take effect with the next preview.
  */
 class LabelPreview : public QObject
 {
     Q_OBJECT
 
 public:
-    /** Answers the previews that a controller is asked for. All of them must outlive this. */
+    /** Shows the previews that a controller requests. The arguments must outlive this. */
     LabelPreview(PrintController& controller, const LabelDesign& design,
                  const HostSettings& settings, QWidget& page);
     ~LabelPreview() override;
 
-    /** The popup, hidden or not; null before the first preview. The page's window owns it. */
+    /** The popup, which the page's window owns; null before the first preview. */
     PrintPreviewDialog* popup() const;
 
-    /** Closes the popup, because the design does not have any more what it shows. */
+    /** Closes the popup, because what it shows is no longer in the design. */
     void dismiss();
 
 Q_SIGNALS:
-    /** The popup was made, once for all previews of the page, and is about to be shown. */
+    /** The popup, which serves all previews of the page, was created. */
     void popupCreated(PrintPreviewDialog* popup);
 
 private:
@@ -54,8 +53,8 @@ private:
     void showReadiness();
     void turn(int orientation);
     void print(int sequenceStart, int sequenceEnd, const QString& customRecordsList);
-    void placePopup();
-    void giveFocusBack();
+    void centerPopup();
+    void restoreFocus();
     QSizeF designSize() const;
     QSizeF printedSize() const;
 
@@ -66,8 +65,8 @@ private:
     QPointer<PrintPreviewDialog> m_popup;
     QPointer<QShortcut> m_printShortcut;
     QPointer<QWidget> m_focusBefore;
-    // As the panel asked, and as it is shown in the chosen orientation.
-    PrintRequest m_asked;
+    // As the panel requested it, and in the orientation that is shown.
+    PrintRequest m_requested;
     PrintRequest m_shown;
     bool m_portrait = false;
 };

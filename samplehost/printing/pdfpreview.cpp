@@ -22,8 +22,7 @@ namespace SampleHost {
 namespace {
 
 constexpr bool fitAtStart = true;
-// Twice what the window shows: enough to zoom in, and small text survives being shown without
-// smoothing.
+// Twice the size of the view: enough to zoom in, and small text stays legible without smoothing.
 constexpr int imageSide = 920;
 
 } // namespace
@@ -47,11 +46,11 @@ void PdfPreview::connectPanel()
 {
     using Panel = MultiPagePrintWidget;
     connect(m_panel, &Panel::startPageChangedSignal, this, &PdfPreview::showPage);
-    connect(m_panel, &Panel::openPreferencesSignal, this, &PdfPreview::preferencesWanted);
+    connect(m_panel, &Panel::openPreferencesSignal, this, &PdfPreview::preferencesRequested);
     connect(m_panel, &Panel::currentPrinterSelectionChanged, this, &PdfPreview::choosePrinter);
     connect(&m_settings, &HostSettings::printerChanged, m_panel, &Panel::setSelectedPrinter);
-    connect(m_panel, &Panel::focusLost, this, &PdfPreview::tidyCopies);
-    // Printers come and go while the window is out of sight.
+    connect(m_panel, &Panel::focusLost, this, &PdfPreview::normalizeCopies);
+    // The available printers may have changed while the window was hidden.
     connect(m_panel, &Panel::printWidgetShowSignal, this, &PdfPreview::fillPrinters);
 }
 
@@ -97,7 +96,7 @@ void PdfPreview::setDocument(std::shared_ptr<const PdfDocument> document)
     if (any) {
         m_panel->enableAllButtons();
         m_panel->setPageInfo(1, m_document->pageCount(), true);
-        // The list may be usable again, which it was not without a document.
+        // Enables the list, which is disabled without a document.
         m_panel->recordsRadioChangedSlot();
     } else {
         m_panel->disableAllButtons();
@@ -135,7 +134,7 @@ void PdfPreview::show()
         const QPoint middle = host.center() - m_dialog->rect().center();
         m_dialog->mouseMoveSlot(qMax(0, middle.x()), qMax(0, middle.y()));
         m_dialog->show();
-        // The host may have moved on to another page meanwhile.
+        // The host may show another page by now.
         m_panel->checkRangeUpdate(true);
     }
     m_dialog->raise();
@@ -149,13 +148,13 @@ void PdfPreview::showPage(int page)
     updateTitle();
     updateButtons();
     if (m_document && page > 0) {
-        Q_EMIT pageWanted(page - 1);
+        Q_EMIT pageRequested(page - 1);
     }
 }
 
 void PdfPreview::updateImage()
 {
-    // While nobody sees it, turning the host's pages is not slowed down by it.
+    // Rendering while the window is hidden would only slow the host down.
     if (m_dialog->isVisible()) {
         const bool any = m_document && m_shownPage > 0;
         m_dialog->setPreviewImage(any ? previewPdfSheet(*m_document, request(), m_shownPage - 1,
@@ -214,7 +213,7 @@ void PdfPreview::fillPrinters()
     if (names.contains(m_settings.printer())) {
         m_panel->setSelectedPrinter(m_settings.printer());
     } else if (!m_settings.printer().isEmpty()) {
-        // The printer has gone, and with it the choice: everybody prints to the first one now.
+        // The selected printer is gone, so all pages use the first one.
         m_panel->currentPrinterSelectionChangedSlot(0);
     }
 }
@@ -228,9 +227,9 @@ void PdfPreview::choosePrinter(const QString& name)
     Q_EMIT statusChanged(state.unavailable ? tr("%1 (unavailable)").arg(place) : place);
 }
 
-void PdfPreview::tidyCopies()
+void PdfPreview::normalizeCopies()
 {
-    // What is no number counts as one copy; the user should see so.
+    // Shows the number that an invalid text stands for.
     m_panel->setNumberOfCopies(m_panel->getNumberOfCopies());
 }
 

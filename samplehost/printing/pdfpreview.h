@@ -21,48 +21,47 @@ class PdfDocument;
 class PrinterDirectory;
 
 /**
- * The window "Preview and Print" of a document: fills its panel, shows in it the page at which the
- * user's choice starts, as it will be printed, and answers all that the panel says, but for the
- * request to print.
+ * The window "Preview and Print" of a document: fills its panel, shows the first of the selected
+ * pages as it will be printed, and handles all signals of the panel but the request to print.
  */
 class PdfPreview : public QObject
 {
     Q_OBJECT
 
 public:
-    /** Makes the window, hidden, as a child of parent. What is referred to must outlive it. */
+    /** Creates the window, hidden, as a child of parent. The arguments must outlive it. */
     PdfPreview(HostSettings& settings, const PrinterDirectory& printers, QWidget* parent);
 
     MultiPagePrintWidget& panel() const { return *m_panel; }
     MultiPagePrintDialog& dialog() const { return *m_dialog; }
 
-    /** What the user chose for the sheets: their paper and look, and the copies, but no pages. */
+    /** The choices in the panel, but for the pages. */
     PdfPrintRequest request() const;
 
-    /** Why the document cannot be printed as things stand, for the user; empty when it can. */
+    /** Why the document cannot be printed now, for the user; empty if it can. */
     QString problem() const;
 
-    /** The page in the window, 1-based; -1 when the typed list names no page. */
+    /** The page that is shown, 1-based; -1 if the list names no page. */
     int shownPage() const { return m_shownPage; }
 
-    /** Turns to another document at its first page, all choices as at the start. */
+    /** Shows the first page of another document and resets all choices. */
     void setDocument(std::shared_ptr<const PdfDocument> document);
 
-    /** Tells that the host shows another page, 0-based. */
+    /** Sets the page that the host shows, 0-based. */
     void setPageIndex(int index);
 
-    /** Tells whether pages are being printed; nothing else can be printed meanwhile. */
+    /** Sets whether a job is running, which disables printing. */
     void setPrinting(bool printing);
 
-    /** Opens the window over its parent, or brings it to the front. Nothing without a document. */
+    /** Opens or raises the window. Does nothing without a document. */
     void show();
 
 Q_SIGNALS:
-    /** The window turned to another page, 0-based; the host should, too. */
-    void pageWanted(int index);
+    /** The window shows another page, 0-based, which the host should show, too. */
+    void pageRequested(int index);
     /** The user wants to change the printer's settings. */
-    void preferencesWanted();
-    /** Something to tell the user by the way. */
+    void preferencesRequested();
+    /** There is a text for the status bar. */
     void statusChanged(const QString& text);
 
 private:
@@ -75,7 +74,7 @@ private:
     void updateButtons();
     void fillPrinters();
     void choosePrinter(const QString& name);
-    void tidyCopies();
+    void normalizeCopies();
     bool canPrint() const;
 
     HostSettings& m_settings;

@@ -58,7 +58,7 @@ std::unique_ptr<PrintJob> PdfPrintController::makeJob(const PdfPrintRequest& req
                                  std::make_unique<PrinterTarget>(printer, m_document->title()));
     }
     const QString path = m_settings.outputPath();
-    problem = m_settings.whyNotReplace(path);
+    problem = m_settings.overwriteProblem(path);
     if (!problem.isEmpty()) {
         return nullptr;
     }

@@ -19,12 +19,12 @@ class PdfPrintController : public JobController
     Q_OBJECT
 
 public:
-    /** Answers the window's panel. Both must outlive the controller. */
+    /** Handles the requests of the window's panel. The arguments must outlive the controller. */
     PdfPrintController(PdfPreview& preview, const HostSettings& settings,
                        QObject* parent = nullptr);
     ~PdfPrintController() override;
 
-    /** Turns to another document. A job that is running goes on with the one it began with. */
+    /** Sets the document. A running job continues with its own. */
     void setDocument(std::shared_ptr<const PdfDocument> document);
 
 protected:

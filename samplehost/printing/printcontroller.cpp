@@ -17,7 +17,7 @@ namespace SampleHost {
 
 namespace {
 
-// What a panel shows in place of printers when it has none.
+// What a panel shows if it has no printers.
 const QString noPrinter = QStringLiteral("No printer");
 
 } // namespace
@@ -55,7 +55,7 @@ PrintRequest PrintController::request(int sequenceStart, int sequenceEnd,
 
 QString PrintController::selectedPrinter() const
 {
-    // A panel without a list of printers prints to the one that the host uses.
+    // A panel without a list of printers uses the printer in the settings.
     const QString printer = m_panel.getSelectedPrinter();
     return printer.isEmpty() ? m_settings.printer() : printer;
 }
@@ -94,7 +94,7 @@ void PrintController::preview(int sequenceStart, int sequenceEnd, const QString&
     if (!makePlan(wanted, plan)) {
         return;
     }
-    // A picture that only says what is wrong is no preview.
+    // A preview that shows only an error message is of no use.
     QString problem;
     renderFirstSheet(m_design, wanted, QSize(100, 100), &problem);
     if (problem.isEmpty()) {
@@ -141,7 +141,7 @@ std::unique_ptr<PrintTarget> PrintController::makeTarget(QString& problem) const
     const QString printer = selectedPrinter();
     if (printer == PrinterDirectory::pdfFileName()) {
         const QString path = m_settings.outputPath();
-        problem = m_settings.whyNotReplace(path);
+        problem = m_settings.overwriteProblem(path);
         return problem.isEmpty() ? std::make_unique<PdfTarget>(path, title) : nullptr;
     }
     return std::make_unique<PrinterTarget>(printer, title);

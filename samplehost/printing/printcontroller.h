@@ -14,32 +14,33 @@ namespace SampleHost {
 class HostSettings;
 class LabelDesign;
 
-/** Carries out what the user asks for in one panel, one job at a time. */
+/** Prints what the user requests in a panel, one job at a time. */
 class PrintController : public JobController
 {
     Q_OBJECT
 
 public:
-    /** Answers a panel's requests with a design's labels. All three must outlive the controller. */
+    /** Prints a panel's requests with a design's labels. The arguments must outlive the controller.
+     */
     PrintController(PrintWidgetInterface& panel, const LabelDesign& design,
                     const HostSettings& settings, QObject* parent = nullptr);
     ~PrintController() override;
 
-    /** Whether a request would be taken: there is a printer, and no job is running. */
+    /** Whether a request would be accepted: there is a printer, and no job is running. */
     bool isReady() const;
 
     /**
-     * Completes what a panel asks for (1-based numbers, as its signals carry them) with its other
-     * choices: copies, N-up, background, and with the paper of the settings.
+     * Completes the arguments of a panel's signal with the other choices in the panel and with the
+     * settings.
      */
     PrintRequest request(int sequenceStart, int sequenceEnd,
                          const QString& customRecordsList) const;
 
-    /** Prints a request as it is, but with the copies that the panel shows now. */
+    /** Prints a request with the copies that the panel shows now. */
     void printAgain(const PrintRequest& request);
 
 Q_SIGNALS:
-    /** The user wants to see a request that has at least one page. */
+    /** The user wants a preview of a request, which has at least one page. */
     void previewRequested(const SampleHost::PrintRequest& request);
     /** isReady() may have changed. */
     void readinessChanged();

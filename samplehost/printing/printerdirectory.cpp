@@ -26,7 +26,7 @@ QString PrinterDirectory::pdfFileName()
 QStringList PrinterDirectory::names() const
 {
     QStringList all = QStringList{pdfFileName()} + QPrinterInfo::availablePrinterNames() + m_added;
-    // The system may have come to know one by itself.
+    // The system may list an added printer by now.
     all.removeDuplicates();
     return all;
 }
@@ -54,7 +54,8 @@ PrinterState PrinterDirectory::state(const QString& name) const
     }
     state.location = info.location();
     state.remote = info.isRemote();
-    // A stopped printer keeps its jobs. Said twice, since "Remote" takes the place of "Offline".
+    // A stopped printer only queues jobs. The panel shows "Remote" instead of "Offline", hence
+    // both.
     state.offline = info.state() == QPrinter::Error || info.state() == QPrinter::Aborted;
     state.unavailable =
         state.offline || (PrintQueue::isSupported() && PrintQueue(name).refusesJobs());

@@ -35,26 +35,26 @@ public:
     /** The name of the entry that prints to a PDF file. */
     static QString pdfFileName();
 
-    /** The names, as they are now. */
+    /** The current names. */
     QStringList names() const;
 
     /**
-     * Adds a printer that the system does not list, as one in another network. An empty name, or
-     * one that is there already, is not added and answers false.
+     * Adds a printer that the system does not list, such as one in another network. Returns false
+     * for an empty name and for one that exists.
      */
     bool add(const QString& name);
 
     /**
-     * The state of an entry, asked anew each time. A system printer that has gone is offline and
-     * unavailable; so is a stopped one, and the PDF file while its folder cannot be written to. A
-     * printer that refuses jobs is unavailable.
+     * The current state of an entry. A printer that no longer exists or is stopped is offline and
+     * unavailable, and so is the PDF file if its folder is not writable. A printer that rejects
+     * jobs is unavailable.
      */
     PrinterState state(const QString& name) const;
 
-    /** Fills a panel with all printers; the one it had stays selected, else the PDF file is. */
+    /** Fills a panel with all printers. Its selection is kept, or becomes the PDF file. */
     void fill(PrintWidgetInterface& panel) const;
 
-    /** Shows location and status of the panel's selected printer in the panel. */
+    /** Shows location and status of the selected printer in a panel. */
     void showState(PrintWidgetInterface& panel) const;
 
 private:

@@ -15,7 +15,7 @@ namespace SampleHost {
 
 namespace {
 
-constexpr int wholeBar = 1000;
+constexpr int maximum = 1000;
 
 } // namespace
 
@@ -29,7 +29,7 @@ PrintProgressDialog::PrintProgressDialog(PrintJob& job, QWidget* parent) : QDial
     connect(m_cancelButton, &QPushButton::clicked, this, &PrintProgressDialog::reject);
     connect(this, &PrintProgressDialog::cancelled, &job, &PrintJob::cancel);
     connect(&job, &PrintJob::progressChanged, this, &PrintProgressDialog::showProgress);
-    // Whatever way a job ends, also with its owner, its dialog has nothing to show any more.
+    // A job may also be destroyed with its owner, without having finished.
     connect(&job, &PrintJob::finished, this, &QObject::deleteLater);
     connect(&job, &QObject::destroyed, this, &QObject::deleteLater);
     QTimer::singleShot(showAfter, this, &QWidget::show);
@@ -41,7 +41,7 @@ void PrintProgressDialog::createWidgets()
     m_label->setObjectName(QStringLiteral("progressLabel"));
     m_bar = new QProgressBar;
     m_bar->setObjectName(QStringLiteral("progressBar"));
-    m_bar->setRange(0, wholeBar);
+    m_bar->setRange(0, maximum);
     m_bar->setTextVisible(false);
     m_cancelButton = new QPushButton(tr("Cancel"));
     m_cancelButton->setObjectName(QStringLiteral("cancelPrintButton"));
@@ -55,7 +55,7 @@ void PrintProgressDialog::createWidgets()
 void PrintProgressDialog::showProgress(qint64 pagesDone, qint64 pageCount)
 {
     m_label->setText(tr("%1 of %2 pages printed").arg(pagesDone).arg(pageCount));
-    m_bar->setValue(pageCount > 0 ? int(pagesDone * wholeBar / pageCount) : 0);
+    m_bar->setValue(pageCount > 0 ? int(pagesDone * maximum / pageCount) : 0);
 }
 
 void PrintProgressDialog::reject()

@@ -15,18 +15,18 @@ namespace SampleHost {
 class PrintJob;
 
 /**
- * Shows how far a job is and lets the user cancel it. It appears only when a job takes a moment,
- * and deletes itself when the job ends. It does not block the window behind it.
+ * Shows the progress of a job and lets the user cancel it. It is not modal, appears only for jobs
+ * that take a moment, and deletes itself when the job ends.
  */
 class PrintProgressDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    /** A job shorter than this many milliseconds ends before its dialog is seen. */
+    /** The delay in milliseconds after which the dialog appears. */
     static constexpr int showAfter = 400;
 
-    /** Follows a job that has not ended. */
+    /** Shows the progress of a job that has not ended. */
     explicit PrintProgressDialog(PrintJob& job, QWidget* parent = nullptr);
 
 public Q_SLOTS:

@@ -9,9 +9,8 @@
 namespace SampleHost {
 
 /**
- * The next free file that a test print goes to instead of a printer: guest/logs/printTest_001.prn
- * under outputFolder, then 002 and so on. Folders are made as needed. Empty, with the reason in
- * problem, when there is no such file to be had.
+ * The next unused file for a test print: guest/logs/printTest_001.prn below outputFolder, then 002
+ * and so on. Creates the folders. If there is no such file, returns an empty path and sets problem.
  */
 QString nextPrintTestFile(const QString& outputFolder, QString& problem);
 

@@ -3,7 +3,7 @@
 
 #include "samplehost/simulator/supplysimulator.h"
 
-#include "samplehost/simulator/laminator.h"
+#include "samplehost/simulator/laminatorsimulator.h"
 #include "samplehost/simulator/supplypalettes.h"
 
 #include <printpanels/printwidget.h>
@@ -43,7 +43,7 @@ SupplySimulator::SupplySimulator(QWidget* parent) : QWidget(parent)
     connect(m_widthBox, &QDoubleSpinBox::valueChanged, this, [this] { reportToAll(); });
     connect(m_ladderCheck, &QCheckBox::toggled, this, [this] { reportToAll(); });
     connect(m_unitCombo, &QComboBox::currentIndexChanged, this, &SupplySimulator::changeUnit);
-    connect(m_paletteCheck, &QCheckBox::toggled, this, &SupplySimulator::offerPalettes);
+    connect(m_paletteCheck, &QCheckBox::toggled, this, &SupplySimulator::updatePalettes);
 }
 
 void SupplySimulator::createWidgets()
@@ -109,25 +109,25 @@ void SupplySimulator::addWidthRow(QFormLayout* form)
 
 void SupplySimulator::addLaminatorRow(QFormLayout* form)
 {
-    m_laminator = new Laminator(this);
+    m_laminator = new LaminatorSimulator(this);
     m_laminatorButton = new QPushButton(tr("Fit Laminator"));
     m_laminatorButton->setObjectName(QStringLiteral("laminatorButton"));
     m_laminatorButton->setToolTip(tr("Adds the colour of the film to the panels"));
     form->addRow(m_laminatorButton);
-    connect(m_laminatorButton, &QPushButton::clicked, this, &SupplySimulator::fitLaminator);
+    connect(m_laminatorButton, &QPushButton::clicked, this, &SupplySimulator::connectLaminator);
 }
 
-void SupplySimulator::fitLaminator()
+void SupplySimulator::connectLaminator()
 {
     m_laminatorButton->setEnabled(false);
     for (const QPointer<PrintWidget>& panel : std::as_const(m_panels)) {
         if (panel) {
-            m_laminator->fit(*panel);
+            m_laminator->connectPanel(*panel);
         }
     }
 }
 
-void SupplySimulator::showUse(const PrintWidget& panel)
+void SupplySimulator::showSupplyType(const PrintWidget& panel)
 {
     m_useLabel->setText(panel.isTinySupply() ? tr("Ladder shrink tube") : tr("Tape"));
 }
@@ -135,17 +135,17 @@ void SupplySimulator::showUse(const PrintWidget& panel)
 void SupplySimulator::connectPanel(PrintWidget& panel)
 {
     m_panels.append(&panel);
-    // Built at the start, so that the first report of the printer is shown without a delay.
+    // Created up front, so that the first report is shown without a delay.
     panel.createSupplyInfoLayout();
     connect(&panel, &PrintWidget::tinyLadderSupplyChangedSignal, this,
-            [this, &panel] { showUse(panel); });
+            [this, &panel] { showSupplyType(panel); });
     connect(&panel, &PrintWidget::supplyColorsChangedSignal, this,
-            [this, &panel](const QStringList& reported) { takeColors(reported, &panel); });
+            [this, &panel](const QStringList& reported) { applyColors(reported, &panel); });
     connect(&panel, &PrintWidget::supplyWidthChangedSignal, this,
-            [this, &panel](double newWidth) { takeWidth(newWidth, &panel); });
+            [this, &panel](double newWidth) { applyWidth(newWidth, &panel); });
     reportTo(panel);
     if (m_paletteCheck->isChecked()) {
-        offerPalettesTo(panel);
+        setPalettes(panel);
     }
 }
 
@@ -200,16 +200,16 @@ void SupplySimulator::reportTo(PrintWidget& panel) const
                          m_ladderCheck->isChecked());
 }
 
-void SupplySimulator::offerPalettes()
+void SupplySimulator::updatePalettes()
 {
     for (const QPointer<PrintWidget>& panel : std::as_const(m_panels)) {
         if (panel) {
-            offerPalettesTo(*panel);
+            setPalettes(*panel);
         }
     }
 }
 
-void SupplySimulator::offerPalettesTo(PrintWidget& panel) const
+void SupplySimulator::setPalettes(PrintWidget& panel) const
 {
     const SupplyPalettes palettes =
         m_paletteCheck->isChecked() ? safetyPalettes() : standardPalettes();
@@ -219,7 +219,7 @@ void SupplySimulator::offerPalettesTo(PrintWidget& panel) const
 void SupplySimulator::changeUnit()
 {
     {
-        // The tape stays the same; only the number for its width changes.
+        // The supply stays the same; only its width is expressed in another unit.
         const QSignalBlocker blocker(m_widthBox);
         const double factor = isMetric() ? millimetersPerInch : 1.0 / millimetersPerInch;
         m_widthBox->setValue(m_widthBox->value() * factor);
@@ -227,7 +227,7 @@ void SupplySimulator::changeUnit()
     reportToAll();
 }
 
-void SupplySimulator::takeColors(const QStringList& reported, const PrintWidget* from)
+void SupplySimulator::applyColors(const QStringList& reported, const PrintWidget* from)
 {
     if (reported.size() != 3) {
         return;
@@ -240,7 +240,7 @@ void SupplySimulator::takeColors(const QStringList& reported, const PrintWidget*
     reportToAll(from);
 }
 
-void SupplySimulator::takeWidth(double newWidth, const PrintWidget* from)
+void SupplySimulator::applyWidth(double newWidth, const PrintWidget* from)
 {
     {
         const QSignalBlocker blocker(m_widthBox);

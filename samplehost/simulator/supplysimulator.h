@@ -20,11 +20,11 @@ class PrintWidget;
 
 namespace SampleHost {
 
-class Laminator;
+class LaminatorSimulator;
 
 /**
- * Plays a label printer that reports what is loaded in it. Every change is reported to all
- * connected panels; what a user corrects in one panel shows here and in the other panels.
+ * Simulates a label printer that reports the loaded supply. Every change is reported to all
+ * connected panels; what the user changes in one panel is shown here and in the others.
  */
 class SupplySimulator : public QWidget
 {
@@ -33,7 +33,7 @@ class SupplySimulator : public QWidget
 public:
     /** What the printer reports. */
     enum class Report {
-        Nothing, ///< The printer tells nothing of its supply.
+        Nothing, ///< The printer does not report its supply.
         OneRibbon,
         TwoRibbons
     };
@@ -41,7 +41,7 @@ public:
     /** A printer that reports nothing. */
     explicit SupplySimulator(QWidget* parent = nullptr);
 
-    /** Reports to a panel from now on. A panel may go before the simulator does. */
+    /** Reports to a panel from now on. The panel may be destroyed before the simulator. */
     void connectPanel(PrintWidget& panel);
 
     /** What is reported now. */
@@ -63,15 +63,15 @@ private:
     QCheckBox* addCheck(QFormLayout* form, const QString& name, const QString& text);
     void addWidthRow(QFormLayout* form);
     void addLaminatorRow(QFormLayout* form);
-    void fitLaminator();
-    void showUse(const PrintWidget& panel);
+    void connectLaminator();
+    void showSupplyType(const PrintWidget& panel);
     void reportToAll(const PrintWidget* except = nullptr);
     void reportTo(PrintWidget& panel) const;
-    void offerPalettes();
-    void offerPalettesTo(PrintWidget& panel) const;
+    void updatePalettes();
+    void setPalettes(PrintWidget& panel) const;
     void changeUnit();
-    void takeColors(const QStringList& reported, const PrintWidget* from);
-    void takeWidth(double width, const PrintWidget* from);
+    void applyColors(const QStringList& reported, const PrintWidget* from);
+    void applyWidth(double width, const PrintWidget* from);
 
     QList<QPointer<PrintWidget>> m_panels;
     QComboBox* m_reportCombo = nullptr;
@@ -84,7 +84,7 @@ private:
     QCheckBox* m_paletteCheck = nullptr;
     QLabel* m_useLabel = nullptr;
     QPushButton* m_laminatorButton = nullptr;
-    Laminator* m_laminator = nullptr;
+    LaminatorSimulator* m_laminator = nullptr;
 };
 
 } // namespace SampleHost

@@ -17,46 +17,46 @@ namespace SampleHost {
 
 namespace {
 
-QString written(int value)
+QString toText(int value)
 {
     return QString::number(value);
 }
 
-QString written(double value)
+QString toText(double value)
 {
     return QString::number(value, 'g', 12);
 }
 
-QString written(bool value)
+QString toText(bool value)
 {
     return value ? QStringLiteral("true") : QStringLiteral("false");
 }
 
-QString written(const QString& text)
+QString toText(const QString& text)
 {
     return QLatin1Char('"') + text + QLatin1Char('"');
 }
 
-QString written(const QSizeF& size)
+QString toText(const QSizeF& size)
 {
-    return written(size.width()) + QStringLiteral(" x ") + written(size.height());
+    return toText(size.width()) + QStringLiteral(" x ") + toText(size.height());
 }
 
-QString written(const QStringList& texts)
+QString toText(const QStringList& texts)
 {
     QStringList parts;
     for (const QString& text : texts) {
-        parts.append(written(text));
+        parts.append(toText(text));
     }
     return QLatin1Char('[') + parts.join(QStringLiteral(", ")) + QLatin1Char(']');
 }
 
-/** A slot that adds "panel: signal(arguments)" to the log, whatever the arguments are. */
+/** A slot for any arguments that adds "panel: signal(arguments)" to the log. */
 auto logger(EventLog* log, const QString& panel, const char* signal)
 {
     const QString head = panel + QStringLiteral(": ") + QLatin1String(signal);
     return [log, head](const auto&... arguments) {
-        const QStringList parts{written(arguments)...};
+        const QStringList parts{toText(arguments)...};
         log->add(head + QLatin1Char('(') + parts.join(QStringLiteral(", ")) + QLatin1Char(')'));
     };
 }

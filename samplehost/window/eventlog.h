@@ -17,31 +17,31 @@ class QuickPrintWidget;
 
 namespace SampleHost {
 
-/** A list of what the panels told the host, newest last. */
+/** A list of the signals that the panels emitted, newest last. */
 class EventLog : public QWidget
 {
     Q_OBJECT
 
 public:
-    /** How many lines are kept; older ones go. */
+    /** The maximum number of lines; the oldest are removed. */
     static constexpr int capacity = 500;
 
     /** An empty log. */
     explicit EventLog(QWidget* parent = nullptr);
 
     /**
-     * Lists every signal of a panel with its arguments from now on, under the given name of the
+     * Logs every signal of a panel with its arguments from now on, after the given name of the
      * panel, for example: Labels: widgetPrintSignal(0, 0, "1,4-5").
      */
     void watch(PrintWidget& panel, const QString& name);
-    /** Likewise for a panel of documents. */
+    /** Logs the signals of a multi-page panel. */
     void watch(MultiPagePrintWidget& panel, const QString& name);
-    /** Likewise for a panel that prints one label. */
+    /** Logs the signals of a quick print panel. */
     void watch(QuickPrintWidget& panel, const QString& name);
-    /** Likewise for a preview. */
+    /** Logs the signals of a preview. */
     void watch(PrintPreviewDialog& preview, const QString& name);
 
-    /** The lines, oldest first, without the time that is shown before each. */
+    /** The lines without their times, oldest first. */
     QStringList lines() const;
 
 public Q_SLOTS:

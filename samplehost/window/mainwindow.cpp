@@ -113,7 +113,7 @@ void MainWindow::setCurrentPage(QWidget& page)
 void MainWindow::growToPanel()
 {
     const HostPage& page = currentPage();
-    // A page without a panel gets the height of the labels', to which the user may turn next.
+    // A page without a panel of its own gets the height that the page of labels needs.
     const int panelHeight = page.fullHeight() > 0 ? page.fullHeight() : m_labelPage->fullHeight();
     resize(width(), height() + std::max(0, panelHeight - page.height()));
 }
@@ -139,7 +139,7 @@ void MainWindow::reloadData()
     statusBar()->showMessage(m_labelPage->design().sourceDescription());
 }
 
-void MainWindow::keepSettings()
+void MainWindow::persistSettings()
 {
     m_settings.load();
     connect(&m_settings, &HostSettings::changed, this, &MainWindow::saveSettings);
@@ -156,7 +156,7 @@ bool MainWindow::saveSettings()
 
 void MainWindow::openPreferences()
 {
-    auto* dialog = new PreferencesDialog(m_settings, front());
+    auto* dialog = new PreferencesDialog(m_settings, frontWindow());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
 }
@@ -164,15 +164,15 @@ void MainWindow::openPreferences()
 void MainWindow::showJob(PrintJob* job)
 {
     statusBar()->showMessage(tr("Printing to %1").arg(job->targetDescription()));
-    new PrintProgressDialog(*job, front());
+    new PrintProgressDialog(*job, frontWindow());
 }
 
 void MainWindow::showOutcome(PrintJob::Outcome outcome, const QString& message)
 {
-    // What ended a job may be seen at its printer, too.
+    // The state of the printer may have changed with the job.
     refreshPrinterStates();
     if (outcome == PrintJob::Outcome::Failed) {
-        // The message goes when it is read, the log stays.
+        // The log keeps the message when the message box is closed.
         m_log->add(tr("Host: %1").arg(message));
         showError(message);
     } else {
@@ -183,7 +183,7 @@ void MainWindow::showOutcome(PrintJob::Outcome outcome, const QString& message)
 void MainWindow::showError(const QString& message)
 {
     statusBar()->showMessage(message);
-    showMessage(front(), tr("Printing"), message);
+    showMessage(frontWindow(), tr("Printing"), message);
 }
 
 void MainWindow::showPrintError(int number)

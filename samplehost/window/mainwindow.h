@@ -31,18 +31,17 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    /** Opens the data source and builds everything. Without a data source the window works, empty.
-     */
+    /** Opens the data source. If that fails, the window has no records but works. */
     explicit MainWindow(const HostOptions& options = HostOptions(), QWidget* parent = nullptr);
     ~MainWindow() override;
 
-    /** Why the data source could not be opened; empty when it could. */
+    /** Why the data source could not be opened; empty if it is open. */
     QString dataSourceProblem() const { return m_dataSourceProblem; }
 
-    /** Reads the stored settings, and stores them whenever one changes. */
-    void keepSettings();
+    /** Loads the stored settings and stores them whenever one changes. */
+    void persistSettings();
 
-    /** Stores the settings; tells the user and returns false if that fails. */
+    /** Stores the settings. If that fails, shows a message and returns false. */
     bool saveSettings();
 
     HostSettings& settings() { return m_settings; }
@@ -53,10 +52,10 @@ public:
     SupplySimulator& supply() const { return *m_supply; }
     EventLog& eventLog() const { return *m_log; }
 
-    /** The page in front. */
+    /** The current page. */
     HostPage& currentPage() const;
 
-    /** Brings a page of this window to the front. */
+    /** Makes a page of this window the current one. */
     void setCurrentPage(QWidget& page);
 
     /** Makes the window high enough for the whole panel of the current page. */
@@ -81,7 +80,7 @@ private:
     void showJob(PrintJob* job);
     void showOutcome(PrintJob::Outcome outcome, const QString& message);
     void showError(const QString& message);
-    QWidget* front();
+    QWidget* frontWindow();
     void showPrintError(int number);
     void showAbout();
 

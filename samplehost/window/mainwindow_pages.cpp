@@ -66,10 +66,10 @@ void MainWindow::addCatalogPage()
 {
     m_catalogPage = new CatalogPage(m_settings);
     m_log->watch(m_catalogPage->panel(), tr("Catalogue"));
-    // The page itself shows the problem; a message box on top of it would only be in the way.
+    // The page shows the problem itself, so no message box is needed.
     connect(m_catalogPage, &CatalogPage::sizeRefused, this,
             [this](const QString& problem) { statusBar()->showMessage(problem); });
-    connect(m_catalogPage, &CatalogPage::editorWanted, this,
+    connect(m_catalogPage, &CatalogPage::editorRequested, this,
             [this](const CatalogItem& item, const QSizeF& sizeMm) {
                 m_labelPage->openItem(item, sizeMm);
                 setCurrentPage(*m_labelPage);
@@ -89,15 +89,15 @@ void MainWindow::addDocumentPage(const QString& document)
     });
     connect(&m_pdfPage->preview(), &PdfPreview::statusChanged, this, showStatus);
     connect(m_pdfPage, &PdfPage::openFailed, this, &MainWindow::showError);
-    connect(&m_pdfPage->preview(), &PdfPreview::preferencesWanted, this,
+    connect(&m_pdfPage->preview(), &PdfPreview::preferencesRequested, this,
             &MainWindow::openPreferences);
     if (!document.isEmpty()) {
         m_pdfPage->open(document);
     }
 }
 
-// A window over this one would cover what belongs to this one.
-QWidget* MainWindow::front()
+// Message boxes of this window would be covered by a dialog in front of it.
+QWidget* MainWindow::frontWindow()
 {
     MultiPagePrintDialog& dialog = m_pdfPage->preview().dialog();
     return dialog.isVisible() ? static_cast<QWidget*>(&dialog) : this;

@@ -27,7 +27,7 @@ void MainWindow::connectPanel(PrintPage& page)
                 panel->setSelectedPrinter(printer);
                 m_printers.showState(*panel);
             });
-    // Printers come and go while the panel is out of sight.
+    // The available printers may have changed while the panel was hidden.
     connect(panel, &PrintWidget::printWidgetShowSignal, this,
             [this, panel] { m_printers.fill(*panel); });
 }

@@ -10,7 +10,7 @@ class QWidget;
 
 namespace SampleHost {
 
-/** Shows a text, letter for letter, in a window that deletes itself; does not wait for the user. */
+/** Shows plain text in a message box that deletes itself, without waiting for the user. */
 void showMessage(QWidget* parent, const QString& title, const QString& text);
 
 } // namespace SampleHost

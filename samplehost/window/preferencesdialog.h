@@ -18,18 +18,18 @@ class HostSettings;
 class NupCombo;
 
 /**
- * Lets the user change the settings: where files go, on what paper, how many labels on a sheet, in
- * which unit sizes are shown.
+ * Lets the user change the settings: the output file, the paper, the number of labels on a sheet
+ * and the unit of sizes.
  */
 class PreferencesDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    /** Shows the settings as they are; they change only when the user accepts. */
+    /** Shows the settings; they change only when the user accepts. */
     explicit PreferencesDialog(HostSettings& settings, QWidget* parent = nullptr);
 
-    /** Takes over what was entered, unless the folder does not exist, and closes. */
+    /** Applies the entries and closes, unless one is invalid. */
     void accept() override;
 
 private:

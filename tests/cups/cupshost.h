@@ -23,7 +23,7 @@ public:
     /** Picks a printer in the panel's list; false when it is not there. */
     bool choosePrinter(const QString& name) const
     {
-        return SampleHost::UserHands::pick(find<QComboBox>("PrinterListCombo"), name);
+        return SampleHost::InputSimulation::select(find<QComboBox>("PrinterListCombo"), name);
     }
 
     bool choosePdfFile() const

@@ -59,7 +59,7 @@ void TestCupsDocuments::cleanup()
 
 bool TestCupsDocuments::choosePrinter(const QString& name) const
 {
-    return UserHands::pick(m_host->widget<QComboBox>("PrinterListCombo"), name);
+    return InputSimulation::select(m_host->widget<QComboBox>("PrinterListCombo"), name);
 }
 
 bool TestCupsDocuments::prints(const QString& printer)

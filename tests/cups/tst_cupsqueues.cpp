@@ -81,9 +81,9 @@ void TestCupsQueues::cause(Trouble trouble)
 void TestCupsQueues::comeBack()
 {
     m_host->window->setCurrentPage(m_host->pipes());
-    UserHands::wait();
+    InputSimulation::processEvents();
     m_host->window->setCurrentPage(m_host->labels());
-    UserHands::wait();
+    InputSimulation::processEvents();
 }
 
 void TestCupsQueues::makeChoice()

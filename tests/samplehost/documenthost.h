@@ -67,7 +67,7 @@ public:
     /** Clicks a widget of the page or of its window, where a radio button listens too. */
     void press(const char* name) const
     {
-        SampleHost::UserHands::wait();
+        SampleHost::InputSimulation::processEvents();
         QWidget* target = widget(name);
         QTest::mouseClick(target, Qt::LeftButton, Qt::NoModifier,
                           QPoint(qMin(10, target->width() / 2), target->height() / 2));

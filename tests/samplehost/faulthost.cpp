@@ -39,7 +39,7 @@ bool FaultHost::choose(Printout printout)
     case Printout::Item:
         window->setCurrentPage(window->catalogPage());
         window->catalogPage().setCurrentItem(1);
-        return UserHands::type(
+        return InputSimulation::type(
             panelOf(printout).findChild<QWidget*>(QStringLiteral("copiesSpinBox")),
             QStringLiteral("3"));
     case Printout::Document:
@@ -67,7 +67,7 @@ template <typename Controller>
 std::optional<Outcome> FaultHost::follow(Controller& controller, QWidget* button)
 {
     QSignalSpy ended(&controller, &Controller::jobEnded);
-    UserHands::wait();
+    InputSimulation::processEvents();
     QTest::mouseClick(button, Qt::LeftButton);
     if (ended.isEmpty() && (!controller.isPrinting() || !ended.wait(60000))) {
         return std::nullopt;

@@ -4,7 +4,7 @@
 #ifndef TESTS_SAMPLEHOST_HOSTFIXTURE_H
 #define TESTS_SAMPLEHOST_HOSTFIXTURE_H
 
-#include "samplehost/automation/userhands.h"
+#include "samplehost/automation/inputsimulation.h"
 #include "samplehost/pages/labelpage.h"
 #include "samplehost/pages/pipepage.h"
 #include "samplehost/printing/printcontroller.h"
@@ -52,7 +52,7 @@ public:
     void click(const char* name) const
     {
         // A section that has just appeared is laid out first.
-        SampleHost::UserHands::wait();
+        SampleHost::InputSimulation::processEvents();
         auto* widget = find<QWidget>(name);
         QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier,
                           QPoint(qMin(10, widget->width() / 2), widget->height() / 2));

@@ -87,7 +87,7 @@ void TestCatalogPage::cleanup()
 
 void TestCatalogPage::press(const char* name) const
 {
-    UserHands::wait();
+    InputSimulation::processEvents();
     auto* widget = find<QWidget>(name);
     QVERIFY2(widget != nullptr && widget->isVisible() && widget->isEnabled(), name);
     QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier,
@@ -352,7 +352,7 @@ void TestCatalogPage::openInEditorShowsTheItem()
     QCOMPARE(&m_host->window->currentPage(), &m_host->labels());
     QVERIFY(m_host->labels().design().hasItem());
     QVERIFY(!m_host->find<QCheckBox>("boundCheck")->isChecked());
-    UserHands::wait();
+    InputSimulation::processEvents();
     // The paper has the proportions of the item.
     const QRectF paper = view->paperRect();
     QVERIFY(qAbs(paper.height() / paper.width() - 3.0) < 0.01);

@@ -338,7 +338,7 @@ void TestHostFaultsDatabase::reloadWhilePrinting()
 void TestHostFaultsDatabase::viewKeepsTheReason()
 {
     FaultHost host;
-    UserHands::wait();
+    InputSimulation::processEvents();
     auto* view = host.find<LabelView>("labelView");
     QVERIFY(QFile::rename(host.path("chemicals.db"), host.path("aside.db")));
     host.labels().navigator().setCurrentIndex(3);

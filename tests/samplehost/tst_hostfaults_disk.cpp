@@ -115,7 +115,7 @@ void TestHostFaultsDisk::settings()
     QCoreApplication::setApplicationName(QString::fromLatin1(QTest::currentDataTag()).remove(u' '));
     QSettings::setDefaultFormat(QSettings::IniFormat);
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, disk.path("settings"));
-    host.window->keepSettings();
+    host.window->persistSettings();
     HostSettings& settings = host.window->settings();
     settings.setNup(NupLayout{1, 2});
     const QString file = QSettings().fileName();

@@ -3,7 +3,7 @@
 
 #include "hostfixture.h"
 #include "samplehost/pages/catalogpage.h"
-#include "samplehost/simulator/laminator.h"
+#include "samplehost/simulator/laminatorsimulator.h"
 #include "samplehost/simulator/supplysimulator.h"
 #include "samplehost/window/eventlog.h"
 #include "support/stricttest.h"
@@ -178,11 +178,11 @@ void TestHostTools::filmIsTheSameInAllPanels()
     supply.setReport(SupplySimulator::Report::TwoRibbons);
     QTest::mouseClick(supply.findChild<QPushButton*>(QStringLiteral("laminatorButton")),
                       Qt::LeftButton);
-    auto* laminator = supply.findChild<Laminator*>();
-    QSignalSpy changed(laminator, &Laminator::filmChanged);
+    auto* laminator = supply.findChild<LaminatorSimulator*>();
+    QSignalSpy changed(laminator, &LaminatorSimulator::filmChanged);
     QCOMPARE(laminator->film(), QStringLiteral("transparent"));
     m_host->window->setCurrentPage(m_host->pipes());
-    UserHands::wait();
+    InputSimulation::processEvents();
     const auto tabPicture = [this](int index) {
         QTabBar* bar = tabs(m_host->pipes());
         return bar->grab(bar->tabRect(index)).toImage();

@@ -89,7 +89,7 @@ QString TestLabelPreview::titleOf(const PrintPreviewDialog* dialog)
 
 void TestLabelPreview::press(const QWidget* parent, const char* name)
 {
-    UserHands::wait();
+    InputSimulation::processEvents();
     auto* button = parent->findChild<QWidget*>(QString::fromLatin1(name));
     QVERIFY2(button != nullptr && button->isVisible(), name);
     QTest::mouseClick(button, Qt::LeftButton);
@@ -97,7 +97,7 @@ void TestLabelPreview::press(const QWidget* parent, const char* name)
 
 QImage TestLabelPreview::picture(const PrintPreviewDialog* dialog)
 {
-    UserHands::wait();
+    InputSimulation::processEvents();
     return dialog->findChild<QWidget*>(QStringLiteral("PreviewView"))->grab().toImage();
 }
 

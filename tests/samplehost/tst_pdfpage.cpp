@@ -96,7 +96,7 @@ void TestPdfPage::turnsPages()
 {
     QVERIFY(m_host->openNumbered(12));
     auto* view = m_host->widget<LabelView>("documentView");
-    UserHands::wait();
+    InputSimulation::processEvents();
     const QImage first = view->grab().toImage();
     const QSizeF paper = view->paperRect().size();
     QVERIFY(qAbs(paper.width() / paper.height() - 595.0 / 842.0) < 0.01);

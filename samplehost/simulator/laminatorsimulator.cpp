@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/simulator/laminator.h"
+#include "samplehost/simulator/laminatorsimulator.h"
 
 #include <printpanels-hostkit/colormenu.h>
 #include <printpanels/printwidget.h>
@@ -18,36 +18,39 @@ QStringList filmColors()
 
 } // namespace
 
-Laminator::Laminator(QObject* parent) : QObject(parent), m_film(SharedConstants::transparentName) {}
+LaminatorSimulator::LaminatorSimulator(QObject* parent)
+    : QObject(parent), m_film(SharedConstants::transparentName)
+{
+}
 
-Laminator::~Laminator() = default;
+LaminatorSimulator::~LaminatorSimulator() = default;
 
-int Laminator::tabIndex() const
+int LaminatorSimulator::tabIndex() const
 {
     // After the ribbons and the supply.
     return m_twoRibbons ? 3 : 2;
 }
 
-void Laminator::fit(PrintWidget& panel)
+void LaminatorSimulator::connectPanel(PrintWidget& panel)
 {
     auto* menu = new ColorMenu;
     menu->setObjectName(QStringLiteral("laminateMenu"));
     menu->setColorPalette(filmColors(), QStringList());
     menu->setTransparentColorVisible(true);
-    connect(menu, &ColorMenu::colorSignal, this, &Laminator::setFilm);
+    connect(menu, &ColorMenu::colorSignal, this, &LaminatorSimulator::setFilm);
     panel.addMenuToStack(tabIndex(), m_film, tr("Film"), tr("Laminating film"), menu);
-    m_fittings.append({&panel, menu});
+    m_connections.append({&panel, menu});
 }
 
-void Laminator::setFilm(const QString& color)
+void LaminatorSimulator::setFilm(const QString& color)
 {
     if (color == m_film) {
         return;
     }
     m_film = color;
-    for (const Fitting& fitting : std::as_const(m_fittings)) {
-        if (fitting.panel != nullptr) {
-            fitting.panel->updateColorSelection(tabIndex(), m_film, fitting.menu);
+    for (const Connection& connection : std::as_const(m_connections)) {
+        if (connection.panel != nullptr) {
+            connection.panel->updateColorSelection(tabIndex(), m_film, connection.menu);
         }
     }
     Q_EMIT filmChanged(m_film);

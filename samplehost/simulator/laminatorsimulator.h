@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#ifndef SAMPLEHOST_LAMINATOR_H
-#define SAMPLEHOST_LAMINATOR_H
+#ifndef SAMPLEHOST_LAMINATORSIMULATOR_H
+#define SAMPLEHOST_LAMINATORSIMULATOR_H
 
 #include <QtCore/QList>
 #include <QtCore/QObject>
@@ -15,22 +15,22 @@ class PrintWidget;
 namespace SampleHost {
 
 /**
- * Plays a laminator behind the label printer, which the panels know nothing of: it gives each of
- * them a tab of its own for the colour of the film. The film is the same in all of them.
+ * Simulates a laminator behind the label printer. The panels have no support for one, so it adds a
+ * tab for the colour of the film to each of them. All panels show the same film.
  */
-class Laminator : public QObject
+class LaminatorSimulator : public QObject
 {
     Q_OBJECT
 
 public:
-    /** A laminator that is not fitted, with clear film. */
-    explicit Laminator(QObject* parent = nullptr);
-    ~Laminator() override;
+    /** A laminator with clear film, which no panel shows yet. */
+    explicit LaminatorSimulator(QObject* parent = nullptr);
+    ~LaminatorSimulator() override;
 
-    /** Fits the laminator to a panel that knows of its supply. It cannot be taken off. */
-    void fit(PrintWidget& panel);
+    /** Adds the tab to a panel that already has its supply section. It cannot be removed. */
+    void connectPanel(PrintWidget& panel);
 
-    /** Tells how many ribbons the panels show: two from the start. The film's tab is the last. */
+    /** Sets whether the panels show two ribbons, as by default. The tab follows the others. */
     void setTwoRibbons(bool twoRibbons) { m_twoRibbons = twoRibbons; }
 
     /** The code of the film's colour; "transparent" for clear film. */
@@ -41,7 +41,7 @@ Q_SIGNALS:
     void filmChanged(const QString& color);
 
 private:
-    struct Fitting
+    struct Connection
     {
         QPointer<PrintWidget> panel;
         QPointer<ColorMenu> menu;
@@ -50,7 +50,7 @@ private:
     void setFilm(const QString& color);
     int tabIndex() const;
 
-    QList<Fitting> m_fittings;
+    QList<Connection> m_connections;
     QString m_film;
     bool m_twoRibbons = true;
 };

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/window/hostlook.h"
+#include "samplehost/window/hoststyle.h"
 
 #include <QtGui/QPalette>
 #include <QtWidgets/QApplication>
@@ -18,7 +18,7 @@ const QColor accent(0xfd, 0x78, 0x00);
 
 } // namespace
 
-void applyHostLook(QApplication& application)
+void applyHostStyle(QApplication& application)
 {
     QApplication::setStyle(QStringLiteral("Fusion"));
     QPalette palette(background);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/automation/userhands.h"
+#include "samplehost/automation/inputsimulation.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtGui/QKeyEvent>
@@ -11,11 +11,11 @@
 
 #include <algorithm>
 
-namespace SampleHost::UserHands {
+namespace SampleHost::InputSimulation {
 
 namespace {
 
-bool canBeReached(const QWidget* widget)
+bool acceptsInput(const QWidget* widget)
 {
     return widget != nullptr && widget->isVisible() && widget->isEnabled();
 }
@@ -38,9 +38,9 @@ void sendKey(QWidget* widget, int key, Qt::KeyboardModifiers modifiers, const QS
 
 } // namespace
 
-void wait()
+void processEvents()
 {
-    // Nested layouts hand a new size up one level at a time.
+    // A new size propagates through nested layouts one level at a time.
     constexpr int levels = 10;
     for (int level = 0; level < levels; ++level) {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
@@ -49,11 +49,11 @@ void wait()
 
 bool click(QWidget* widget)
 {
-    wait();
-    if (!canBeReached(widget)) {
+    processEvents();
+    if (!acceptsInput(widget)) {
         return false;
     }
-    // A radio button hears clicks on its indicator and text only, and those are on the left.
+    // A radio button reacts only to clicks on its indicator and text, which are on the left.
     constexpr int indicator = 10;
     const QPointF position(std::min(indicator, widget->width() / 2), widget->height() / 2);
     sendMouse(widget, QEvent::MouseButtonPress, position);
@@ -63,33 +63,33 @@ bool click(QWidget* widget)
 
 bool type(QWidget* widget, const QString& text)
 {
-    if (!canBeReached(widget)) {
+    if (!acceptsInput(widget)) {
         return false;
     }
     widget->setFocus(Qt::MouseFocusReason);
     sendKey(widget, Qt::Key_A, Qt::ControlModifier, QString());
     sendKey(widget, Qt::Key_Delete, Qt::NoModifier, QString());
     for (const QChar character : text) {
-        // The text is what counts for a field; a control character must not become a command key.
+        // Text fields insert the text; without a key code, a control character is no command.
         sendKey(widget, Qt::Key_unknown, Qt::NoModifier, QString(character));
     }
     return true;
 }
 
-bool pick(QComboBox* combo, const QString& text)
+bool select(QComboBox* combo, const QString& text)
 {
-    if (!canBeReached(combo)) {
+    if (!acceptsInput(combo)) {
         return false;
     }
-    const int wanted = combo->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    if (wanted < 0) {
+    const int index = combo->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (index < 0) {
         return false;
     }
     sendKey(combo, Qt::Key_Home, Qt::NoModifier, QString());
-    for (int step = 0; step < wanted; ++step) {
+    for (int step = 0; step < index; ++step) {
         sendKey(combo, Qt::Key_Down, Qt::NoModifier, QString());
     }
-    return combo->currentIndex() == wanted;
+    return combo->currentIndex() == index;
 }
 
-} // namespace SampleHost::UserHands
+} // namespace SampleHost::InputSimulation
