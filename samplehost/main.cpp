@@ -59,7 +59,7 @@ int runHeadless(MainWindow& window, const CommandLine& command)
     QObject::connect(&run, &HeadlessRun::warned,
                      [](const QString& line) { printLine(stderr, line); });
     QObject::connect(&run, &HeadlessRun::finished,
-                     [](HeadlessRun::ExitCode code, const QString& message) {
+                     [](CommandRun::ExitCode code, const QString& message) {
                          if (!message.isEmpty()) {
                              printLine(stderr, message);
                          }
@@ -96,16 +96,16 @@ int main(int argc, char** argv)
     const CommandLine command = parseCommandLine(QCoreApplication::arguments());
     if (!command.problem.isEmpty()) {
         printLine(stderr, command.problem);
-        return HeadlessRun::NothingToPrint;
+        return CommandRun::NothingToPrint;
     }
     if (command.helpAsked) {
         printLine(stdout, commandLineHelp());
-        return HeadlessRun::Success;
+        return CommandRun::Success;
     }
     if (command.versionAsked) {
         printLine(stdout, QCoreApplication::applicationName() + QLatin1Char(' ') +
                               QCoreApplication::applicationVersion());
-        return HeadlessRun::Success;
+        return CommandRun::Success;
     }
     applyHostStyle(application);
     MainWindow window(command.host);

@@ -4,32 +4,24 @@
 #ifndef SAMPLEHOST_HEADLESSRUN_H
 #define SAMPLEHOST_HEADLESSRUN_H
 
-#include "samplehost/commandline/commandline.h"
+#include "samplehost/automation/commandrun.h"
 #include "samplehost/print/printjob.h"
 
 #include <QtCore/QObject>
 
+#include <memory>
+
 namespace SampleHost {
 
-class MainWindow;
-
 /**
- * Executes a command line with the window's widgets, as a user would: selects the records in the
- * panel, types the list, presses Print, waits for the job and takes the screenshot.
+ * Executes a command line with the window's widgets, as a user would: makes the choices of a
+ * CommandRun, presses Print, waits for the job and takes the screenshot.
  */
 class HeadlessRun : public QObject
 {
     Q_OBJECT
 
 public:
-    /** How a run ended; the values are the program's exit codes. */
-    enum ExitCode {
-        Success = 0,
-        RuntimeFailure = 1, ///< The output cannot be written or the data cannot be read.
-        NothingToPrint = 2  ///< The command line is invalid or names no record.
-    };
-    Q_ENUM(ExitCode)
-
     /** Prepares a run in a window, which must outlive it. */
     HeadlessRun(MainWindow& window, const CommandLine& command, QObject* parent = nullptr);
 
@@ -42,24 +34,16 @@ Q_SIGNALS:
     /** There is a warning for standard error. */
     void warned(const QString& line);
     /** The run ended; message is for standard error and empty on success. */
-    void finished(SampleHost::HeadlessRun::ExitCode code, const QString& message);
+    void finished(SampleHost::CommandRun::ExitCode code, const QString& message);
 
 private:
     void applyOptions();
-    bool chooseRecords();
-    bool chooseCurrent();
-    bool chooseList();
-    bool chooseSheet();
-    bool chooseOutput();
-    void print();
-    void printCatalogItem();
-    void printDocument();
-    void printFromPreview();
+    std::unique_ptr<CommandRun> makeRun();
+    void execute(CommandRun& run);
     void endJob(PrintJob::Outcome outcome, const QString& message);
     void finish();
     bool saveScreenshot();
-    bool fail(ExitCode code, const QString& message);
-    QWidget* panelWidget(const char* name) const;
+    bool fail(CommandRun::ExitCode code, const QString& message);
 
     MainWindow& m_window;
     CommandLine m_command;
