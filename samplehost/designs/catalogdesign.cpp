@@ -9,8 +9,6 @@ namespace SampleHost {
 
 CatalogDesign::CatalogDesign() : m_sizeMm(catalogItems().constFirst().sizeMm) {}
 
-CatalogDesign::~CatalogDesign() = default;
-
 void CatalogDesign::setCurrentIndex(int index)
 {
     if (index >= 0 && index < recordCount()) {

@@ -19,7 +19,6 @@ class CatalogDesign : public LabelDesign
 public:
     /** The first item, in the size in which it is listed. */
     CatalogDesign();
-    ~CatalogDesign() override;
 
     /** The selected item, 0-based. */
     int currentIndex() const override { return m_currentIndex; }

@@ -60,8 +60,6 @@ ChemicalDesign::ChemicalDesign(std::unique_ptr<RecordSource> source, const QStri
 {
 }
 
-ChemicalDesign::~ChemicalDesign() = default;
-
 void ChemicalDesign::setSource(std::unique_ptr<RecordSource> source)
 {
     m_source = std::move(source);

@@ -24,7 +24,6 @@ public:
     /** A design for a source. Without one there are no records, and problem says why. */
     explicit ChemicalDesign(std::unique_ptr<RecordSource> source,
                             const QString& problem = QString());
-    ~ChemicalDesign() override;
 
     /** Takes the records from another source. Existing painters keep theirs. */
     void setSource(std::unique_ptr<RecordSource> source);

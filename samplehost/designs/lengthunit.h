@@ -6,19 +6,23 @@
 
 #include <QtCore/QSizeF>
 
-namespace SampleHost {
-
 /** The unit in which sizes are shown: millimetres if metric, otherwise inches. */
-namespace LengthUnit {
+namespace SampleHost::LengthUnit {
+
+constexpr qreal millimetersPerInch = 25.4;
 
 /** Converts a size from millimetres. */
-QSizeF fromMm(const QSizeF& sizeMm, bool metric);
+inline QSizeF fromMm(const QSizeF& sizeMm, bool metric)
+{
+    return metric ? sizeMm : sizeMm / millimetersPerInch;
+}
 
 /** Converts a size to millimetres. */
-QSizeF toMm(const QSizeF& size, bool metric);
+inline QSizeF toMm(const QSizeF& size, bool metric)
+{
+    return metric ? size : size * millimetersPerInch;
+}
 
-} // namespace LengthUnit
-
-} // namespace SampleHost
+} // namespace SampleHost::LengthUnit
 
 #endif

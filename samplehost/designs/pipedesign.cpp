@@ -7,9 +7,6 @@
 
 namespace SampleHost {
 
-PipeDesign::PipeDesign() = default;
-PipeDesign::~PipeDesign() = default;
-
 void PipeDesign::setCurrentIndex(int index)
 {
     if (index >= 0 && index < recordCount()) {

@@ -17,9 +17,6 @@ class PipeDesign : public LabelDesign
     Q_DECLARE_TR_FUNCTIONS(PipeDesign)
 
 public:
-    PipeDesign();
-    ~PipeDesign() override;
-
     /** The selected marker, 0-based. */
     int currentIndex() const override { return m_currentIndex; }
     /** Selects a marker; an index without a marker is ignored. */

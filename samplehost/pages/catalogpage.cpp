@@ -60,8 +60,6 @@ CatalogPage::CatalogPage(const HostSettings& settings, QWidget* parent)
     m_items->setCurrentRow(0);
 }
 
-CatalogPage::~CatalogPage() = default;
-
 QWidget* CatalogPage::createContents()
 {
     m_view = new LabelView;

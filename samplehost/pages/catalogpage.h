@@ -28,7 +28,6 @@ class CatalogPage : public HostPage
 public:
     /** A page that prints to the printer in the settings. */
     explicit CatalogPage(const HostSettings& settings, QWidget* parent = nullptr);
-    ~CatalogPage() override;
 
     QuickPrintWidget& panel() const { return *m_panel; }
     PrintController& controller() const override { return *m_controller; }

@@ -32,8 +32,6 @@ LabelPage::LabelPage(std::unique_ptr<ChemicalDesign> design, HostSettings& setti
     applyLabelType();
 }
 
-LabelPage::~LabelPage() = default;
-
 QWidget* LabelPage::createContents(HostSettings& settings)
 {
     m_typeBar = new LabelTypeBar(settings);

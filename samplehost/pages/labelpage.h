@@ -24,7 +24,6 @@ public:
     /** A page that prints the records of a design. */
     LabelPage(std::unique_ptr<ChemicalDesign> design, HostSettings& settings, bool testControls,
               QWidget* parent = nullptr);
-    ~LabelPage() override;
 
     const ChemicalDesign& design() const override { return *m_design; }
 

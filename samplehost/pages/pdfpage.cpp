@@ -51,8 +51,6 @@ PdfPage::PdfPage(HostSettings& settings, const PrinterDirectory& printers, QWidg
     setDocument(nullptr);
 }
 
-PdfPage::~PdfPage() = default;
-
 QWidget* PdfPage::createBar()
 {
     auto* openButton = new QPushButton(tr("Open..."));

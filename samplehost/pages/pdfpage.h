@@ -34,7 +34,6 @@ class PdfPage : public HostPage
 public:
     /** A page without a document. The arguments must outlive it. */
     PdfPage(HostSettings& settings, const PrinterDirectory& printers, QWidget* parent = nullptr);
-    ~PdfPage() override;
 
     /**
      * Opens a PDF file at its first page. If that fails, emits openFailed(), keeps the current

@@ -27,8 +27,6 @@ PipePage::PipePage(const HostSettings& settings, bool testControls, QWidget* par
     m_markers->setCurrentRow(0);
 }
 
-PipePage::~PipePage() = default;
-
 QWidget* PipePage::createContents()
 {
     m_markers = new QListWidget;

@@ -20,7 +20,6 @@ class PipePage : public PrintPage
 
 public:
     PipePage(const HostSettings& settings, bool testControls, QWidget* parent = nullptr);
-    ~PipePage() override;
 
     const PipeDesign& design() const override { return m_design; }
 

@@ -86,18 +86,15 @@ bool HostSettings::isFileName(const QString& name)
 
 void HostSettings::setOutputFolder(const QString& folder)
 {
-    const QString absolute = QDir::cleanPath(QDir(folder).absolutePath());
-    if (!folder.isEmpty() && absolute != m_outputFolder) {
-        m_outputFolder = absolute;
-        Q_EMIT changed();
+    if (!folder.isEmpty()) {
+        set(m_outputFolder, QDir::cleanPath(QDir(folder).absolutePath()));
     }
 }
 
 void HostSettings::setOutputFileName(const QString& fileName)
 {
-    if (isFileName(fileName) && fileName != m_outputFileName) {
-        m_outputFileName = fileName;
-        Q_EMIT changed();
+    if (isFileName(fileName)) {
+        set(m_outputFileName, fileName);
     }
 }
 
@@ -107,31 +104,6 @@ void HostSettings::setOutputPath(const QString& path)
         const QFileInfo file(path);
         setOutputFolder(file.absolutePath());
         setOutputFileName(file.fileName());
-    }
-}
-
-void HostSettings::setPaper(Paper paper)
-{
-    if (paper != m_paper) {
-        m_paper = paper;
-        Q_EMIT changed();
-    }
-}
-
-void HostSettings::setNup(const NupLayout& nup)
-{
-    const NupLayout bounded = nup.bounded();
-    if (!(bounded == m_nup)) {
-        m_nup = bounded;
-        Q_EMIT changed();
-    }
-}
-
-void HostSettings::setMetric(bool metric)
-{
-    if (metric != m_metric) {
-        m_metric = metric;
-        Q_EMIT changed();
     }
 }
 

@@ -59,10 +59,10 @@ public:
     void setOutputFileName(const QString& fileName);
     /** Sets folder and file name from a path; an empty one is ignored. */
     void setOutputPath(const QString& path);
-    void setPaper(Paper paper);
+    void setPaper(Paper paper) { set(m_paper, paper); }
     /** Sets the layout of sheets, bounded. */
-    void setNup(const NupLayout& nup);
-    void setMetric(bool metric);
+    void setNup(const NupLayout& nup) { set(m_nup, nup.bounded()); }
+    void setMetric(bool metric) { set(m_metric, metric); }
     void setPrinter(const QString& printer);
     /** Sets the document that was opened last, without a signal. */
     void setRecentDocument(const QString& path);
@@ -86,6 +86,15 @@ Q_SIGNALS:
     void printerChanged(const QString& printer);
 
 private:
+    template <typename Value>
+    void set(Value& member, const Value& value)
+    {
+        if (!(value == member)) {
+            member = value;
+            Q_EMIT changed();
+        }
+    }
+
     QString m_outputFolder;
     QString m_outputFileName;
     Paper m_paper = Paper::LabelSize;

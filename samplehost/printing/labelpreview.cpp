@@ -37,8 +37,6 @@ LabelPreview::LabelPreview(PrintController& controller, const LabelDesign& desig
     connect(&settings, &HostSettings::changed, this, &LabelPreview::showUnit);
 }
 
-LabelPreview::~LabelPreview() = default;
-
 PrintPreviewDialog* LabelPreview::popup() const
 {
     return m_popup;

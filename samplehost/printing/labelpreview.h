@@ -31,7 +31,6 @@ public:
     /** Shows the previews that a controller requests. The arguments must outlive this. */
     LabelPreview(PrintController& controller, const LabelDesign& design,
                  const HostSettings& settings, QWidget& page);
-    ~LabelPreview() override;
 
     /** The popup, which the page's window owns; null before the first preview. */
     PrintPreviewDialog* popup() const;

@@ -23,8 +23,6 @@ PdfPrintController::PdfPrintController(PdfPreview& preview, const HostSettings& 
             &PdfPrintController::print);
 }
 
-PdfPrintController::~PdfPrintController() = default;
-
 void PdfPrintController::setDocument(std::shared_ptr<const PdfDocument> document)
 {
     m_document = std::move(document);

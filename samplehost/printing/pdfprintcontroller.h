@@ -22,7 +22,6 @@ public:
     /** Handles the requests of the window's panel. The arguments must outlive the controller. */
     PdfPrintController(PdfPreview& preview, const HostSettings& settings,
                        QObject* parent = nullptr);
-    ~PdfPrintController() override;
 
     /** Sets the document. A running job continues with its own. */
     void setDocument(std::shared_ptr<const PdfDocument> document);

@@ -33,8 +33,6 @@ PrintController::PrintController(PrintWidgetInterface& panel, const LabelDesign&
             &PrintController::readinessChanged);
 }
 
-PrintController::~PrintController() = default;
-
 PrintRequest PrintController::request(int sequenceStart, int sequenceEnd,
                                       const QString& customRecordsList) const
 {

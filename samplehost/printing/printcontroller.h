@@ -24,7 +24,6 @@ public:
      */
     PrintController(PrintWidgetInterface& panel, const LabelDesign& design,
                     const HostSettings& settings, QObject* parent = nullptr);
-    ~PrintController() override;
 
     /** Whether a request would be accepted: there is a printer, and no job is running. */
     bool isReady() const;

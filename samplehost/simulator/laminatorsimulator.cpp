@@ -23,8 +23,6 @@ LaminatorSimulator::LaminatorSimulator(QObject* parent)
 {
 }
 
-LaminatorSimulator::~LaminatorSimulator() = default;
-
 int LaminatorSimulator::tabIndex() const
 {
     // After the ribbons and the supply.

@@ -25,7 +25,6 @@ class LaminatorSimulator : public QObject
 public:
     /** A laminator with clear film, which no panel shows yet. */
     explicit LaminatorSimulator(QObject* parent = nullptr);
-    ~LaminatorSimulator() override;
 
     /** Adds the tab to a panel that already has its supply section. It cannot be removed. */
     void connectPanel(PrintWidget& panel);
