@@ -5,8 +5,8 @@
 #define TESTS_CUPS_CUPSHOST_H
 
 #include "cups/pagepictures.h"
-#include "samplehost/hostfixture.h"
 #include "samplehost/printing/printerdirectory.h"
+#include "samplehost/support/hostfixture.h"
 
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>

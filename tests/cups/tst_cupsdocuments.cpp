@@ -3,8 +3,8 @@
 
 #include "cups/cupstest.h"
 #include "cups/pagepictures.h"
-#include "samplehost/documenthost.h"
 #include "samplehost/printing/hostsettings.h"
+#include "samplehost/support/documenthost.h"
 
 #include <QtWidgets/QComboBox>
 

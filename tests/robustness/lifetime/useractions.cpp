@@ -273,10 +273,18 @@ void addPopupRows(QList<UserAction>& rows)
     };
     addButtonRows(rows, row(SIGNAL(previewPrintSignal(int, int, QString))), "printButton",
                   "popup: print clicked", "popup: print by key");
-    addButtonRows(rows, row(SIGNAL(orientationChangedSignal(int))), "landscapeButton",
-                  "popup: landscape clicked", "popup: landscape by key");
-    addButtonRows(rows, row(SIGNAL(orientationChangedSignal(int))), "portraitButton",
-                  "popup: portrait clicked", "popup: portrait by key");
+    const UserAction orientation = row(SIGNAL(orientationChangedSignal(int)));
+    addToggleRows(rows, orientation, "landscapeButton", "popup: landscape clicked",
+                  "popup: landscape by key");
+    addToggleRows(rows, orientation, "portraitButton", "popup: portrait clicked",
+                  "popup: portrait by key");
+    rows.append(orientation);
+    rows.last().name = "popup: orientation by arrow key";
+    rows.last().act = [](const Panel& panel) {
+        auto* button = part<QAbstractButton>(*panel, "portraitButton");
+        button->setFocus();
+        QTest::keyClick(button, Qt::Key_Right);
+    };
     addButtonRows(rows, row(SIGNAL(popupHideSignal())), "closeButton", "popup: close clicked",
                   "popup: close by key");
     rows.append({"popup: title bar's close clicked", newPreviewPopup, "", SIGNAL(popupHideSignal()),

@@ -33,8 +33,9 @@ public:
                                          m_range.at(0).toInt(), m_range.at(1).toInt(),
                                          m_range.at(2).toString());
         world.trail.note(QStringLiteral("NEW PrintPreviewDialog, flags %1").arg(kind.toInt()));
-        adopt(m_popup, printPreviewDialogCalls(),
-              {"previewPrintSignal", "orientationChangedSignal", "popupHideSignal"});
+        // Not the orientation: an arrow key clicks the other button of a group, and Qt then gives
+        // that button the focus.
+        adopt(m_popup, printPreviewDialogCalls(), {"previewPrintSignal", "popupHideSignal"});
     }
 
     void told(const QByteArray& name, const QVariantList& arguments) override;

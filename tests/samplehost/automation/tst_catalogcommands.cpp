@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "hostfixture.h"
+#include "samplehost/support/hostfixture.h"
 #include "support/stricttest.h"
 
 #include <QtCore/QProcess>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "pdfoutput.h"
-#include "pdfsamples.h"
 #include "samplehost/commandline/commandline.h"
+#include "samplehost/support/pdfoutput.h"
+#include "samplehost/support/pdfsamples.h"
 #include "support/stricttest.h"
 
 #include <QtCore/QDir>

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "faulthost.h"
-#include "hostprogram.h"
 #include "samplehost/data/seeddatabase.h"
 #include "samplehost/pages/labelview.h"
 #include "samplehost/printing/labelpreview.h"
+#include "samplehost/support/faulthost.h"
+#include "samplehost/support/hostprogram.h"
 #include "support/stricttest.h"
 
 #include <QtCore/QFileInfo>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "faulthost.h"
-#include "fulldisk.h"
-#include "hostprogram.h"
+#include "samplehost/support/faulthost.h"
+#include "samplehost/support/fulldisk.h"
+#include "samplehost/support/hostprogram.h"
 #include "support/stricttest.h"
 
 #include <QtCore/QSettings>

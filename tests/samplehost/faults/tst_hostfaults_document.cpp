@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "faulthost.h"
-#include "hostprogram.h"
+#include "samplehost/support/faulthost.h"
+#include "samplehost/support/hostprogram.h"
 #include "support/stricttest.h"
 
 #include <QtWidgets/QStatusBar>

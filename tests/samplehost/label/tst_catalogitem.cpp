@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "hostfixture.h"
 #include "samplehost/designs/catalogdesign.h"
 #include "samplehost/designs/catalogsize.h"
 #include "samplehost/label/catalogpainter.h"
 #include "samplehost/label/pictogram.h"
+#include "samplehost/support/hostfixture.h"
 #include "support/stricttest.h"
 
 #include <QtGui/QPainter>

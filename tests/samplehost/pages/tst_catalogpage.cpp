@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "hostfixture.h"
 #include "samplehost/pages/catalogpage.h"
 #include "samplehost/pages/labelview.h"
 #include "samplehost/printing/labelpreview.h"
+#include "samplehost/support/hostfixture.h"
 #include "samplehost/window/eventlog.h"
 #include "support/stricttest.h"
 

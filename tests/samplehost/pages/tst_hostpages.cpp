@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "hostfixture.h"
 #include "samplehost/pages/labelview.h"
 #include "samplehost/pages/recordnavigator.h"
 #include "samplehost/simulator/supplysimulator.h"
+#include "samplehost/support/hostfixture.h"
 #include "samplehost/window/errormessages.h"
 #include "samplehost/window/eventlog.h"
 #include "samplehost/window/preferencesdialog.h"

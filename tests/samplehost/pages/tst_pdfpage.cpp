@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "documenthost.h"
 #include "samplehost/pages/labelview.h"
+#include "samplehost/support/documenthost.h"
 #include "support/stricttest.h"
 
 #include <QtCore/QMimeData>

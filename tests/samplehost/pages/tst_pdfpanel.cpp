@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "documenthost.h"
+#include "samplehost/support/documenthost.h"
 #include "support/stricttest.h"
 
 #include <QtCore/QMetaMethod>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "samplehost/pdf/pdfdocument.h"
-#include "samplehost/pdfsamples.h"
+#include "samplehost/support/pdfsamples.h"
 #include "support/stricttest.h"
 
 #include <QtCore/QDir>

@@ -3,8 +3,8 @@
 
 #include "samplehost/pdf/pdfdocument.h"
 #include "samplehost/pdf/pdfprinting.h"
-#include "samplehost/pdfoutput.h"
-#include "samplehost/pdfsamples.h"
+#include "samplehost/support/pdfoutput.h"
+#include "samplehost/support/pdfsamples.h"
 #include "support/stricttest.h"
 
 #include <QtCore/QDir>

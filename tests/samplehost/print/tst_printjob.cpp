@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "fulldisk.h"
 #include "samplehost/print/printjob.h"
+#include "samplehost/support/fulldisk.h"
 #include "support/stricttest.h"
 
 #include <QtCore/QDir>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "hostfixture.h"
 #include "samplehost/printing/labelpreview.h"
+#include "samplehost/support/hostfixture.h"
 #include "samplehost/window/eventlog.h"
 #include "samplehost/window/preferencesdialog.h"
 #include "support/stricttest.h"

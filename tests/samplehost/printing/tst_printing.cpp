@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "hostfixture.h"
 #include "samplehost/printing/labelpreview.h"
 #include "samplehost/printing/printprogressdialog.h"
+#include "samplehost/support/hostfixture.h"
 #include "support/stricttest.h"
 
 #include <QtWidgets/QCheckBox>

@@ -4,13 +4,13 @@
 #ifndef TESTS_SAMPLEHOST_DOCUMENTHOST_H
 #define TESTS_SAMPLEHOST_DOCUMENTHOST_H
 
-#include "hostfixture.h"
-#include "pdfoutput.h"
-#include "pdfsamples.h"
 #include "samplehost/pages/pdfpage.h"
 #include "samplehost/pages/recordnavigator.h"
 #include "samplehost/printing/pdfpreview.h"
 #include "samplehost/printing/pdfprintcontroller.h"
+#include "samplehost/support/hostfixture.h"
+#include "samplehost/support/pdfoutput.h"
+#include "samplehost/support/pdfsamples.h"
 #include "samplehost/window/eventlog.h"
 
 #include <printpanels-hostkit/containertitlebar.h>

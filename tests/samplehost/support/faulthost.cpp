@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "faulthost.h"
+#include "samplehost/support/faulthost.h"
 
 #include "samplehost/pages/catalogpage.h"
 

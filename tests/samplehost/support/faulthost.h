@@ -4,7 +4,7 @@
 #ifndef FAULTHOST_H
 #define FAULTHOST_H
 
-#include "documenthost.h"
+#include "samplehost/support/documenthost.h"
 
 /** What the host can print, each by the widgets of its own page. */
 enum class Printout { Labels, Sheets, TestFile, Item, Document };

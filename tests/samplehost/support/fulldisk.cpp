@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "fulldisk.h"
+#include "samplehost/support/fulldisk.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "hostprogram.h"
+#include "samplehost/support/hostprogram.h"
 
 #include <QtCore/QProcess>
 

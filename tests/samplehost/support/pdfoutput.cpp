@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/pdfoutput.h"
+#include "samplehost/support/pdfoutput.h"
 
 #include <QtGui/QPainter>
 #include <QtPdf/QPdfDocument>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/pdfsamples.h"
+#include "samplehost/support/pdfsamples.h"
 
 #include <qpdf/Buffer.hh>
 #include <qpdf/QPDF.hh>

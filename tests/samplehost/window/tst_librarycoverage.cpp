@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "hostfixture.h"
 #include "samplehost/pages/catalogpage.h"
 #include "samplehost/pages/pdfpage.h"
 #include "samplehost/printing/labelpreview.h"
 #include "samplehost/printing/pdfpreview.h"
+#include "samplehost/support/hostfixture.h"
 #include "support/stricttest.h"
 
 #include <printpanels/multipageprintdialog.h>
