@@ -3,8 +3,8 @@
 
 #include "samplehost/pdf/pdfdocument.h"
 
-#include "samplehost/pdf/pdfsource.h"
 #include "samplehost/pdf/sheetimage.h"
+#include "samplehost/pdf/sheets/pdfsource.h"
 
 #include <qpdf/QPDFExc.hh>
 

@@ -30,16 +30,16 @@ bool PdfFileWork::open(QString& problem)
         problem = m_sheets.problemText();
         return false;
     }
-    QIODevice* device = m_file.open(problem);
-    if (device == nullptr) {
+    m_device = m_file.open(problem);
+    if (m_device == nullptr) {
         return false;
     }
-    m_writer = std::make_unique<PdfSheetWriter>(m_sheets.source(), *device, m_sheets.options(),
+    m_writer = std::make_unique<PdfSheetWriter>(m_sheets.source(), m_sheets.options(),
                                                 m_sheets.contents());
     return true;
 }
 
-bool PdfFileWork::putPage(qint64 page, QString& problem)
+bool PdfFileWork::printPage(qint64 page, QString& problem)
 {
     try {
         m_writer->addSheet(m_sheets.page(page));
@@ -47,23 +47,35 @@ bool PdfFileWork::putPage(qint64 page, QString& problem)
         problem = m_sheets.damageText(page);
         return false;
     }
-    return m_file.isHealthy(problem);
+    return true;
 }
 
-bool PdfFileWork::complete(QString& problem)
+void PdfFileWork::write(SlicedCall& call)
 {
-    try {
-        m_writer->finish(m_title);
-    } catch (const std::exception&) {
-        problem = m_sheets.damageText(m_sheets.count() - 1);
-        return false;
+    m_writer->write(*m_device, m_title, [&call] { call.pauseIfDue(); });
+}
+
+PrintWork::Completion PdfFileWork::complete(QString& problem)
+{
+    if (!m_writing) {
+        m_writing = std::make_unique<SlicedCall>([this](SlicedCall& call) { write(call); });
     }
-    m_writer.reset();
-    return m_file.commit(problem);
+    try {
+        if (!m_writing->runSlice()) {
+            return Completion::Pending;
+        }
+    } catch (const std::exception&) {
+        if (m_file.isHealthy(problem)) {
+            problem = m_sheets.damageText(m_sheets.count() - 1);
+        }
+        return Completion::Failed;
+    }
+    return m_file.commit(problem) ? Completion::Completed : Completion::Failed;
 }
 
-bool PdfFileWork::giveUp()
+bool PdfFileWork::cancel()
 {
+    m_writing.reset();
     m_writer.reset();
     m_file.discard();
     return true;

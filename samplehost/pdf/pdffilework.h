@@ -5,6 +5,7 @@
 #define SAMPLEHOST_PDFFILEWORK_H
 
 #include "samplehost/pdf/pdfsheets.h"
+#include "samplehost/pdf/slicedcall.h"
 #include "samplehost/print/outputfile.h"
 #include "samplehost/print/printwork.h"
 
@@ -23,15 +24,20 @@ public:
     qint64 pageCount() const override;
     QString targetDescription() const override;
     bool open(QString& problem) override;
-    bool putPage(qint64 page, QString& problem) override;
-    bool complete(QString& problem) override;
-    bool giveUp() override;
+    bool printPage(qint64 page, QString& problem) override;
+    Completion complete(QString& problem) override;
+    bool cancel() override;
 
 private:
+    void write(SlicedCall& call);
+
     PdfSheets m_sheets;
     OutputFile m_file;
     QString m_title;
+    QIODevice* m_device = nullptr;
     std::unique_ptr<PdfSheetWriter> m_writer;
+    // Uses all of the above.
+    std::unique_ptr<SlicedCall> m_writing;
 };
 
 } // namespace SampleHost

@@ -5,9 +5,9 @@
 
 #include "samplehost/pdf/pdfdocument.h"
 #include "samplehost/pdf/pdffilework.h"
-#include "samplehost/pdf/pdfsource.h"
 #include "samplehost/pdf/sheetimage.h"
 #include "samplehost/pdf/sheetpages.h"
+#include "samplehost/pdf/sheets/pdfsource.h"
 
 #include <exception>
 #include <utility>

@@ -4,7 +4,7 @@
 #include "samplehost/pdf/pdfsheets.h"
 
 #include "samplehost/pdf/pdfdocument.h"
-#include "samplehost/pdf/pdfsource.h"
+#include "samplehost/pdf/sheets/pdfsource.h"
 #include "samplehost/pdf/units.h"
 
 namespace SampleHost {

@@ -5,7 +5,7 @@
 #define SAMPLEHOST_PDFSHEETS_H
 
 #include "samplehost/pdf/pdfpageplan.h"
-#include "samplehost/pdf/pdfsheetwriter.h"
+#include "samplehost/pdf/sheets/pdfsheetwriter.h"
 
 #include <memory>
 

@@ -3,7 +3,7 @@
 
 #include "samplehost/pdf/sheetimage.h"
 
-#include "samplehost/pdf/pdfsource.h"
+#include "samplehost/pdf/sheets/pdfsource.h"
 
 #include <QtGui/QPainter>
 #include <QtPdf/QPdfDocumentRenderOptions>
@@ -38,14 +38,14 @@ SheetImage::SheetImage(PdfSource& source, int page, const SheetOptions& options,
     const qreal pointsPerRow = sheet.height() / size.height();
     m_file.open(QIODevice::ReadWrite);
     // The clip of Qt's renderer is off by a pixel for each band, so every band is a page.
-    PdfSheetWriter writer(source, m_file, options, contents);
+    PdfSheetWriter writer(source, options, contents);
     for (int top = 0; top < size.height(); top += bandHeight) {
         const QRect band(0, top, size.width(), std::min(bandHeight, size.height() - top));
         m_bands.append(band);
         writer.addSheetPart(
             page, QRectF(0, top * pointsPerRow, sheet.width(), band.height() * pointsPerRow));
     }
-    writer.finish(QString());
+    writer.write(m_file, QString());
     m_file.seek(0);
     m_view.load(&m_file);
     if (m_view.status() != QPdfDocument::Status::Ready || m_view.pageCount() != bandCount()) {

@@ -4,7 +4,7 @@
 #ifndef SAMPLEHOST_SHEETIMAGE_H
 #define SAMPLEHOST_SHEETIMAGE_H
 
-#include "samplehost/pdf/pdfsheetwriter.h"
+#include "samplehost/pdf/sheets/pdfsheetwriter.h"
 
 #include <QtCore/QBuffer>
 #include <QtCore/QList>

@@ -3,8 +3,8 @@
 
 #include "samplehost/pdf/sheetpages.h"
 
-#include "samplehost/pdf/pdfsource.h"
 #include "samplehost/pdf/sheetimage.h"
+#include "samplehost/pdf/sheets/pdfsource.h"
 #include "samplehost/pdf/units.h"
 
 #include <QtGui/QPageLayout>

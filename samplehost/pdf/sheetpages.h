@@ -21,7 +21,7 @@ public:
     explicit SheetPages(const PdfSheets& sheets);
 
     qint64 pageCount() const override;
-    QString whyEmpty() const override { return m_sheets.problemText(); }
+    QString problemText() const override { return m_sheets.problemText(); }
     QSizeF sheetSizeMm() const override;
     void prepareDevice(QPagedPaintDevice& device, qint64 page) override;
     bool paint(QPainter& painter, QPagedPaintDevice& device, qint64 page,

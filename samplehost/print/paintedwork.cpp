@@ -13,7 +13,7 @@ PrintWork::~PrintWork() = default;
 
 PageSource::~PageSource() = default;
 
-QString PageSource::whyEmpty() const
+QString PageSource::problemText() const
 {
     return QString();
 }
@@ -31,7 +31,7 @@ PaintedWork::PaintedWork(std::unique_ptr<PageSource> pages, std::unique_ptr<Prin
 
 PaintedWork::~PaintedWork()
 {
-    PaintedWork::giveUp();
+    PaintedWork::cancel();
 }
 
 qint64 PaintedWork::pageCount() const
@@ -47,7 +47,7 @@ QString PaintedWork::targetDescription() const
 bool PaintedWork::open(QString& problem)
 {
     if (pageCount() == 0 || !m_target) {
-        const QString reason = m_pages ? m_pages->whyEmpty() : QString();
+        const QString reason = m_pages ? m_pages->problemText() : QString();
         problem = reason.isEmpty() ? tr("There is nothing to print.") : reason;
         return false;
     }
@@ -63,7 +63,7 @@ bool PaintedWork::open(QString& problem)
     return true;
 }
 
-bool PaintedWork::putPage(qint64 page, QString& problem)
+bool PaintedWork::printPage(qint64 page, QString& problem)
 {
     if (page > 0) {
         m_pages->prepareDevice(*m_device, page);
@@ -75,14 +75,14 @@ bool PaintedWork::putPage(qint64 page, QString& problem)
     return m_pages->paint(m_painter, *m_device, page, problem) && m_target->isHealthy(problem);
 }
 
-bool PaintedWork::complete(QString& problem)
+PrintWork::Completion PaintedWork::complete(QString& problem)
 {
     m_painter.end();
     m_device = nullptr;
-    return m_target->commit(problem);
+    return m_target->commit(problem) ? Completion::Completed : Completion::Failed;
 }
 
-bool PaintedWork::giveUp()
+bool PaintedWork::cancel()
 {
     if (!m_target) {
         return true;

@@ -26,7 +26,7 @@ public:
     virtual qint64 pageCount() const = 0;
 
     /** Why there is no page, in words for the user; empty, the default, for no special reason. */
-    virtual QString whyEmpty() const;
+    virtual QString problemText() const;
 
     /** The size of the sheet, in millimetres, that the target is opened with. */
     virtual QSizeF sheetSizeMm() const = 0;
@@ -61,9 +61,9 @@ public:
     qint64 pageCount() const override;
     QString targetDescription() const override;
     bool open(QString& problem) override;
-    bool putPage(qint64 page, QString& problem) override;
-    bool complete(QString& problem) override;
-    bool giveUp() override;
+    bool printPage(qint64 page, QString& problem) override;
+    Completion complete(QString& problem) override;
+    bool cancel() override;
 
 private:
     std::unique_ptr<PageSource> m_pages;

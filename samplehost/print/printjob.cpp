@@ -34,7 +34,7 @@ PrintJob::PrintJob(const PagePlan& plan, const SheetGeometry& sheet, LabelPainte
 
 PrintJob::~PrintJob()
 {
-    giveUp();
+    cancelWork();
 }
 
 QString PrintJob::targetDescription() const
@@ -55,7 +55,7 @@ void PrintJob::cancel()
     if (m_state != State::Running) {
         return;
     }
-    const bool nothingComesOut = giveUp();
+    const bool nothingComesOut = cancelWork();
     end(Outcome::Cancelled,
         nothingComesOut
             ? QString()
@@ -65,24 +65,31 @@ void PrintJob::cancel()
 void PrintJob::runSlice()
 {
     QString problem;
-    if (!m_opened && !openWork(problem)) {
+    if ((!m_opened && !openWork(problem)) || !printPages(problem)) {
         fail(problem);
         return;
+    }
+    // Whoever heard of the progress may have cancelled the job.
+    if (m_state == State::Running && m_pagesDone == pageCount()) {
+        complete();
+    }
+}
+
+bool PrintJob::printPages(QString& problem)
+{
+    if (m_pagesDone == pageCount()) {
+        return true;
     }
     QElapsedTimer elapsed;
     elapsed.start();
     do {
-        if (!m_work->putPage(m_pagesDone, problem)) {
-            fail(problem);
-            return;
+        if (!m_work->printPage(m_pagesDone, problem)) {
+            return false;
         }
         ++m_pagesDone;
     } while (m_pagesDone < pageCount() && elapsed.elapsed() < sliceMilliseconds);
-    // A receiver may cancel the job right here.
     Q_EMIT progressChanged(m_pagesDone, pageCount());
-    if (m_state == State::Running && m_pagesDone == pageCount()) {
-        complete();
-    }
+    return true;
 }
 
 bool PrintJob::openWork(QString& problem)
@@ -98,21 +105,26 @@ bool PrintJob::openWork(QString& problem)
 void PrintJob::complete()
 {
     QString problem;
-    if (m_work->complete(problem)) {
+    switch (m_work->complete(problem)) {
+    case PrintWork::Completion::Completed:
         end(Outcome::Completed, QString());
-    } else {
+        break;
+    case PrintWork::Completion::Pending:
+        break;
+    case PrintWork::Completion::Failed:
         fail(problem);
+        break;
     }
 }
 
-bool PrintJob::giveUp()
+bool PrintJob::cancelWork()
 {
-    return !m_work || m_work->giveUp();
+    return !m_work || m_work->cancel();
 }
 
 void PrintJob::fail(const QString& problem)
 {
-    giveUp();
+    cancelWork();
     end(Outcome::Failed, problem);
 }
 

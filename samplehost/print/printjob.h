@@ -41,7 +41,7 @@ public:
     PrintJob(const PagePlan& plan, const SheetGeometry& sheet, LabelPainter paintLabel,
              std::unique_ptr<PrintTarget> target, QObject* parent = nullptr);
 
-    /** A job that is still running is given up and its target discarded, without a signal. */
+    /** A job that is still running is cancelled, without a signal. */
     ~PrintJob() override;
 
     /** Whether the job was started and has not ended. */
@@ -61,7 +61,7 @@ public Q_SLOTS:
     void cancel();
 
 Q_SIGNALS:
-    /** Some pages were put on the target: pagesDone of pageCount. */
+    /** Some pages were printed: pagesDone of pageCount. */
     void progressChanged(qint64 pagesDone, qint64 pageCount);
 
     /**
@@ -75,8 +75,9 @@ private:
 
     void runSlice();
     bool openWork(QString& problem);
+    bool printPages(QString& problem);
     void complete();
-    bool giveUp();
+    bool cancelWork();
     void fail(const QString& problem);
     void end(Outcome outcome, const QString& message);
 

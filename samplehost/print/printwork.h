@@ -9,14 +9,22 @@
 namespace SampleHost {
 
 /**
- * What a print job carries out, step by step. The job calls open() once, then putPage() for every
- * page in turn, then complete(); giveUp() may come at any time instead and ends the work.
+ * What a print job carries out, step by step. The job calls open() once, then printPage() for
+ * every page in turn, then complete() until it is no longer pending; cancel() may come at any time
+ * instead and ends the work.
  *
- * Destroying work that was not completed gives it up.
+ * Destroying work that was not completed cancels it.
  */
 class PrintWork
 {
 public:
+    /** How far complete() has come. */
+    enum class Completion {
+        Completed,
+        Pending, ///< There is more to do: complete() has to be called again.
+        Failed
+    };
+
     PrintWork() = default;
     virtual ~PrintWork();
 
@@ -32,17 +40,18 @@ public:
      */
     virtual bool open(QString& problem) = 0;
 
-    /** Puts page, 0-based, on the target. False with the reason in problem. */
-    virtual bool putPage(qint64 page, QString& problem) = 0;
+    /** Prints page, 0-based, to the target. False with the reason in problem. */
+    virtual bool printPage(qint64 page, QString& problem) = 0;
 
-    /** Completes the output after the last page. False with the reason in problem. */
-    virtual bool complete(QString& problem) = 0;
+    /** Completes the output after the last page, or a part of it. Failed with the reason in
+     * problem. */
+    virtual Completion complete(QString& problem) = 0;
 
     /**
-     * Gives the output up; again does no harm. Returns false when pages that were already put may
-     * come out all the same, which some printing systems cannot prevent.
+     * Discards the output; again does no harm. Returns false when pages that were already printed
+     * may come out all the same, which some printing systems cannot prevent.
      */
-    virtual bool giveUp() = 0;
+    virtual bool cancel() = 0;
 
 private:
     Q_DISABLE_COPY_MOVE(PrintWork)

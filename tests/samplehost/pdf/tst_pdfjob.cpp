@@ -9,6 +9,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QTemporaryDir>
+#include <QtCore/QTimer>
 #include <QtPdf/QPdfDocument>
 #include <QtTest/QSignalSpy>
 
@@ -66,10 +67,14 @@ private Q_SLOTS:
     void keepsEachPagesSize();
     void keepsFontsAndTitle();
     void keepsLayers();
+    void keepsLayersOfAnnotations();
     void joinsContentsInParts();
     void printsVeryManySheets();
     void reportsProgress();
     void cancelLeavesNothing();
+    void answersWhileTheFileIsWritten();
+    void cancelDuringTheWritingLeavesNothing();
+    void changeDuringTheWritingFailsTheJob();
     void cancelLeavesAnOlderFileAlone();
     void destructionLeavesNothing();
     void outlivesTheDocument();
@@ -88,6 +93,7 @@ private:
     {
         return makePdfFileJob(m_document, request, m_output);
     }
+    std::unique_ptr<PrintJob> longJob();
     QStringList filesLeft() const;
 
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -208,6 +214,24 @@ void TestPdfJob::keepsLayers()
     QVERIFY2(PdfOutput::agree(ink, QRectF(10, 70, 20, 20)), PdfOutput::described(ink).constData());
 }
 
+void TestPdfJob::keepsLayersOfAnnotations()
+{
+    PdfSamples::Bytes bytes;
+    bytes.add("<< /Type /Catalog /Pages 2 0 R /OCProperties << /OCGs [ 4 0 R 5 0 R ] "
+              "/D << /OFF [ 5 0 R ] >> >> >>");
+    bytes.add("<< /Type /Pages /Count 1 /Kids [ 3 0 R ] /MediaBox [ 0 0 100 100 ] >>");
+    bytes.add("<< /Type /Page /Parent 2 0 R /Annots [ "
+              "<< /Subtype /Stamp /F 4 /OC 4 0 R /Rect [ 10 10 30 30 ] /AP << /N 6 0 R >> >> "
+              "<< /Subtype /Stamp /F 4 /OC 5 0 R /Rect [ 60 60 80 80 ] /AP << /N 6 0 R >> >> "
+              "<< /Subtype /Stamp /F 0 /Rect [ 80 10 95 30 ] /AP << /N 6 0 R >> >> ] >>");
+    bytes.add("<< /Type /OCG /Name (shown) >>");
+    bytes.add("<< /Type /OCG /Name (hidden) >>");
+    bytes.addStream("0 0 10 10 re f", "/Subtype /Form /BBox [ 0 0 10 10 ]");
+    QVERIFY(openBytes(bytes.file()));
+    QVERIFY(PdfOutput::completes(*job(range(1, 1))));
+    QVERIFY(PdfOutput::agree(PdfOutput::ink(m_output, 0), QRectF(10, 70, 20, 20)));
+}
+
 void TestPdfJob::joinsContentsInParts()
 {
     // Parts may end anywhere between two words.
@@ -283,6 +307,65 @@ void TestPdfJob::cancelLeavesNothing()
     // The document is none the worse for it.
     QVERIFY(PdfOutput::completes(*job(list("300"))));
     QCOMPARE(PdfOutput::texts(m_output), numbered({300}));
+}
+
+// Enough sheets that one slice of work cannot write them all.
+std::unique_ptr<PrintJob> TestPdfJob::longJob()
+{
+    PdfPrintRequest request = range(1, 300);
+    request.copies = 300;
+    return job(request);
+}
+
+void TestPdfJob::answersWhileTheFileIsWritten()
+{
+    QVERIFY(openNumbered(300));
+    const auto printing = longJob();
+    QSignalSpy finished(printing.get(), &PrintJob::finished);
+    bool allSheets = false;
+    connect(printing.get(), &PrintJob::progressChanged, this,
+            [&allSheets](qint64 done, qint64 count) { allSheets = done == count; });
+    int answers = 0;
+    QTimer user;
+    connect(&user, &QTimer::timeout, this, [&] { answers += allSheets ? 1 : 0; });
+    user.start(0);
+    printing->start();
+    QVERIFY(finished.wait(60000));
+    QCOMPARE(finished.at(0).at(0).value<Outcome>(), Outcome::Completed);
+    QVERIFY2(answers >= 3, qPrintable(QString::number(answers)));
+}
+
+void TestPdfJob::cancelDuringTheWritingLeavesNothing()
+{
+    QVERIFY(openNumbered(300));
+    const auto printing = longJob();
+    QSignalSpy finished(printing.get(), &PrintJob::finished);
+    connect(printing.get(), &PrintJob::progressChanged, this, [&](qint64 done, qint64 count) {
+        if (done == count) {
+            QTimer::singleShot(0, printing.get(), &PrintJob::cancel);
+        }
+    });
+    printing->start();
+    QVERIFY(finished.wait(60000));
+    QCOMPARE(finished.at(0).at(0).value<Outcome>(), Outcome::Cancelled);
+    QCOMPARE(filesLeft(), QStringList());
+}
+
+void TestPdfJob::changeDuringTheWritingFailsTheJob()
+{
+    QVERIFY(openNumbered(300));
+    const auto printing = longJob();
+    QFile input(m_input);
+    connect(printing.get(), &PrintJob::progressChanged, this, [&](qint64 done, qint64 count) {
+        if (done == count) {
+            input.resize(100);
+        }
+    });
+    const PdfOutput::End end = PdfOutput::run(*printing);
+    QCOMPARE(end.outcome, Outcome::Failed);
+    QCOMPARE(end.message, QStringLiteral("The file of the document was changed. Open it again to "
+                                         "print it."));
+    QCOMPARE(filesLeft(), QStringList());
 }
 
 void TestPdfJob::cancelLeavesAnOlderFileAlone()

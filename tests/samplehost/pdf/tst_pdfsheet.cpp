@@ -3,7 +3,7 @@
 
 #include "samplehost/pdf/pdfdocument.h"
 #include "samplehost/pdf/pdfprinting.h"
-#include "samplehost/pdf/sheetlayout.h"
+#include "samplehost/pdf/sheets/sheetlayout.h"
 #include "samplehost/support/pdfoutput.h"
 #include "samplehost/support/pdfsamples.h"
 #include "support/stricttest.h"

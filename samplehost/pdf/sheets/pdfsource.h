@@ -4,7 +4,7 @@
 #ifndef SAMPLEHOST_PDFSOURCE_H
 #define SAMPLEHOST_PDFSOURCE_H
 
-#include "samplehost/pdf/pagebox.h"
+#include "samplehost/pdf/sheets/pagebox.h"
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFAcroFormDocumentHelper.hh>
@@ -17,6 +17,9 @@
 #include <vector>
 
 namespace SampleHost {
+
+/** A rectangle of a page's own coordinates as a PDF file has it. */
+QPDFObjectHandle::Rectangle rectangle(const QRectF& rect);
 
 /** Makes the appearance of a text field or a choice from its value, for a field that has none. */
 void drawField(QPDFFormFieldObjectHelper field, QPDFAnnotationObjectHelper widget);
@@ -50,10 +53,13 @@ public:
     /** The object of a page. Throws when the file is not intact any more. */
     QPDFObjectHandle page(int page) const;
 
+    /** The document, for objects that are added to be copied elsewhere. */
+    QPDF& document() { return m_pdf; }
+
     /** The form of the document. */
     QPDFAcroFormDocumentHelper& form() { return *m_form; }
 
-    /** An entry of the document's catalogue, or a null object. */
+    /** An entry of the document's catalogue as an indirect object, or a null object. */
     QPDFObjectHandle catalogEntry(const std::string& key);
 
 private:

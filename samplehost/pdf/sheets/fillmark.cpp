@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/pdf/fillmark.h"
+#include "samplehost/pdf/sheets/fillmark.h"
 
-#include "samplehost/pdf/pdfobjectwriter.h"
+#include <qpdf/QPDFMatrix.hh>
 
 #include <algorithm>
 #include <cmath>
@@ -34,8 +34,8 @@ std::string fillMark(FillMark mark, const QPDFObjectHandle::Rectangle& box)
     const double side = std::min(std::abs(box.urx - box.llx), std::abs(box.ury - box.lly));
     const double left = (box.llx + box.urx - side) / 2;
     const double bottom = (box.lly + box.ury - side) / 2;
-    const QTransform place(side, 0, 0, side, left, bottom);
-    return "q " + matrixText(place) + " cm 0 G 1 J 1 j [] 0 d " + strokes(mark) + " Q\n";
+    const QPDFMatrix place(side, 0, 0, side, left, bottom);
+    return "q " + place.unparse() + " cm 0 G 1 J 1 j [] 0 d " + strokes(mark) + " Q\n";
 }
 
 } // namespace SampleHost

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/pdf/sheetlayout.h"
+#include "samplehost/pdf/sheets/sheetlayout.h"
 
 #include <algorithm>
 

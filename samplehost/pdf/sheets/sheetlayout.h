@@ -4,7 +4,7 @@
 #ifndef SAMPLEHOST_SHEETLAYOUT_H
 #define SAMPLEHOST_SHEETLAYOUT_H
 
-#include "samplehost/pdf/pagebox.h"
+#include "samplehost/pdf/sheets/pagebox.h"
 
 #include <QtCore/QMarginsF>
 #include <QtGui/QTransform>

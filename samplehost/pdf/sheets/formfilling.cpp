@@ -1,11 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/pdf/fillparts.h"
+#include "samplehost/pdf/sheets/formfilling.h"
 
-#include "samplehost/pdf/fillmark.h"
-#include "samplehost/pdf/filltext.h"
-#include "samplehost/pdf/pdfsource.h"
+#include "samplehost/pdf/sheets/annotationpage.h"
+#include "samplehost/pdf/sheets/fillmark.h"
+#include "samplehost/pdf/sheets/filltext.h"
+#include "samplehost/pdf/sheets/pdfsource.h"
 
 #include <qpdf/QPDFPageObjectHelper.hh>
 
@@ -17,6 +18,13 @@ namespace {
 
 using Widget = QPDFAnnotationObjectHelper;
 using Field = QPDFFormFieldObjectHelper;
+
+/** Whether a field comes out on paper. */
+bool isPrinted(Widget widget)
+{
+    const int flags = widget.getFlags();
+    return (flags & an_print) != 0 && (flags & (an_hidden | an_invisible)) == 0;
+}
 
 bool isTicked(Widget& widget, Field& field)
 {
@@ -41,20 +49,28 @@ FillMark markOf(Widget& widget, Field& field)
     return style == "8" ? FillMark::Cross : FillMark::Check;
 }
 
-void addMark(PageParts& parts, Widget& widget, Field& field, int turns)
+// Adds the text that an appearance draws; false if it draws none.
+bool addTextOf(AnnotationPage& filling, Widget& widget)
 {
-    if (!isTicked(widget, field)) {
-        return;
-    }
     QPDFObjectHandle appearance = widget.getAppearanceStream("/N");
-    if (appearance.isStream()) {
-        const FillText text = fillTextOf(appearance);
-        if (text.showsText) {
-            parts.addAppearance(widget, text.content, turns);
-            return;
-        }
+    if (!appearance.isStream()) {
+        return false;
     }
-    parts.content += fillMark(markOf(widget, field), widget.getRect());
+    const FillText text = fillTextOf(appearance);
+    if (text.showsText) {
+        QPDFObjectHandle textOnly = appearance.copyStream();
+        const QPDFObjectHandle none = QPDFObjectHandle::newNull();
+        textOnly.replaceStreamData(text.content, none, none);
+        filling.add(widget, textOnly);
+    }
+    return text.showsText;
+}
+
+void addMark(AnnotationPage& filling, Widget& widget, Field& field)
+{
+    if (isTicked(widget, field) && !addTextOf(filling, widget)) {
+        filling.draw(fillMark(markOf(widget, field), widget.getRect()));
+    }
 }
 
 // All chosen values as one text.
@@ -92,51 +108,42 @@ Widget oneLineWidget(Widget& widget, Field& field)
     return Widget(owner != nullptr ? owner->makeIndirectObject(object) : object);
 }
 
-void addText(PageParts& parts, Widget widget, Field field, int turns)
+void addText(AnnotationPage& filling, Widget widget, Field field)
 {
     const bool isListBox = field.isChoice() && (field.getFlags() & ff_ch_combo) == 0;
     const bool isSecret = field.isText() && (field.getFlags() & ff_tx_password) != 0;
-    QPDFObjectHandle appearance = widget.getAppearanceStream("/N");
-    if ((isListBox || !appearance.isStream()) && !isSecret) {
+    const bool hasLook = widget.getAppearanceStream("/N").isStream();
+    if ((isListBox || !hasLook) && !isSecret) {
         // Drawn on the stand-in only: the page itself goes on to look as it does in the file.
         widget = oneLineWidget(widget, field);
         field = Field(widget.getObjectHandle());
         if (!field.getValueAsString().empty()) {
             drawField(field, widget);
         }
-        appearance = widget.getAppearanceStream("/N");
     }
-    if (appearance.isStream()) {
-        const FillText text = fillTextOf(appearance);
-        if (text.showsText) {
-            parts.addAppearance(widget, text.content, turns);
-        }
-    }
+    addTextOf(filling, widget);
 }
 
-void addField(PageParts& parts, Widget widget, Field field, int turns)
+void addField(AnnotationPage& filling, Widget widget, Field field)
 {
     if (field.isCheckbox() || field.isRadioButton()) {
-        addMark(parts, widget, field, turns);
+        addMark(filling, widget, field);
     } else if (field.isText() || field.isChoice()) {
-        addText(parts, widget, field, turns);
+        addText(filling, widget, field);
     }
 }
 
 } // namespace
 
-PageParts fillParts(PdfSource& source, int page)
+void addFilling(AnnotationPage& filling, PdfSource& source, int page)
 {
-    PageParts parts;
-    const int turns = source.pageBox(page).turns;
     const QPDFPageObjectHelper helper(source.page(page));
     for (const Widget& widget : source.form().getWidgetAnnotationsForPage(helper)) {
         const Field field = source.form().getFieldForAnnotation(widget);
         if (isPrinted(widget)) {
-            addField(parts, widget, field, turns);
+            addField(filling, widget, field);
         }
     }
-    return parts;
 }
 
 } // namespace SampleHost

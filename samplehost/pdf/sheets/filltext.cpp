@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/pdf/filltext.h"
+#include "samplehost/pdf/sheets/filltext.h"
 
 #include <qpdf/QPDFTokenizer.hh>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/pdf/pdfsource.h"
+#include "samplehost/pdf/sheets/pdfsource.h"
 
 #include <qpdf/QPDFPageObjectHelper.hh>
 
@@ -65,6 +65,11 @@ qreal unitOf(QPDFObjectHandle page, const QRectF& visible)
 }
 
 } // namespace
+
+QPDFObjectHandle::Rectangle rectangle(const QRectF& rect)
+{
+    return {rect.left(), rect.top(), rect.right(), rect.bottom()};
+}
 
 void drawField(QPDFFormFieldObjectHelper field, QPDFAnnotationObjectHelper widget)
 {
@@ -164,7 +169,9 @@ PageBox PdfSource::pageBox(int page) const
 QPDFObjectHandle PdfSource::catalogEntry(const std::string& key)
 {
     QPDFObjectHandle catalog = m_pdf.getRoot();
-    return catalog.isDictionary() ? catalog.getKey(key) : QPDFObjectHandle::newNull();
+    QPDFObjectHandle entry =
+        catalog.isDictionary() ? catalog.getKey(key) : QPDFObjectHandle::newNull();
+    return entry.isNull() || entry.isIndirect() ? entry : m_pdf.makeIndirectObject(entry);
 }
 
 } // namespace SampleHost
