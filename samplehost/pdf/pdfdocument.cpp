@@ -80,7 +80,7 @@ bool PdfDocument::show(const QString& path, QString& problem)
     }
 }
 
-// Before it is shown: Qt's renderer never comes back from pages that contain each other.
+// Before it is shown: Qt's renderer never returns from pages that contain each other.
 bool PdfDocument::readObjects(const QString& path, QString& problem)
 {
     try {
@@ -158,7 +158,7 @@ QImage PdfDocument::render(int page, const QSize& size) const
 {
     const bool usable = page >= 0 && page < pageCount() && !size.isEmpty() &&
                         std::max(size.width(), size.height()) <= longestSide;
-    // Qt's renderer never comes back from a file that became shorter.
+    // Qt's renderer never returns from a file that became shorter.
     if (!usable || !m_source->isIntact()) {
         return QImage();
     }

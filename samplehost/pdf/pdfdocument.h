@@ -21,7 +21,7 @@ class PdfSource;
 /**
  * A PDF file that is shown and printed. Pages are 0-based here.
  *
- * A print job keeps what it needs of the document, which may be closed, opened anew or destroyed
+ * A print job keeps what it needs of the document, which may be closed, opened again or destroyed
  * while the job runs.
  */
 class PdfDocument

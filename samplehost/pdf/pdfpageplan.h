@@ -13,7 +13,7 @@ namespace SampleHost {
 
 /**
  * Which page of a document goes on which sheet: the pages in the order asked for, repetitions kept,
- * and the whole of it again for every copy. Answered by arithmetic, however many sheets there are.
+ * and the whole of it again for every copy. Computed, so that the number of sheets does not matter.
  */
 class PdfPagePlan
 {

@@ -36,7 +36,7 @@ std::unique_ptr<PrintJob> makePdfPrinterJob(const PdfDocument& document,
 
 /**
  * The sheet of a 0-based page as the request's options (paper, fit to page, 180 degrees, form fill)
- * make it, as large as fits into bounds in pixels. Which pages the request names is of no matter.
+ * make it, as large as fits into bounds in pixels. The pages that the request names are ignored.
  * A null image for no such page, a damaged page and empty bounds.
  */
 QImage previewPdfSheet(const PdfDocument& document, const PdfPrintRequest& request, int page,

@@ -15,8 +15,8 @@
 namespace SampleHost {
 
 /**
- * A 0-based page on white, stretched to size in pixels. A null image if there is not the memory for
- * it.
+ * A 0-based page on white, stretched to size in pixels. A null image if there is not enough
+ * memory.
  */
 QImage renderPage(QPdfDocument& document, int page, const QSize& size);
 
@@ -36,7 +36,7 @@ public:
     /** The place of a 0-based band in pixels of the sheet. */
     QRect bandRect(int band) const { return m_bands.at(band); }
 
-    /** The picture of a 0-based band. A null image if there is not the memory for it. */
+    /** The picture of a 0-based band. A null image if there is not enough memory. */
     QImage band(int band);
 
 private:

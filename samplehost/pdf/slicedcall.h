@@ -21,7 +21,7 @@ namespace SampleHost {
 class SlicedCall
 {
 public:
-    /** The call itself is told the object to call pauseIfDue() of. */
+    /** The call, which is passed the object that runs it. */
     using Function = std::function<void(SlicedCall&)>;
 
     /** Prepares a call; it starts with the first slice. */
@@ -30,10 +30,10 @@ public:
     /** Ends a call that has not ended: its pauseIfDue() throws. */
     ~SlicedCall();
 
-    /** Goes on with the call for a while. True once it has ended; throws what the call threw. */
+    /** Continues the call. True once it has ended; throws what the call threw. */
     bool runSlice();
 
-    /** For the call, every now and then: waits for the next slice when this one is over. */
+    /** To be called often by the call: waits for the next slice if this one is over. */
     void pauseIfDue();
 
 private:

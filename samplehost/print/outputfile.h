@@ -28,7 +28,8 @@ public:
     explicit OutputFile(const QString& path);
     ~OutputFile();
 
-    /** Opens the file; the device stays this object's own. Null with the reason in problem. */
+    /** Opens the file and returns its device, which this object owns. Null with the reason in
+     * problem. */
     QIODevice* open(QString& problem);
 
     /** Whether everything written so far arrived; if not, the reason is in problem. */
@@ -37,7 +38,7 @@ public:
     /** Gives the complete file its name. False with the reason in problem if that failed. */
     bool commit(QString& problem);
 
-    /** Gives the file up; again does no harm. */
+    /** Discards the file; does nothing when called again. */
     void discard();
 
     /** The absolute path as the user's system writes it. */

@@ -11,7 +11,7 @@ namespace SampleHost {
 
 namespace {
 
-// Long enough to get on with the work, short enough for a button to feel alive.
+// Long enough to make progress, short enough for buttons to respond.
 constexpr qint64 sliceMilliseconds = 25;
 
 } // namespace
@@ -69,7 +69,7 @@ void PrintJob::runSlice()
         fail(problem);
         return;
     }
-    // Whoever heard of the progress may have cancelled the job.
+    // A receiver of progressChanged() may have cancelled the job.
     if (m_state == State::Running && m_pagesDone == pageCount()) {
         complete();
     }

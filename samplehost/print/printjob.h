@@ -19,7 +19,7 @@ namespace SampleHost {
 
 /**
  * Carries out print work, some pages at a time between the events of the GUI thread, so that
- * progress is seen and cancel() heard. It runs once.
+ * the user sees the progress and can cancel it. It runs once.
  */
 class PrintJob : public QObject
 {

@@ -48,8 +48,8 @@ public:
     virtual Completion complete(QString& problem) = 0;
 
     /**
-     * Discards the output; again does no harm. Returns false when pages that were already printed
-     * may come out all the same, which some printing systems cannot prevent.
+     * Discards the output; does nothing when called again. Returns false when pages that were
+     * already printed may come out all the same, which some printing systems cannot prevent.
      */
     virtual bool cancel() = 0;
 

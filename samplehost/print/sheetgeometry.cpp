@@ -41,7 +41,7 @@ void SheetGeometry::fitLabelsOnPaper(bool bare, const QSizeF& paperMm)
     // A label that is exactly as large as the paper may use all of it.
     const bool fillsPaper =
         bare && m_label.width() <= paperMm.width() && m_label.height() <= paperMm.height();
-    // Paper that is too small for margins gives them up rather than the labels.
+    // On paper that is too small for margins the labels come first.
     const qreal shortest = std::min(paperMm.width(), paperMm.height());
     const qreal margin = fillsPaper ? 0.0 : std::min(marginMm, shortest / 10);
     const qreal gap = std::min(gapMm, shortest / 10 / NupLayout::maximumSide);

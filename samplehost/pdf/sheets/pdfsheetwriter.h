@@ -20,7 +20,7 @@ namespace SampleHost {
 
 class PdfSource;
 
-/** What of a page comes on its sheet. */
+/** What is printed of a page. */
 enum class SheetContents {
     WholePage,
     FillOnly ///< Only what is filled in the form fields.

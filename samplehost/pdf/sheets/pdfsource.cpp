@@ -14,7 +14,7 @@ namespace SampleHost {
 
 namespace {
 
-// Ten times what a PDF viewer has to support, and enough to tell a page from nonsense.
+// Ten times what a PDF viewer has to support; a larger page is an error in the file.
 constexpr qreal largestSide = 144000;
 
 QRectF boxOf(QPDFObjectHandle page, const std::string& key)

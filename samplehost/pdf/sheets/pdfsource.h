@@ -47,7 +47,7 @@ public:
     /** Whether there is a form field that something can be filled into. */
     bool hasFormFields();
 
-    /** The visible part of a page; one that states nonsense counts as US Letter. Never throws. */
+    /** The visible part of a page; an unusable one counts as US Letter. Never throws. */
     PageBox pageBox(int page) const;
 
     /** The object of a page. Throws when the file is not intact any more. */

@@ -14,9 +14,10 @@ namespace SampleHost {
 /** What decides where a page of a document lies on its sheet. Sizes are in points (1/72 inch). */
 struct SheetOptions
 {
-    /** The paper, held upright or not; empty for sheets as large as their pages. */
+    /** The paper in either orientation; empty for sheets as large as their pages. */
     QSizeF paper;
-    /** The strips along the edges of the sheet, as it lies, that the printer cannot reach. */
+    /** The strips along the edges of the sheet, in its orientation, that the printer cannot reach.
+     */
     QMarginsF unprintable;
     /** Scales the page evenly, up or down, to fill the printable area one way at least. */
     bool fitToPage = false;
@@ -27,16 +28,16 @@ struct SheetOptions
 /**
  * Where a page lies on its sheet.
  *
- * The paper is laid so that page and paper are both upright or both lying. A page that is fitted is
- * centred in the printable area; otherwise it keeps its size and is centred on the sheet, and what
- * reaches beyond the edges is lost evenly on both sides.
+ * The paper is turned so that page and paper are both portrait or both landscape. A page that is
+ * fitted is centred in the printable area; otherwise it keeps its size and is centred on the sheet,
+ * and what reaches beyond the edges is lost evenly on both sides.
  */
 class SheetLayout
 {
 public:
     SheetLayout(const PageBox& page, const SheetOptions& options);
 
-    /** Whether the paper has to lie the other way than it was given. */
+    /** Whether the paper has to be turned by 90 degrees. */
     static bool turnsPaper(const PageBox& page, const QSizeF& paper);
 
     /** The size of the sheet in points. */
