@@ -4,11 +4,12 @@
 #include "samplehost/pdf/sheets/pdfsheetwriter.h"
 
 #include "samplehost/pdf/sheets/annotationpage.h"
+#include "samplehost/pdf/sheets/devicepipeline.h"
 #include "samplehost/pdf/sheets/formfilling.h"
 #include "samplehost/pdf/sheets/pageform.h"
+#include "samplehost/pdf/sheets/pageupdate.h"
 #include "samplehost/pdf/sheets/pdfsource.h"
 
-#include <qpdf/Pipeline.hh>
 #include <qpdf/QPDFMatrix.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
@@ -16,41 +17,12 @@
 #include <qpdf/QUtil.hh>
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QIODevice>
 
 #include <stdexcept>
 
 namespace SampleHost {
 
 namespace {
-
-constexpr qint64 sheetsInNode = 256;
-
-/** Takes what is written to a device. */
-class DevicePipeline : public Pipeline
-{
-public:
-    DevicePipeline(QIODevice& device, const std::function<void()>& afterPart)
-        : Pipeline("device", nullptr), m_device(device), m_afterPart(afterPart)
-    {
-    }
-
-    void write(unsigned char const* data, size_t length) override
-    {
-        if (m_device.write(reinterpret_cast<const char*>(data), qint64(length)) != qint64(length)) {
-            throw std::runtime_error("the device cannot be written");
-        }
-        if (m_afterPart) {
-            m_afterPart();
-        }
-    }
-
-    void finish() override {}
-
-private:
-    QIODevice& m_device;
-    const std::function<void()>& m_afterPart;
-};
 
 QPDFObjectHandle unicode(const QString& text)
 {
@@ -67,6 +39,11 @@ std::string placing(const QTransform& place, const QRectF& box)
         text += ' ' + QUtil::double_to_string(number);
     }
     return text + " re W n\n";
+}
+
+QPDFObjectHandle mediaBox(const QRectF& sheet)
+{
+    return QPDFObjectHandle::newArray(rectangle(sheet));
 }
 
 } // namespace
@@ -100,7 +77,7 @@ QPDFObjectHandle PdfSheetWriter::copiedAnnotations(int page)
     return QPDFPageObjectHelper(copy).getFormXObjectForPage(false);
 }
 
-PdfSheetWriter::Sheet PdfSheetWriter::makeSheet(int page)
+QPDFObjectHandle PdfSheetWriter::makeSheet(int page)
 {
     const PageBox pageBox = m_source.pageBox(page);
     const SheetLayout layout(pageBox, m_options);
@@ -115,71 +92,47 @@ PdfSheetWriter::Sheet PdfSheetWriter::makeSheet(int page)
         forms.replaceKey("/Annotations", annotations);
         content += "/Annotations Do\n";
     }
-    const QRectF whole(QPointF(), layout.sheetSize());
-    return {layout.sheetSize(),
-            m_document.makeIndirectObject(QPDFObjectHandle::newArray(rectangle(whole))),
-            m_document.makeIndirectObject(QPDFObjectHandle::newDictionary({{"/XObject", forms}})),
-            m_document.newStream(content + "Q\n")};
+    QPDFObjectHandle resources = QPDFObjectHandle::newDictionary({{"/XObject", forms}});
+    return QPDFObjectHandle::newDictionary({
+        {"/Type", QPDFObjectHandle::newName("/Page")},
+        {"/MediaBox", mediaBox(QRectF(QPointF(), layout.sheetSize()))},
+        {"/Resources", m_document.makeIndirectObject(resources)},
+        {"/Contents", m_document.newStream(content + "Q\n")},
+    });
 }
 
-const PdfSheetWriter::Sheet& PdfSheetWriter::sheet(int page)
+PdfSheetWriter::Sheet& PdfSheetWriter::sheet(int page)
 {
-    auto made = m_made.constFind(page);
-    if (made == m_made.constEnd()) {
-        made = m_made.insert(page, makeSheet(page));
+    auto sheet = m_sheets.find(page);
+    if (sheet == m_sheets.end()) {
+        sheet = m_sheets.insert(page, {makeSheet(page)});
     }
-    return *made;
+    return *sheet;
+}
+
+int PdfSheetWriter::append(const QPDFObjectHandle& object)
+{
+    m_objects.push_back(object);
+    return int(m_objects.size()) - 1;
 }
 
 void PdfSheetWriter::addSheet(int page)
 {
-    const Sheet& made = sheet(page);
-    add(made, made.mediaBox);
+    Sheet& made = sheet(page);
+    if (made.index < 0) {
+        made.index = append(made.object);
+    }
+    m_order.push_back(made.index);
 }
 
 void PdfSheetWriter::addSheetPart(int page, const QRectF& part)
 {
-    const Sheet& made = sheet(page);
     // From the lower left corner, y up.
-    const QRectF box(part.left(), made.size.height() - part.bottom(), part.width(), part.height());
-    add(made, QPDFObjectHandle::newArray(rectangle(box)));
-}
-
-void PdfSheetWriter::add(const Sheet& sheet, const QPDFObjectHandle& mediaBox)
-{
-    QPDFObjectHandle node = nextNode();
-    node.getKey("/Kids").appendItem(m_document.makeIndirectObject(QPDFObjectHandle::newDictionary({
-        {"/Type", QPDFObjectHandle::newName("/Page")},
-        {"/Parent", node},
-        {"/MediaBox", mediaBox},
-        {"/Resources", sheet.resources},
-        {"/Contents", sheet.content},
-    })));
-    ++m_sheets;
-}
-
-QPDFObjectHandle PdfSheetWriter::nextNode()
-{
-    if (m_sheets % sheetsInNode == 0) {
-        m_nodes.push_back(m_document.makeIndirectObject(QPDFObjectHandle::newDictionary({
-            {"/Type", QPDFObjectHandle::newName("/Pages")},
-            {"/Parent", m_document.getRoot().getKey("/Pages")},
-            {"/Kids", QPDFObjectHandle::newArray()},
-        })));
-    }
-    return m_nodes.back();
-}
-
-// Adding page by page, which checks each of them, would take half as long again in all.
-void PdfSheetWriter::finishPageTree()
-{
-    for (QPDFObjectHandle& node : m_nodes) {
-        node.replaceKey("/Count",
-                        QPDFObjectHandle::newInteger(node.getKey("/Kids").getArrayNItems()));
-    }
-    QPDFObjectHandle root = m_document.getRoot().getKey("/Pages");
-    root.replaceKey("/Kids", QPDFObjectHandle::newArray(m_nodes));
-    root.replaceKey("/Count", QPDFObjectHandle::newInteger(m_sheets));
+    const QSizeF size = SheetLayout(m_source.pageBox(page), m_options).sheetSize();
+    const QRectF box(part.left(), size.height() - part.bottom(), part.width(), part.height());
+    QPDFObjectHandle object = sheet(page).object.shallowCopy();
+    object.replaceKey("/MediaBox", mediaBox(box));
+    m_order.push_back(append(object));
 }
 
 void PdfSheetWriter::copyCatalogEntries()
@@ -207,15 +160,20 @@ void PdfSheetWriter::setInfo(const QString& title)
 void PdfSheetWriter::write(QIODevice& device, const QString& title,
                            const std::function<void()>& afterPart)
 {
-    finishPageTree();
+    for (const QPDFObjectHandle& object : m_objects) {
+        m_document.addPage(object, false);
+    }
     copyCatalogEntries();
     setInfo(title);
-    DevicePipeline output(device, afterPart);
+    DevicePipeline file(device, afterPart);
     QPDFWriter writer(m_document);
-    writer.setOutputPipeline(&output);
+    writer.setOutputPipeline(&file);
     writer.setMinimumPDFVersion("1.7");
     writer.setDecodeLevel(qpdf_dl_none);
     writer.write();
+    if (m_order.size() > m_objects.size()) {
+        PageUpdate(file, writer, m_document).write(m_order);
+    }
     if (!m_source.isIntact()) {
         throw std::runtime_error("the file has changed");
     }

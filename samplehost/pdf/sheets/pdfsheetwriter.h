@@ -51,21 +51,18 @@ public:
                const std::function<void()>& afterPart = nullptr);
 
 private:
-    // What all sheets of one page share.
     struct Sheet
     {
-        QSizeF size;
-        QPDFObjectHandle mediaBox;
-        QPDFObjectHandle resources;
-        QPDFObjectHandle content;
+        // A page object.
+        QPDFObjectHandle object;
+        // Its index in m_objects, or -1.
+        int index = -1;
     };
 
-    const Sheet& sheet(int page);
-    Sheet makeSheet(int page);
+    Sheet& sheet(int page);
+    QPDFObjectHandle makeSheet(int page);
     QPDFObjectHandle copiedAnnotations(int page);
-    void add(const Sheet& sheet, const QPDFObjectHandle& mediaBox);
-    QPDFObjectHandle nextNode();
-    void finishPageTree();
+    int append(const QPDFObjectHandle& object);
     void copyCatalogEntries();
     void setInfo(const QString& title);
 
@@ -73,10 +70,12 @@ private:
     SheetOptions m_options;
     SheetContents m_contents;
     QPDF m_document;
-    QHash<int, Sheet> m_made;
-    // The page tree has one level of nodes, so that none of them lists very many sheets.
-    std::vector<QPDFObjectHandle> m_nodes;
-    qint64 m_sheets = 0;
+    // By their pages.
+    QHash<int, Sheet> m_sheets;
+    // The sheets that differ, in the order of their first appearance.
+    std::vector<QPDFObjectHandle> m_objects;
+    // The index of each sheet in m_objects.
+    std::vector<int> m_order;
 };
 
 } // namespace SampleHost

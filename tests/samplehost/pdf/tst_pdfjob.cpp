@@ -313,7 +313,7 @@ void TestPdfJob::cancelLeavesNothing()
 std::unique_ptr<PrintJob> TestPdfJob::longJob()
 {
     PdfPrintRequest request = range(1, 300);
-    request.copies = 300;
+    request.copies = 999;
     return job(request);
 }
 
