@@ -47,6 +47,7 @@ bool DemoDocument::write(const LabelDesign& design)
         return false;
     }
     PrintRequest request;
+    request.sequenceEnd = count;
     design.complete(request);
     const QRectF paper(QPointF(), QPageSize(QPageSize::A4).size(QPageSize::Millimeter));
     const QRectF place = labelPlace(design.labelSizeMm(request), paper);

@@ -83,19 +83,6 @@ QStringList splitCodes(const QString& text)
     return text.split(separators, Qt::SkipEmptyParts);
 }
 
-Chemical chemicalFrom(const QSqlQuery& query)
-{
-    const auto text = [&query](int column) { return query.value(column).toString().trimmed(); };
-    return {text(0),
-            text(1),
-            text(2),
-            text(3),
-            text(4),
-            splitCodes(text(5)),
-            splitCodes(text(6)),
-            splitCodes(text(7))};
-}
-
 } // namespace
 
 RecordSource::RecordSource(const DataSourceOptions& options)
@@ -238,41 +225,52 @@ int RecordSource::count(QString* error) const
     return static_cast<int>(std::clamp<qint64>(rows, 0, std::numeric_limits<int>::max()));
 }
 
+Chemical RecordSource::chemicalFrom(const QSqlQuery& query)
+{
+    const auto text = [&query](int column) { return query.value(column).toString().trimmed(); };
+    return {text(0),
+            text(1),
+            text(2),
+            text(3),
+            text(4),
+            splitCodes(text(5)),
+            splitCodes(text(6)),
+            splitCodes(text(7))};
+}
+
 std::optional<Chemical> RecordSource::record(int index, QString* error) const
 {
-    if (!ensureOpen(error)) {
-        return std::nullopt;
-    }
     QSqlQuery query(m_database);
-    if (!seekRecord(query, index, error)) {
+    if (!ensureOpen(error) || !select(query, index, 1, error)) {
         return std::nullopt;
     }
     return chemicalFrom(query);
 }
 
-bool RecordSource::seekRecord(QSqlQuery& query, int index, QString* error) const
+bool RecordSource::select(QSqlQuery& query, int first, int count, QString* error) const
 {
     const bool skipsRows = hasLimitClause(m_options.driver);
     QString statement =
         QStringLiteral("SELECT %1 FROM %2 ORDER BY id")
             .arg(chemicalColumns().join(QLatin1String(", ")), escaped(m_database, m_options.table));
     if (skipsRows) {
-        statement += QStringLiteral(" LIMIT 1 OFFSET %1").arg(std::max(0, index));
+        statement += QStringLiteral(" LIMIT %1 OFFSET %2").arg(count).arg(std::max(0, first));
     }
+    query = QSqlQuery(m_database);
     query.setForwardOnly(true);
     if (!run(query, statement, error)) {
         return false;
     }
     // One step leads to the first row of the answer. (QSqlQuery::seek() would do for the rows to be
     // skipped, but crashes on the largest index.)
-    bool found = index >= 0 && query.next();
-    for (int row = 0; found && !skipsRows && row < index; ++row) {
+    bool found = first >= 0 && query.next();
+    for (int row = 0; found && !skipsRows && row < first; ++row) {
         found = query.next();
     }
     if (!found && query.lastError().isValid()) {
         return report(error, explain(query.lastError().text()));
     }
-    return found || report(error, QStringLiteral("There is no record %1.").arg(qint64(index) + 1));
+    return found || report(error, QStringLiteral("There is no record %1.").arg(qint64(first) + 1));
 }
 
 } // namespace SampleHost

@@ -45,9 +45,9 @@ struct DataSourceOptions
 };
 
 /**
- * The records of a database, read afresh at each call. The source never writes to a database that
- * it finds; a SQLite file that does not exist is created from the seed. Needs a QCoreApplication,
- * and is used in the thread that opened it.
+ * The records of a database, read afresh at each call; a RecordReader reads many of them. The
+ * source never writes to a database that it finds; a SQLite file that does not exist is created
+ * from the seed. Needs a QCoreApplication, and is used in the thread that opened it.
  */
 class RecordSource
 {
@@ -85,13 +85,17 @@ public:
     QString description() const;
 
 private:
+    friend class RecordReader;
+
     explicit RecordSource(const DataSourceOptions& options);
 
     void closeReplaced() const;
     bool ensureOpen(QString* error) const;
     bool checkTable(QString* error) const;
     bool run(QSqlQuery& query, const QString& statement, QString* error) const;
-    bool seekRecord(QSqlQuery& query, int index, QString* error) const;
+    // Starts a query for count records from the one at the index first, where it then stands.
+    bool select(QSqlQuery& query, int first, int count, QString* error) const;
+    static Chemical chemicalFrom(const QSqlQuery& query);
     QString explain(const QString& reason) const;
 
     DataSourceOptions m_options;

@@ -3,6 +3,7 @@
 
 #include "samplehost/designs/chemicaldesign.h"
 
+#include "samplehost/data/recordreader.h"
 #include "samplehost/label/catalogpainter.h"
 #include "samplehost/label/labelpainter.h"
 
@@ -12,38 +13,6 @@
 namespace SampleHost {
 
 namespace {
-
-/**
- * Reads records and caches the last one, for copies of a label. An unreadable record is cached,
- * too: with a locked database each attempt takes time, and windows are painted often.
- */
-class RecordReader
-{
-public:
-    RecordReader(std::shared_ptr<const RecordSource> source, const QString& problem)
-        : m_source(std::move(source)), m_problem(problem)
-    {
-    }
-
-    const Chemical* read(int record, QString& problem)
-    {
-        if (m_source != nullptr && record != m_record) {
-            m_chemical = m_source->record(record - 1, &m_problem);
-            m_record = record;
-        }
-        if (!m_chemical) {
-            problem = m_problem;
-            return nullptr;
-        }
-        return &*m_chemical;
-    }
-
-private:
-    std::shared_ptr<const RecordSource> m_source;
-    QString m_problem;
-    std::optional<Chemical> m_chemical;
-    int m_record = 0;
-};
 
 LabelOptions optionsOf(const PrintRequest& request)
 {
@@ -134,15 +103,24 @@ LabelPainter ChemicalDesign::painter(const PrintRequest& request) const
             return true;
         };
     }
-    return [options = optionsOf(request), reader = RecordReader(m_source, m_sourceProblem)](
-               QPainter& painter, const QRectF& area, int record, QString& problem) mutable {
-        const Chemical* chemical = reader.read(record, problem);
-        if (chemical == nullptr) {
+    if (!m_source) {
+        return [reason = m_sourceProblem](QPainter&, const QRectF&, int, QString& problem) {
+            problem = reason;
             return false;
-        }
-        paintLabel(painter, area, *chemical, options);
-        return true;
-    };
+        };
+    }
+    const auto purpose =
+        request.isSingleRecord() ? RecordReader::Purpose::Display : RecordReader::Purpose::Run;
+    return
+        [options = optionsOf(request), reader = std::make_shared<RecordReader>(m_source, purpose)](
+            QPainter& painter, const QRectF& area, int record, QString& problem) {
+            const Chemical* chemical = reader->record(record - 1, problem);
+            if (chemical == nullptr) {
+                return false;
+            }
+            paintLabel(painter, area, *chemical, options);
+            return true;
+        };
 }
 
 } // namespace SampleHost

@@ -70,6 +70,9 @@ struct PrintRequest
     QSizeF paperMm;
     /** Whether each label is turned, so that it is as wide as it was designed high. */
     bool labelTurned = false;
+
+    /** Whether it asks for the one record sequenceStart. */
+    bool isSingleRecord() const { return customRecordsList.isEmpty() && sequenceEnd == -1; }
 };
 
 } // namespace SampleHost

@@ -108,6 +108,8 @@ private Q_SLOTS:
     void emptyTableIsNoFault();
     void reloadKeepsThePosition();
     void reloadWhilePrinting();
+    void databaseIsFreeBeforeAndAfterPrinting();
+    void deletedWhilePrinting();
     void viewKeepsTheReason();
     void program_data();
     void program();
@@ -333,6 +335,38 @@ void TestHostFaultsDatabase::reloadWhilePrinting()
     QVERIFY(!ended.isEmpty() || ended.wait(60000));
     QCOMPARE(ended.at(0).at(0).value<Outcome>(), Outcome::Completed);
     QCOMPARE(pdfPages(host.outputPath()).size(), host.productNames().size() * 3);
+}
+
+void TestHostFaultsDatabase::databaseIsFreeBeforeAndAfterPrinting()
+{
+    FaultHost host;
+    const OtherProgram other(host.path("chemicals.db"));
+    QVERIFY(other.run("PRAGMA busy_timeout = 0"));
+    QVERIFY(host.choose(Printout::Labels));
+    host.click("PreviewButton");
+    QVERIFY(host.labels().preview().popup() != nullptr);
+    host.labels().preview().dismiss();
+    QVERIFY(other.run("UPDATE chemicals SET formula = 'A'"));
+    QCOMPARE(host.print(Printout::Labels), std::optional(Outcome::Completed));
+    QTRY_VERIFY(other.run("UPDATE chemicals SET formula = 'B'"));
+}
+
+void TestHostFaultsDatabase::deletedWhilePrinting()
+{
+    FaultHost host;
+    host.click("allRecordsRadio");
+    host.panel().setNumberOfCopies(20);
+    QSignalSpy ended(&host.labels().controller(), &PrintController::jobEnded);
+    connect(&host.labels().controller(), &PrintController::jobStarted, this,
+            [&host](PrintJob* job) {
+                connect(job, &PrintJob::progressChanged, job,
+                        [&host] { QFile::remove(host.path("chemicals.db")); });
+            });
+    host.click("PrintButton");
+    QVERIFY(!ended.isEmpty() || ended.wait(60000));
+    QCOMPARE(ended.at(0).at(0).value<Outcome>(), Outcome::Failed);
+    QVERIFY(ended.at(0).at(1).toString().endsWith(QStringLiteral("the file does not exist.")));
+    QVERIFY(!QFile::exists(host.outputPath()));
 }
 
 void TestHostFaultsDatabase::viewKeepsTheReason()
