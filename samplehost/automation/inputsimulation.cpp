@@ -36,6 +36,34 @@ void sendKey(QWidget* widget, int key, Qt::KeyboardModifiers modifiers, const QS
     QCoreApplication::sendEvent(widget, &release);
 }
 
+QString textOf(const QWidget* widget)
+{
+    return widget->property("text").toString();
+}
+
+bool isPrintable(const QString& text)
+{
+    return std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.isPrint(); });
+}
+
+// Each change makes the panels read the whole field again, so text is inserted at once if possible.
+// A field refuses it as a whole if it does not accept a part; then the parts are inserted.
+void insertText(QWidget* widget, const QString& text)
+{
+    const QString before = textOf(widget);
+    const bool single = text.size() == 1;
+    // A field ignores a control character that is typed, but not one within a text.
+    if (single || isPrintable(text)) {
+        // Without a key code, a control character is no command.
+        sendKey(widget, Qt::Key_unknown, Qt::NoModifier, text);
+    }
+    if (!single && textOf(widget) == before) {
+        const qsizetype half = text.size() / 2;
+        insertText(widget, text.first(half));
+        insertText(widget, text.sliced(half));
+    }
+}
+
 } // namespace
 
 void processEvents()
@@ -69,9 +97,8 @@ bool type(QWidget* widget, const QString& text)
     widget->setFocus(Qt::MouseFocusReason);
     sendKey(widget, Qt::Key_A, Qt::ControlModifier, QString());
     sendKey(widget, Qt::Key_Delete, Qt::NoModifier, QString());
-    for (const QChar character : text) {
-        // Text fields insert the text; without a key code, a control character is no command.
-        sendKey(widget, Qt::Key_unknown, Qt::NoModifier, QString(character));
+    if (!text.isEmpty()) {
+        insertText(widget, text);
     }
     return true;
 }

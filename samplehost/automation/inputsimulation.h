@@ -24,8 +24,9 @@ void processEvents();
 bool click(QWidget* widget);
 
 /**
- * Replaces the contents of a text field or spin box by typing. Returns false, without a key press,
- * if it is null, hidden or disabled. Which characters are accepted is up to the widget.
+ * Replaces the contents of a text field or spin box with what typing the characters of text one
+ * by one would give, in as few insertions as possible. Returns false, without a key press, if the
+ * widget is null, hidden or disabled. Which characters are accepted is up to the widget.
  */
 bool type(QWidget* widget, const QString& text);
 
