@@ -4,14 +4,12 @@
 #include "samplehost/label/pictogram.h"
 
 #include "samplehost/label/fittedtext.h"
+#include "samplehost/label/svgpicture.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QRegularExpression>
 #include <QtGui/QPainter>
 #include <QtGui/QPolygonF>
-#include <QtSvg/QSvgRenderer>
-
-#include <algorithm>
 
 namespace SampleHost {
 
@@ -22,14 +20,6 @@ const QColor diamondRed(0xdc, 0x0b, 0x0b);
 QString pictureFile(const QString& name)
 {
     return QStringLiteral(":/pictograms/%1.svg").arg(name.toLower());
-}
-
-QRectF squareIn(const QRectF& area)
-{
-    const qreal side = std::min(area.width(), area.height());
-    QRectF square(0, 0, side, side);
-    square.moveCenter(area.center());
-    return square;
 }
 
 void paintNamedDiamond(QPainter& painter, const QRectF& square, const QString& name)
@@ -72,9 +62,7 @@ void paintPictogram(QPainter& painter, const QRectF& area, const QString& name)
         paintNamedDiamond(painter, square, name);
         return;
     }
-    QSvgRenderer picture(pictureFile(name));
-    picture.setAspectRatioMode(Qt::KeepAspectRatio);
-    picture.render(&painter, square);
+    paintSvgPicture(painter, square, pictureFile(name));
 }
 
 } // namespace SampleHost
