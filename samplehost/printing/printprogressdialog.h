@@ -4,21 +4,17 @@
 #ifndef SAMPLEHOST_PRINTPROGRESSDIALOG_H
 #define SAMPLEHOST_PRINTPROGRESSDIALOG_H
 
-#include <QtWidgets/QDialog>
-
-class QLabel;
-class QProgressBar;
-class QPushButton;
+#include <QtWidgets/QProgressDialog>
 
 namespace SampleHost {
 
 class PrintJob;
 
 /**
- * Shows the progress of a job and lets the user cancel it. It is not modal, appears only for jobs
- * that take a moment, and deletes itself when the job ends.
+ * Shows the progress of a job and lets the user cancel it, also by closing the dialog. It is not
+ * modal, appears only for jobs that take a moment, and deletes itself when the job ends.
  */
-class PrintProgressDialog : public QDialog
+class PrintProgressDialog : public QProgressDialog
 {
     Q_OBJECT
 
@@ -29,21 +25,11 @@ public:
     /** Shows the progress of a job that has not ended. */
     explicit PrintProgressDialog(PrintJob& job, QWidget* parent = nullptr);
 
-public Q_SLOTS:
-    /** Closing the dialog cancels the job. */
-    void reject() override;
-
-Q_SIGNALS:
-    /** The user wants the job to stop. */
-    void cancelled();
-
 private:
     void createWidgets();
     void showProgress(qint64 pagesDone, qint64 pageCount);
 
-    QLabel* m_label = nullptr;
     QProgressBar* m_bar = nullptr;
-    QPushButton* m_cancelButton = nullptr;
 };
 
 } // namespace SampleHost

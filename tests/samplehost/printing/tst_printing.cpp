@@ -14,8 +14,13 @@
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QStatusBar>
 
+#include <functional>
+
 using namespace SampleHost;
 using Outcome = PrintJob::Outcome;
+using CloseDialog = std::function<void(PrintProgressDialog&)>;
+
+Q_DECLARE_METATYPE(CloseDialog)
 
 /** Drives the whole host by its widgets and looks at what it printed. */
 class TestPrinting : public StrictTest
@@ -37,6 +42,8 @@ private Q_SLOTS:
     void refusesListsThatNameNothing();
     void disablesButtonsWhilePrinting();
     void cancelLeavesNothing();
+    void closingTheProgressCancels_data();
+    void closingTheProgressCancels();
     void closingTheHostLeavesNothing();
     void unwritableFolderIsExplained();
     void unknownPrinterIsExplained();
@@ -280,6 +287,32 @@ void TestPrinting::cancelLeavesNothing()
     QCOMPARE(m_host->outputFiles(), QStringList());
     QTRY_VERIFY(m_host->window->findChild<PrintProgressDialog*>() == nullptr);
     QVERIFY(m_host->find<QWidget>("PrintButton")->isEnabled());
+}
+
+void TestPrinting::closingTheProgressCancels_data()
+{
+    QTest::addColumn<CloseDialog>("close");
+    QTest::newRow("close") << CloseDialog([](PrintProgressDialog& dialog) { dialog.close(); });
+    QTest::newRow("reject") << CloseDialog([](PrintProgressDialog& dialog) { dialog.reject(); });
+    QTest::newRow("Escape") << CloseDialog(
+        [](PrintProgressDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+}
+
+void TestPrinting::closingTheProgressCancels()
+{
+    QFETCH(CloseDialog, close);
+    m_host->click("allRecordsRadio");
+    m_host->panel().setNumberOfCopies(999);
+    QSignalSpy ended(&m_host->labels().controller(), &PrintController::jobEnded);
+    m_host->click("PrintButton");
+    const QPointer<PrintProgressDialog> dialog = m_host->window->findChild<PrintProgressDialog*>();
+    QVERIFY(dialog != nullptr);
+    QTRY_VERIFY(dialog->isVisible());
+    close(*dialog);
+    QCOMPARE(ended.size(), qsizetype(1));
+    QCOMPARE(ended.at(0).at(0).value<Outcome>(), Outcome::Cancelled);
+    QVERIFY(!dialog->isVisible());
+    QTRY_VERIFY(dialog.isNull());
 }
 
 void TestPrinting::closingTheHostLeavesNothing()
