@@ -8,36 +8,24 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QSettings>
 #include <QtCore/QStandardPaths>
-
-#include <array>
+#include <QtGui/QPageSize>
 
 namespace SampleHost {
 
 namespace {
 
-struct PaperSize
+// Not valid if the labels decide.
+QPageSize pageSizeOf(Paper paper)
 {
-    Paper paper;
-    const char* name;
-    qreal widthMm;
-    qreal heightMm;
-};
-
-constexpr std::array<PaperSize, 3> papers = {{
-    {Paper::LabelSize, QT_TRANSLATE_NOOP("SampleHost::HostSettings", "As large as the labels"), 0,
-     0},
-    {Paper::A4, QT_TRANSLATE_NOOP("SampleHost::HostSettings", "A4"), 210, 297},
-    {Paper::Letter, QT_TRANSLATE_NOOP("SampleHost::HostSettings", "Letter"), 215.9, 279.4},
-}};
-
-const PaperSize& sizeOf(Paper paper)
-{
-    for (const PaperSize& size : papers) {
-        if (size.paper == paper) {
-            return size;
-        }
+    switch (paper) {
+    case Paper::A4:
+        return QPageSize(QPageSize::A4);
+    case Paper::Letter:
+        return QPageSize(QPageSize::Letter);
+    case Paper::LabelSize:
+        break;
     }
-    return papers.front();
+    return QPageSize();
 }
 
 const QString folderKey = QStringLiteral("output/folder");
@@ -57,13 +45,13 @@ bool isSameFile(const QString& path, const QString& other)
 
 QString paperName(Paper paper)
 {
-    return HostSettings::tr(sizeOf(paper).name);
+    const QPageSize size = pageSizeOf(paper);
+    return size.isValid() ? size.key() : HostSettings::tr("As large as the labels");
 }
 
 QSizeF paperSizeMm(Paper paper)
 {
-    const PaperSize& size = sizeOf(paper);
-    return {size.widthMm, size.heightMm};
+    return pageSizeOf(paper).size(QPageSize::Millimeter);
 }
 
 HostSettings::HostSettings(QObject* parent)
