@@ -4,7 +4,6 @@
 #include "samplehost/pages/recordnavigator.h"
 
 #include <QtCore/QSignalBlocker>
-#include <QtGui/QPainter>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QSpinBox>
@@ -17,36 +16,6 @@ namespace SampleHost {
 namespace {
 
 constexpr int iconSide = 16;
-
-/** A triangle that points to the left or the right, with a bar for the first or last item. */
-QPixmap arrowPixmap(const QColor& color, bool toRight, bool toEnd)
-{
-    constexpr int scale = 2;
-    QPixmap pixmap(iconSide * scale, iconSide * scale);
-    pixmap.setDevicePixelRatio(scale);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    if (!toRight) {
-        painter.translate(iconSide, 0);
-        painter.scale(-1, 1);
-    }
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(color);
-    const qreal left = toEnd ? 2.5 : 4.5;
-    painter.drawPolygon(QPolygonF({{left, 2.5}, {left + 8.5, 8}, {left, 13.5}}));
-    if (toEnd) {
-        painter.drawRect(QRectF(11, 2.5, 2.5, 11));
-    }
-    return pixmap;
-}
-
-QIcon arrowIcon(bool toRight, bool toEnd)
-{
-    QIcon icon(arrowPixmap(QColor(0x46, 0x46, 0x46), toRight, toEnd));
-    icon.addPixmap(arrowPixmap(QColor(0xb8, 0xb8, 0xb8), toRight, toEnd), QIcon::Disabled);
-    return icon;
-}
 
 } // namespace
 
@@ -70,10 +39,11 @@ void RecordNavigator::createWidgets(Items items)
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(6);
     row->addStretch(1);
-    m_firstButton = addButton(QStringLiteral("firstRecordButton"), arrowIcon(false, true),
+    m_firstButton = addButton(QStringLiteral("firstRecordButton"), QStyle::SP_MediaSkipBackward,
                               pages ? tr("First page") : tr("First record"));
-    m_previousButton = addButton(QStringLiteral("previousRecordButton"), arrowIcon(false, false),
-                                 pages ? tr("Previous page") : tr("Previous record"));
+    m_previousButton =
+        addButton(QStringLiteral("previousRecordButton"), QStyle::SP_MediaSeekBackward,
+                  pages ? tr("Previous page") : tr("Previous record"));
     m_numberBox = new QSpinBox;
     m_numberBox->setObjectName(QStringLiteral("recordNumberBox"));
     m_numberBox->setButtonSymbols(QAbstractSpinBox::NoButtons);
@@ -84,19 +54,19 @@ void RecordNavigator::createWidgets(Items items)
     m_countLabel = new QLabel;
     m_countLabel->setObjectName(QStringLiteral("recordCountLabel"));
     row->addWidget(m_countLabel);
-    m_nextButton = addButton(QStringLiteral("nextRecordButton"), arrowIcon(true, false),
+    m_nextButton = addButton(QStringLiteral("nextRecordButton"), QStyle::SP_MediaSeekForward,
                              pages ? tr("Next page") : tr("Next record"));
-    m_lastButton = addButton(QStringLiteral("lastRecordButton"), arrowIcon(true, true),
+    m_lastButton = addButton(QStringLiteral("lastRecordButton"), QStyle::SP_MediaSkipForward,
                              pages ? tr("Last page") : tr("Last record"));
     row->addStretch(1);
 }
 
-QToolButton* RecordNavigator::addButton(const QString& name, const QIcon& icon,
+QToolButton* RecordNavigator::addButton(const QString& name, QStyle::StandardPixmap icon,
                                         const QString& toolTip)
 {
     auto* button = new QToolButton;
     button->setObjectName(name);
-    button->setIcon(icon);
+    button->setIcon(style()->standardIcon(icon));
     button->setIconSize(QSize(iconSide, iconSide));
     button->setToolTip(toolTip);
     button->setAccessibleName(toolTip);

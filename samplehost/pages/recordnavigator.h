@@ -4,9 +4,9 @@
 #ifndef SAMPLEHOST_RECORDNAVIGATOR_H
 #define SAMPLEHOST_RECORDNAVIGATOR_H
 
+#include <QtWidgets/QStyle>
 #include <QtWidgets/QWidget>
 
-class QIcon;
 class QLabel;
 class QSpinBox;
 class QToolButton;
@@ -46,7 +46,8 @@ Q_SIGNALS:
     void currentIndexChanged(int index);
 
 private:
-    QToolButton* addButton(const QString& name, const QIcon& icon, const QString& toolTip);
+    QToolButton* addButton(const QString& name, QStyle::StandardPixmap icon,
+                           const QString& toolTip);
     void createWidgets(Items items);
     void showPosition();
 
