@@ -10,32 +10,39 @@
 namespace SampleHost {
 
 /**
- * A queue of a printing system that has the commands lp and lpstat. They tell what QPrinter does
- * not: whether the queue takes jobs at all, and whether it took this one.
+ * A CUPS queue. It tells what QPrinter does not: whether the queue accepts jobs, and whether it
+ * accepted this one.
  */
 class PrintQueue
 {
     Q_DECLARE_TR_FUNCTIONS(PrintQueue)
 
 public:
-    /** The queue of the printer of that name, as QPrinterInfo has it. */
-    explicit PrintQueue(const QString& printerName);
+    /**
+     * The queue of the printer of that name, as QPrinterInfo has it. The timeout of submit() is in
+     * milliseconds.
+     */
+    explicit PrintQueue(const QString& printerName, int submitTimeout = 60000)
+        : m_printerName(printerName), m_submitTimeout(submitTimeout)
+    {
+    }
 
-    /** Whether this system has the commands. Without them nothing below works. */
+    /** Whether this is a build with CUPS. If not, the other functions return false. */
     static bool isSupported();
 
-    /** Whether the queue refuses jobs; false also when nobody answers. */
+    /** Whether the queue refuses jobs; false also if the server does not respond in 5 seconds. */
     bool refusesJobs() const;
 
     /**
-     * Hands a PDF file over as one job of that title on paper of that name, which may be empty.
-     * Waits for the answer, though not for ever. False with the reason in problem.
+     * Submits a PDF file as one job of that title on paper of that name, both of which may be
+     * empty, and waits for the response. False with the reason in problem.
      */
     bool submit(const QString& file, const QString& title, const QString& paper,
                 QString& problem) const;
 
 private:
     QString m_printerName;
+    int m_submitTimeout;
 };
 
 } // namespace SampleHost

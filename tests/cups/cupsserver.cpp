@@ -53,7 +53,7 @@ QString CupsServer::whyUnavailable()
     if (::geteuid() != 0) {
         return QStringLiteral("cups-pdf prints for root's server only, and this is not root");
     }
-    for (const char* program : {"cupsd", "lpadmin", "lp", "lpstat", "cupsdisable", "cupsreject"}) {
+    for (const char* program : {"cupsd", "lpadmin", "lpstat", "cupsdisable", "cupsreject"}) {
         if (programPath(program).isEmpty()) {
             return QStringLiteral("there is no %1").arg(QString::fromLatin1(program));
         }
