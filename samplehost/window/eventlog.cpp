@@ -3,12 +3,10 @@
 
 #include "samplehost/window/eventlog.h"
 
-#include <printpanels/multipageprintwidget.h>
-#include <printpanels/printpreviewdialog.h>
-#include <printpanels/printwidget.h>
-#include <printpanels/quickprintwidget.h>
-
+#include <QtCore/QMetaMethod>
+#include <QtCore/QSizeF>
 #include <QtCore/QTime>
+#include <QtWidgets/QDialog>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
@@ -17,49 +15,66 @@ namespace SampleHost {
 
 namespace {
 
-QString toText(int value)
+QString toText(const QVariant& value)
 {
-    return QString::number(value);
-}
-
-QString toText(double value)
-{
-    return QString::number(value, 'g', 12);
-}
-
-QString toText(bool value)
-{
-    return value ? QStringLiteral("true") : QStringLiteral("false");
-}
-
-QString toText(const QString& text)
-{
-    return QLatin1Char('"') + text + QLatin1Char('"');
-}
-
-QString toText(const QSizeF& size)
-{
-    return toText(size.width()) + QStringLiteral(" x ") + toText(size.height());
-}
-
-QString toText(const QStringList& texts)
-{
-    QStringList parts;
-    for (const QString& text : texts) {
-        parts.append(toText(text));
+    switch (value.typeId()) {
+    case QMetaType::Double:
+        return QString::number(value.toDouble(), 'g', 12);
+    case QMetaType::QString:
+        return QLatin1Char('"') + value.toString() + QLatin1Char('"');
+    case QMetaType::QSizeF:
+        return toText(value.toSizeF().width()) + QStringLiteral(" x ") +
+               toText(value.toSizeF().height());
+    case QMetaType::QStringList: {
+        QStringList parts;
+        for (const QString& text : value.toStringList()) {
+            parts.append(toText(text));
+        }
+        return QLatin1Char('[') + parts.join(QStringLiteral(", ")) + QLatin1Char(']');
     }
-    return QLatin1Char('[') + parts.join(QStringLiteral(", ")) + QLatin1Char(']');
+    default:
+        return value.toString();
+    }
 }
 
-/** A slot for any arguments that adds "panel: signal(arguments)" to the log. */
-auto logger(EventLog* log, const QString& panel, const char* signal)
+/** Receives signals with any arguments, which a slot that moc knows cannot. */
+class SignalReceiver : public QObject
 {
-    const QString head = panel + QStringLiteral(": ") + QLatin1String(signal);
-    return [log, head](const auto&... arguments) {
-        const QStringList parts{toText(arguments)...};
-        log->add(head + QLatin1Char('(') + parts.join(QStringLiteral(", ")) + QLatin1Char(')'));
-    };
-}
+public:
+    SignalReceiver(const QObject& sender, int firstMethod, const QString& name, EventLog& log)
+        : QObject(&log), m_name(name), m_log(log)
+    {
+        const int ownMethods = QObject::staticMetaObject.methodCount();
+        for (int i = firstMethod; i < sender.metaObject()->methodCount(); ++i) {
+            const QMetaMethod method = sender.metaObject()->method(i);
+            if (method.methodType() == QMetaMethod::Signal) {
+                QMetaObject::connect(&sender, i, this, ownMethods + int(m_signals.size()));
+                m_signals.append(method);
+            }
+        }
+    }
+
+    int qt_metacall(QMetaObject::Call call, int id, void** arguments) override
+    {
+        id = QObject::qt_metacall(call, id, arguments);
+        if (call != QMetaObject::InvokeMetaMethod || id < 0 || id >= m_signals.size()) {
+            return id;
+        }
+        const QMetaMethod& signal = m_signals.at(id);
+        QStringList parts;
+        for (int i = 0; i < signal.parameterCount(); ++i) {
+            parts.append(toText(QVariant(signal.parameterMetaType(i), arguments[i + 1])));
+        }
+        m_log.add(m_name + QStringLiteral(": ") + QString::fromLatin1(signal.name()) +
+                  QLatin1Char('(') + parts.join(QStringLiteral(", ")) + QLatin1Char(')'));
+        return -1;
+    }
+
+private:
+    QString m_name;
+    EventLog& m_log;
+    QList<QMetaMethod> m_signals;
+};
 
 } // namespace
 
@@ -81,71 +96,11 @@ EventLog::EventLog(QWidget* parent) : QWidget(parent)
     connect(clearButton, &QPushButton::clicked, this, &EventLog::clear);
 }
 
-void EventLog::watch(PrintWidget& panel, const QString& name)
+void EventLog::watch(const QWidget& panel, const QString& name)
 {
-    watchRequests(panel, name);
-    watchSupply(panel, name);
-    connect(&panel, &PrintWidget::ammoniaPrintTagChanged, this,
-            logger(this, name, "ammoniaPrintTagChanged"));
-    connect(&panel, &PrintWidget::testPrintError, this, logger(this, name, "testPrintError"));
-}
-
-void EventLog::watch(MultiPagePrintWidget& panel, const QString& name)
-{
-    using Panel = MultiPagePrintWidget;
-    watchRequests(panel, name);
-    watchSupply(panel, name);
-    connect(&panel, &Panel::printFormFillChangedSignal, this,
-            logger(this, name, "printFormFillChangedSignal"));
-    connect(&panel, &Panel::fitToPageChangedSignal, this,
-            logger(this, name, "fitToPageChangedSignal"));
-    connect(&panel, &Panel::startPageChangedSignal, this,
-            logger(this, name, "startPageChangedSignal"));
-    connect(&panel, &Panel::orientationChangedSignal, this,
-            logger(this, name, "orientationChangedSignal"));
-}
-
-void EventLog::watch(QuickPrintWidget& panel, const QString& name)
-{
-    watchRequests(panel, name);
-    watchSupply(panel, name);
-    connect(&panel, &QuickPrintWidget::resizeSignal, this, logger(this, name, "resizeSignal"));
-}
-
-void EventLog::watch(PrintPreviewDialog& preview, const QString& name)
-{
-    using Preview = PrintPreviewDialog;
-    connect(&preview, &Preview::previewPrintSignal, this, logger(this, name, "previewPrintSignal"));
-    connect(&preview, &Preview::orientationChangedSignal, this,
-            logger(this, name, "orientationChangedSignal"));
-    connect(&preview, &Preview::popupHideSignal, this, logger(this, name, "popupHideSignal"));
-}
-
-void EventLog::watchRequests(PrintWidgetInterface& panel, const QString& name)
-{
-    connect(&panel, &PrintWidgetInterface::widgetPrintSignal, this,
-            logger(this, name, "widgetPrintSignal"));
-    connect(&panel, &PrintWidgetInterface::printPreviewSignal, this,
-            logger(this, name, "printPreviewSignal"));
-    connect(&panel, &PrintWidgetInterface::openPreferencesSignal, this,
-            logger(this, name, "openPreferencesSignal"));
-    connect(&panel, &PrintWidgetInterface::currentPrinterSelectionChanged, this,
-            logger(this, name, "currentPrinterSelectionChanged"));
-    connect(&panel, &PrintWidgetInterface::openModuleSignal, this,
-            logger(this, name, "openModuleSignal"));
-    connect(&panel, &PrintWidgetInterface::focusLost, this, logger(this, name, "focusLost"));
-    connect(&panel, &PrintWidgetInterface::printWidgetShowSignal, this,
-            logger(this, name, "printWidgetShowSignal"));
-}
-
-void EventLog::watchSupply(PrintWidgetInterface& panel, const QString& name)
-{
-    connect(&panel, &PrintWidgetInterface::supplyWidthChangedSignal, this,
-            logger(this, name, "supplyWidthChangedSignal"));
-    connect(&panel, &PrintWidgetInterface::supplyColorsChangedSignal, this,
-            logger(this, name, "supplyColorsChangedSignal"));
-    connect(&panel, &PrintWidgetInterface::tinyLadderSupplyChangedSignal, this,
-            logger(this, name, "tinyLadderSupplyChangedSignal"));
+    const bool isDialog = qobject_cast<const QDialog*>(&panel) != nullptr;
+    const QMetaObject& base = isDialog ? QDialog::staticMetaObject : QWidget::staticMetaObject;
+    new SignalReceiver(panel, base.methodCount(), name, *this);
 }
 
 QStringList EventLog::lines() const

@@ -9,12 +9,6 @@
 
 class QListWidget;
 
-class MultiPagePrintWidget;
-class PrintPreviewDialog;
-class PrintWidget;
-class PrintWidgetInterface;
-class QuickPrintWidget;
-
 namespace SampleHost {
 
 /** A list of the signals that the panels emitted, newest last. */
@@ -30,16 +24,11 @@ public:
     explicit EventLog(QWidget* parent = nullptr);
 
     /**
-     * Logs every signal of a panel with its arguments from now on, after the given name of the
-     * panel, for example: Labels: widgetPrintSignal(0, 0, "1,4-5").
+     * Logs every signal of a panel or preview, without those of Qt's base classes, with its
+     * arguments from now on, after the given name. For example:
+     * Labels: widgetPrintSignal(0, 0, "1,4-5").
      */
-    void watch(PrintWidget& panel, const QString& name);
-    /** Logs the signals of a multi-page panel. */
-    void watch(MultiPagePrintWidget& panel, const QString& name);
-    /** Logs the signals of a quick print panel. */
-    void watch(QuickPrintWidget& panel, const QString& name);
-    /** Logs the signals of a preview. */
-    void watch(PrintPreviewDialog& preview, const QString& name);
+    void watch(const QWidget& panel, const QString& name);
 
     /** The lines without their times, oldest first. */
     QStringList lines() const;
@@ -52,9 +41,6 @@ public Q_SLOTS:
     void clear();
 
 private:
-    void watchRequests(PrintWidgetInterface& panel, const QString& name);
-    void watchSupply(PrintWidgetInterface& panel, const QString& name);
-
     QListWidget* m_list = nullptr;
 };
 

@@ -3,8 +3,6 @@
 
 #include "samplehost/pdf/sheets/pageupdate.h"
 
-#include "samplehost/pdf/sheets/devicepipeline.h"
-
 #include <qpdf/QUtil.hh>
 
 #include <algorithm>
@@ -23,7 +21,7 @@ std::string reference(int number)
 
 } // namespace
 
-PageUpdate::PageUpdate(DevicePipeline& file, QPDFWriter& writer, QPDF& document)
+PageUpdate::PageUpdate(Pl_Count& file, QPDFWriter& writer, QPDF& document)
     : m_file(file), m_writer(writer), m_document(document)
 {
     for (const auto& [object, entry] : writer.getWrittenXRefTable()) {
@@ -37,8 +35,8 @@ void PageUpdate::write(const std::vector<int>& order)
     const QPDFObjectHandle pages = m_document.getRoot().getKey("/Pages");
     const std::string nodes = writePages(order);
     begin(m_writer.getRenumberedObjGen(pages.getObjGen()).getObj());
-    m_file.write("<< /Type /Pages /Count " + std::to_string(order.size()) + " /Kids [" + nodes +
-                 " ] >>\nendobj\n");
+    m_file.writeString("<< /Type /Pages /Count " + std::to_string(order.size()) + " /Kids [" +
+                       nodes + " ] >>\nendobj\n");
     writeTable();
 }
 
@@ -57,12 +55,12 @@ std::string PageUpdate::writePages(const std::vector<int>& order)
         std::string kids;
         for (std::size_t i = first; i < last; ++i) {
             kids += ' ' + SampleHost::reference(beginNext());
-            m_file.write("<< /Type /Page /Parent " + node + entries.at(std::size_t(order.at(i))) +
-                         " >>\nendobj\n");
+            m_file.writeString("<< /Type /Page /Parent " + node +
+                               entries.at(std::size_t(order.at(i))) + " >>\nendobj\n");
         }
         beginNext();
-        m_file.write("<< /Type /Pages /Parent " + root + " /Count " + std::to_string(last - first) +
-                     " /Kids [" + kids + " ] >>\nendobj\n");
+        m_file.writeString("<< /Type /Pages /Parent " + root + " /Count " +
+                           std::to_string(last - first) + " /Kids [" + kids + " ] >>\nendobj\n");
         nodes += ' ' + node;
     }
     return nodes;
@@ -82,8 +80,8 @@ std::string PageUpdate::reference(const QPDFObjectHandle& object) const
 
 int PageUpdate::begin(int number)
 {
-    m_positions.at(std::size_t(number)) = m_file.position();
-    m_file.write(std::to_string(number) + " 0 obj\n");
+    m_positions.at(std::size_t(number)) = m_file.getCount();
+    m_file.writeString(std::to_string(number) + " 0 obj\n");
     return number;
 }
 
@@ -96,15 +94,15 @@ int PageUpdate::beginNext()
 // Lists all objects, so that the table that qpdf wrote is not needed any more.
 void PageUpdate::writeTable()
 {
-    const qint64 table = m_file.position();
+    const qint64 table = m_file.getCount();
     const std::string size = std::to_string(m_positions.size());
-    m_file.write("xref\n0 " + size + "\n0000000000 65535 f \n");
+    m_file.writeString("xref\n0 " + size + "\n0000000000 65535 f \n");
     for (std::size_t number = 1; number < m_positions.size(); ++number) {
-        m_file.write(QUtil::int_to_string(m_positions.at(number), 10) + " 00000 n \n");
+        m_file.writeString(QUtil::int_to_string(m_positions.at(number), 10) + " 00000 n \n");
     }
-    m_file.write("trailer\n<< /Size " + size + " /Root " + reference(m_document.getRoot()) +
-                 " /Info " + reference(m_document.getTrailer().getKey("/Info")) +
-                 " >>\nstartxref\n" + std::to_string(table) + "\n%%EOF\n");
+    m_file.writeString("trailer\n<< /Size " + size + " /Root " + reference(m_document.getRoot()) +
+                       " /Info " + reference(m_document.getTrailer().getKey("/Info")) +
+                       " >>\nstartxref\n" + std::to_string(table) + "\n%%EOF\n");
     m_file.finish();
 }
 

@@ -4,6 +4,7 @@
 #ifndef SAMPLEHOST_PAGEUPDATE_H
 #define SAMPLEHOST_PAGEUPDATE_H
 
+#include <qpdf/Pl_Count.hh>
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFWriter.hh>
 
@@ -13,8 +14,6 @@
 #include <vector>
 
 namespace SampleHost {
-
-class DevicePipeline;
 
 /**
  * Appends an incremental update to a PDF file, which repeats and reorders its pages.
@@ -27,11 +26,11 @@ class PageUpdate
 public:
     /** The writer has just written the document to the file. All of them must outlive the update.
      */
-    PageUpdate(DevicePipeline& file, QPDFWriter& writer, QPDF& document);
+    PageUpdate(Pl_Count& file, QPDFWriter& writer, QPDF& document);
 
     /**
      * Gives the document the pages of order, which are 0-based indexes of pages that it has. Throws
-     * what the pipeline throws.
+     * what the file throws.
      */
     void write(const std::vector<int>& order);
 
@@ -43,7 +42,7 @@ private:
     int begin(int number);
     int beginNext();
 
-    DevicePipeline& m_file;
+    Pl_Count& m_file;
     QPDFWriter& m_writer;
     QPDF& m_document;
     // The position of each object by its number.

@@ -4,12 +4,13 @@
 #include "samplehost/pdf/sheets/pdfsheetwriter.h"
 
 #include "samplehost/pdf/sheets/annotationpage.h"
-#include "samplehost/pdf/sheets/devicepipeline.h"
 #include "samplehost/pdf/sheets/formfilling.h"
 #include "samplehost/pdf/sheets/pageform.h"
 #include "samplehost/pdf/sheets/pageupdate.h"
 #include "samplehost/pdf/sheets/pdfsource.h"
 
+#include <qpdf/Pl_Count.hh>
+#include <qpdf/Pl_Function.hh>
 #include <qpdf/QPDFMatrix.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
@@ -17,6 +18,7 @@
 #include <qpdf/QUtil.hh>
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QIODevice>
 
 #include <stdexcept>
 
@@ -165,7 +167,15 @@ void PdfSheetWriter::write(QIODevice& device, const QString& title,
     }
     copyCatalogEntries();
     setInfo(title);
-    DevicePipeline file(device, afterPart);
+    Pl_Function output("output", nullptr, [&](unsigned char const* data, size_t length) {
+        if (device.write(reinterpret_cast<const char*>(data), qint64(length)) != qint64(length)) {
+            throw std::runtime_error("the device cannot be written");
+        }
+        if (afterPart) {
+            afterPart();
+        }
+    });
+    Pl_Count file("file", &output);
     QPDFWriter writer(m_document);
     writer.setOutputPipeline(&file);
     writer.setMinimumPDFVersion("1.7");
