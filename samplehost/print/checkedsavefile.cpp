@@ -10,7 +10,7 @@ CheckedSaveFile::CheckedSaveFile(const QString& path) : QSaveFile(path) {}
 bool CheckedSaveFile::flushChecked()
 {
     if (!flush()) {
-        remember();
+        recordFailure();
     }
     return !m_failed;
 }
@@ -40,7 +40,7 @@ qint64 CheckedSaveFile::writeData(const char* data, qint64 size)
     while (written < size) {
         const qint64 step = QSaveFile::writeData(data + written, size - written);
         if (step <= 0) {
-            remember();
+            recordFailure();
             return -1;
         }
         written += step;
@@ -48,12 +48,12 @@ qint64 CheckedSaveFile::writeData(const char* data, qint64 size)
     return written;
 }
 
-void CheckedSaveFile::remember()
+void CheckedSaveFile::recordFailure()
 {
     if (!m_failed) {
         m_failed = true;
-        // A full disk first takes a part without saying why it stopped; it refuses the rest with a
-        // reason.
+        // The system first writes a part to a full disk without an error; only writing the rest
+        // fails with a reason.
         flush();
         m_failure = errorString();
     }

@@ -11,8 +11,9 @@ namespace SampleHost {
 /**
  * A QSaveFile that remembers its first failure.
  *
- * A plain one forgets: the next write that merely reaches the buffer clears the error, and commit()
- * does not notice that the last flush failed, so that a cut-off document would take its final name.
+ * QSaveFile does not: the next write that only reaches the buffer clears the error, and commit()
+ * does not notice that the last flush failed, so that a truncated document would get its final
+ * name.
  */
 class CheckedSaveFile : public QSaveFile
 {
@@ -21,20 +22,20 @@ class CheckedSaveFile : public QSaveFile
 public:
     explicit CheckedSaveFile(const QString& path);
 
-    /** Hands buffered data to the system. False if that, or any write before, failed. */
+    /** Writes buffered data to the file. False if that, or any write before, failed. */
     bool flushChecked();
 
-    /** Completes the file under its name. False, with nothing left behind, if any write failed. */
+    /** Gives the file its name. If any write failed, removes it and returns false. */
     bool commitChecked();
 
-    /** The reason of the first failure, as the system words it. */
+    /** The reason of the first failure, in the words of the system. */
     QString failure() const;
 
 protected:
     qint64 writeData(const char* data, qint64 size) override;
 
 private:
-    void remember();
+    void recordFailure();
 
     QString m_failure;
     bool m_failed = false;

@@ -20,17 +20,17 @@ using LabelPainter =
     std::function<bool(QPainter& painter, const QRectF& area, int record, QString& problem)>;
 
 /**
- * Paints the labels of one page where the sheet has them, on a painter whose coordinates are
- * dotsPerMm to the millimetre. False with the reason in problem as soon as a label fails.
+ * Paints the labels of one page at their places on the sheet, with a painter whose coordinates are
+ * dotsPerMm to the millimetre. Stops at a label that fails: false with the reason in problem.
  */
 bool paintPage(QPainter& painter, qreal dotsPerMm, const SheetGeometry& sheet,
                const QList<int>& records, const LabelPainter& paintLabel, QString& problem);
 
-/** The sheets of labels that a page plan asks for. */
+/** The sheets of labels of a page plan. */
 class LabelPages : public PageSource
 {
 public:
-    /** Without a paintLabel there is no page. */
+    /** There are no pages if paintLabel is null. */
     LabelPages(const PagePlan& plan, const SheetGeometry& sheet, LabelPainter paintLabel);
 
     qint64 pageCount() const override;

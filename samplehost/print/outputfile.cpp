@@ -25,11 +25,11 @@ QIODevice* OutputFile::open(QString& problem)
                       .arg(QDir::toNativeSeparators(folder.filePath()));
         return nullptr;
     }
-    // A complete file takes the place of what has its name; a device or a queue must not go so.
+    // The complete file replaces what has its name, which must not be a device or a pipe.
     const QFileInfo existing(m_path);
     if (existing.exists() && !existing.isFile()) {
         problem =
-            explained(existing.isDir() ? tr("it is a folder") : tr("it is not an ordinary file"));
+            message(existing.isDir() ? tr("it is a folder") : tr("it is not an ordinary file"));
         return nullptr;
     }
     m_file = std::make_unique<CheckedSaveFile>(m_path);
@@ -43,7 +43,7 @@ QIODevice* OutputFile::open(QString& problem)
 
 bool OutputFile::isHealthy(QString& problem)
 {
-    // Flushing shows a full disk at the page that met it instead of at the end of a long job.
+    // Flushing detects a full disk after the page that filled it, not at the end of a long job.
     if (m_file && m_file->flushChecked()) {
         return true;
     }
@@ -76,10 +76,10 @@ QString OutputFile::description() const
 
 QString OutputFile::failure() const
 {
-    return explained(m_file ? m_file->failure() : tr("the file is not open"));
+    return message(m_file ? m_file->failure() : tr("the file is not open"));
 }
 
-QString OutputFile::explained(const QString& reason) const
+QString OutputFile::message(const QString& reason) const
 {
     return tr("The file \"%1\" cannot be written: %2.")
         .arg(QDir::toNativeSeparators(m_path), reason);

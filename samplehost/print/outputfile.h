@@ -16,9 +16,9 @@ namespace SampleHost {
 class CheckedSaveFile;
 
 /**
- * The file that a job writes. It stands under a temporary name in the folder of the file and takes
- * its name only when it is complete, so nobody ever finds half a document, and a failed job leaves
- * an older file of that name as it was. Destroying it without commit() discards it.
+ * The file that a job writes. It has a temporary name in its folder until it is complete, so that
+ * nobody ever finds half a document, and a failed job does not change an older file of that name.
+ * Destroying it without commit() discards it.
  */
 class OutputFile
 {
@@ -28,26 +28,25 @@ public:
     explicit OutputFile(const QString& path);
     ~OutputFile();
 
-    /** Opens the file and returns its device, which this object owns. Null with the reason in
-     * problem. */
+    /** Opens the file. This object owns the device. Null with the reason in problem. */
     QIODevice* open(QString& problem);
 
-    /** Whether everything written so far arrived; if not, the reason is in problem. */
+    /** Whether everything so far was written; if not, the reason is in problem. */
     bool isHealthy(QString& problem);
 
     /** Gives the complete file its name. False with the reason in problem if that failed. */
     bool commit(QString& problem);
 
-    /** Discards the file; does nothing when called again. */
+    /** Discards the file; does nothing if there is none. */
     void discard();
 
-    /** The absolute path as the user's system writes it. */
+    /** The absolute path with native separators. */
     QString description() const;
 
 private:
     Q_DISABLE_COPY_MOVE(OutputFile)
     QString failure() const;
-    QString explained(const QString& reason) const;
+    QString message(const QString& reason) const;
 
     QString m_path;
     std::unique_ptr<CheckedSaveFile> m_file;

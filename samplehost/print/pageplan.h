@@ -15,15 +15,15 @@ namespace SampleHost {
 /**
  * Which records go on which page of a print job.
  *
- * The plan keeps the selection as ranges and answers for each page by arithmetic, so a request for
- * every record of a large data source costs no more than a request for one.
+ * The plan stores the selection as ranges and calculates the records of a page, so that a request
+ * for every record of a large data source costs no more than a request for one.
  *
  * Order of the pages:
- * - one label a page: the records in the order asked for, each of them as often as there are copies
- *   before the next one begins, since labels are torn off and applied record by record;
+ * - one label a page: the records in the requested order, with all copies of a record in
+ * succession, since labels are torn off and applied record by record;
  * - N-up replicating: the same order, but each page is filled with its one record;
  * - N-up sequencing: the records fill the pages in turn; each copy is the whole sequence again and
- *   begins on a fresh page, so that the copies come out as identical stacks.
+ *   begins on a new page, so that the copies are identical stacks.
  */
 class PagePlan
 {
@@ -39,8 +39,8 @@ public:
     PagePlan() = default;
 
     /**
-     * Plans a request for a data source of recordCount records. Whatever lies beyond the last
-     * record is left out; repetitions stay.
+     * Plans a request for a data source of recordCount records. Numbers beyond the last record are
+     * left out; repetitions are kept.
      */
     static PagePlan make(const PrintRequest& request, int recordCount);
 
@@ -50,13 +50,13 @@ public:
     /** The number of pages, copies included. */
     qint64 pageCount() const;
 
-    /** The number of records asked for, repetitions included and copies not. */
+    /** The number of requested records, including repetitions but not copies. */
     qint64 selectedCount() const;
 
     /**
      * The 1-based records of a page in reading order (left to right, then down). The last page of a
-     * sequence may hold fewer than a full page. A page outside 0 to pageCount() - 1 gives an empty
-     * list.
+     * sequence may be only partly filled. The list is empty for a page outside 0 to
+     * pageCount() - 1.
      */
     QList<int> recordsOnPage(qint64 page) const;
 

@@ -22,7 +22,7 @@ struct NupLayout
     int rows = 1;
     int columns = 1;
 
-    /** This layout with both sides brought into 1 to maximumSide. */
+    /** This layout with both sides limited to 1 to maximumSide. */
     NupLayout bounded() const;
 
     /** The number of labels that fill a sheet of the bounded layout. */
@@ -32,8 +32,8 @@ struct NupLayout
     QString text() const;
 
     /**
-     * Reads a text such as "2x3" (rows first, "x" in either case). Anything else, and a side
-     * outside 1 to maximumSide, gives nothing.
+     * Parses a text such as "2x3" (rows first, "x" in either case). Returns nothing for any other
+     * text and for a side outside 1 to maximumSide.
      */
     static std::optional<NupLayout> fromText(QStringView text);
 
@@ -49,26 +49,26 @@ enum class NupMode {
     Sequencing   ///< The labels of a sheet show successive records of the selection.
 };
 
-/** Everything a user asked for by pressing Print or Print Preview in a panel. */
+/** Everything a user requested by pressing Print or Print Preview in a panel. */
 struct PrintRequest
 {
     /** First record, 1-based; 0 when customRecordsList decides. */
     int sequenceStart = 1;
     /** Last record, 1-based; -1 for the single record sequenceStart. */
     int sequenceEnd = -1;
-    /** A list such as "1,4-5"; when it is not empty it alone says which records are meant. */
+    /** A list such as "1,4-5"; if it is not empty, it alone selects the records. */
     QString customRecordsList;
-    /** How often everything is printed; less than 1 counts as 1. */
+    /** The number of copies; less than 1 counts as 1. */
     int copies = 1;
     NupLayout nup;
     NupMode nupMode = NupMode::Replicating;
     /** Whether the user's background layer is printed behind the labels. */
     bool userBackground = false;
-    /** 0 for the label itself, else the bit of the ammonia tag that is printed in its place. */
+    /** 0 for the label itself, or the bit of the ammonia tag to print instead. */
     int ammoniaItem = 0;
     /** The paper in millimetres; empty for a sheet as large as its labels. */
     QSizeF paperMm;
-    /** Whether each label is turned, so that it is as wide as it was designed high. */
+    /** Whether each label is turned, so that its designed height becomes its width. */
     bool labelTurned = false;
 
     /** Whether it asks for the one record sequenceStart. */

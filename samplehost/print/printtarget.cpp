@@ -24,10 +24,10 @@ void useSheet(QPagedPaintDevice& device, const QSizeF& sheetMm)
 }
 
 /**
- * The name of a paper for a queue that knows these. It would put the nearest one that it knows in
- * the place of an unknown name, so that paper goes by its size in points. The queue turns that into
- * hundredths of a millimetre and back, and cuts off what is not a whole point then; without an
- * excess a page would lose its edge.
+ * The name of a paper for a queue that knows these. An unknown name would be replaced by the
+ * nearest known one, so any other paper is described by its size in points. The queue converts that
+ * to hundredths of a millimetre and back, and then truncates it to whole points; without the excess
+ * a page would lose its edge.
  */
 QString paperName(const QPageSize& paper, const QList<QPageSize>& known)
 {
@@ -41,8 +41,8 @@ QString paperName(const QPageSize& paper, const QList<QPageSize>& known)
     return QStringLiteral("Custom.%1x%2").arg(side(points.width())).arg(side(points.height()));
 }
 
-/** The smallest paper that has room for a page beside what it had room for; a queue turns pages. */
-QSizeF smallestRoom(const QSizeF& paper, const QSizeF& page)
+/** The smallest paper that a page also fits on; a queue turns pages if necessary. */
+QSizeF extendedPaper(const QSizeF& paper, const QSizeF& page)
 {
     const QSizeF upright = paper.expandedTo(page);
     const QSizeF turned = paper.expandedTo(page.transposed());
@@ -50,7 +50,7 @@ QSizeF smallestRoom(const QSizeF& paper, const QSizeF& page)
     return area(turned) < area(upright) ? turned : upright;
 }
 
-/** Whether a PDF file has its end, which one that met a full disk lacks. */
+/** Whether a PDF file has its end, which is missing if the disk was full. */
 bool isComplete(const QString& path)
 {
     constexpr qint64 tail = 32;
@@ -129,13 +129,13 @@ QPagedPaintDevice* PrinterTarget::open(const QSizeF& sheetMm, QString& problem)
         return nullptr;
     }
     m_printer = std::make_unique<QPrinter>(info, QPrinter::HighResolution);
-    const bool queues = PrintQueue::isSupported();
-    if (!m_printer->isValid() || (queues && PrintQueue(m_printerName).refusesJobs())) {
+    const bool hasQueue = PrintQueue::isSupported();
+    if (!m_printer->isValid() || (hasQueue && PrintQueue(m_printerName).refusesJobs())) {
         problem = tr("The printer \"%1\" does not accept jobs.").arg(m_printerName);
         m_printer.reset();
         return nullptr;
     }
-    if (queues && !openSpool(problem)) {
+    if (hasQueue && !openSpool(problem)) {
         m_printer.reset();
         return nullptr;
     }
@@ -149,7 +149,7 @@ QPagedPaintDevice* PrinterTarget::open(const QSizeF& sheetMm, QString& problem)
 
 QString PrinterTarget::spoolPath() const
 {
-    // A name that ended in .pdf would make Qt forget the printer's margins.
+    // If the name ended in .pdf, Qt would not use the printer's margins.
     return m_spool->filePath(QStringLiteral("job"));
 }
 
@@ -172,22 +172,22 @@ bool PrinterTarget::isHealthy(QString& problem)
     if (broken) {
         problem = tr("The printer \"%1\" stopped the job.").arg(m_printerName);
     } else {
-        findRoomForPage();
+        fitPaperToPage();
     }
     return !broken;
 }
 
-// The health is asked for after every page, when the printer still has the page's size.
-void PrinterTarget::findRoomForPage()
+// isHealthy() is called after every page, when the printer still has the size of that page.
+void PrinterTarget::fitPaperToPage()
 {
     const QPageSize page = m_printer->pageLayout().pageSize();
     const QSizeF size = page.size(QPageSize::Point);
     const QSizeF before = m_paper.isValid() ? m_paper.size(QPageSize::Point) : size;
-    const QSizeF room = smallestRoom(before, size);
-    if (room == size) {
+    const QSizeF extended = extendedPaper(before, size);
+    if (extended == size) {
         m_paper = page;
-    } else if (room != before) {
-        m_paper = QPageSize(room, QPageSize::Point, QString(), QPageSize::ExactMatch);
+    } else if (extended != before) {
+        m_paper = QPageSize(extended, QPageSize::Point, QString(), QPageSize::ExactMatch);
     }
 }
 
@@ -195,9 +195,9 @@ bool PrinterTarget::commit(QString& problem)
 {
     const bool healthy = isHealthy(problem);
     m_printer.reset();
-    const bool arrived = healthy && (!m_spool || submit(problem));
+    const bool committed = healthy && (!m_spool || submit(problem));
     m_spool.reset();
-    return arrived;
+    return committed;
 }
 
 bool PrinterTarget::submit(QString& problem)

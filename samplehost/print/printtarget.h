@@ -22,8 +22,8 @@ class QTemporaryDir;
 namespace SampleHost {
 
 /**
- * Where a print job goes. A job calls open() once, paints, and ends with commit() or discard();
- * destroying a target that was not committed discards it.
+ * The destination of a print job. A job calls open() once, paints, and ends with commit() or
+ * discard(); destroying a target that was not committed discards its output.
  */
 class PrintTarget
 {
@@ -32,38 +32,37 @@ public:
     virtual ~PrintTarget();
 
     /**
-     * Makes the target ready for pages of sheetMm (millimetres) without margins. Returns the device
-     * to paint on, which stays the target's own, or null with the reason in problem.
+     * Prepares the target for pages of sheetMm (millimetres) without margins. Returns the device to
+     * paint on, which the target owns, or null with the reason in problem.
      */
     virtual QPagedPaintDevice* open(const QSizeF& sheetMm, QString& problem) = 0;
 
-    /** Whether everything painted so far arrived; if not, the reason is in problem. */
+    /** Whether everything painted so far was written; if not, the reason is in problem. */
     virtual bool isHealthy(QString& problem) = 0;
 
-    /** Completes the output. Painting has ended. False with the reason in problem if that failed.
-     */
+    /** Completes the output after painting has ended. False with the reason in problem. */
     virtual bool commit(QString& problem) = 0;
 
     /**
-     * Told before painting ends that the output is to be given up. Returns false when pages that
-     * were already painted may come out all the same, which some printing systems cannot prevent.
+     * Prepares for discard() while painting has not ended. Returns false if pages that were already
+     * painted may be printed all the same, which some printing systems cannot prevent.
      */
     virtual bool abort() = 0;
 
-    /** Gives the output up. Painting has ended. */
+    /** Discards the output after painting has ended. */
     virtual void discard() = 0;
 
-    /** Where the output went, as a text for the user. */
+    /** The destination as a text for the user. */
     virtual QString description() const = 0;
 
-    /** Dots per inch that the open device paints with. */
+    /** The resolution of the open device in dots per inch. */
     static constexpr int resolution = 600;
 
 private:
     Q_DISABLE_COPY_MOVE(PrintTarget)
 };
 
-/** A PDF file, which takes its name only when it is complete. */
+/** A PDF file, which gets its name only when it is complete. */
 class PdfTarget : public PrintTarget
 {
 public:
@@ -85,9 +84,9 @@ private:
 };
 
 /**
- * A printer of the system, by its name. Where there are queues the job is put together in a file
- * first and handed over as a whole, so a job that is given up never gets there, and what the queue
- * answers is known. Elsewhere the system gets every page as it is painted.
+ * A printer of the system. With CUPS, the job is written to a file and submitted as a whole, so
+ * that a discarded job never reaches the queue, and the response of the queue is known. Without it,
+ * the system gets every page as it is painted.
  */
 class PrinterTarget : public PrintTarget
 {
@@ -109,14 +108,14 @@ private:
     bool openSpool(QString& problem);
     QString spoolPath() const;
     bool submit(QString& problem);
-    void findRoomForPage();
+    void fitPaperToPage();
 
     QString m_printerName;
     QString m_title;
     std::unique_ptr<QPrinter> m_printer;
-    /** Where the job is put together; null where the system gets the pages at once. */
+    /** The folder of the file to submit; null if the system gets every page as it is painted. */
     std::unique_ptr<QTemporaryDir> m_spool;
-    /** A paper that every page so far finds room on; a job has only one. */
+    /** A paper that every page so far fits on; a job has only one. */
     QPageSize m_paper;
     QList<QPageSize> m_knownPapers;
 };

@@ -18,30 +18,30 @@ SheetGeometry::SheetGeometry() : SheetGeometry(defaultLabelMm, NupLayout{}) {}
 SheetGeometry::SheetGeometry(const QSizeF& labelMm, const NupLayout& layout, const QSizeF& paperMm)
     : m_label(labelMm.isEmpty() ? defaultLabelMm : labelMm), m_layout(layout.bounded())
 {
-    const bool bare = m_layout.labelsPerPage() == 1;
+    const bool single = m_layout.labelsPerPage() == 1;
     if (paperMm.isEmpty()) {
-        sizeSheetToLabels(bare);
+        sizeSheetToLabels(single);
     } else {
-        fitLabelsOnPaper(bare, paperMm);
+        fitLabelsOnPaper(single, paperMm);
     }
 }
 
-void SheetGeometry::sizeSheetToLabels(bool bare)
+void SheetGeometry::sizeSheetToLabels(bool single)
 {
-    const qreal margin = bare ? 0.0 : marginMm;
+    const qreal margin = single ? 0.0 : marginMm;
     m_origin = QPointF(margin, margin);
     m_step = m_label + QSizeF(gapMm, gapMm);
     m_sheet = QSizeF(2 * margin + m_layout.columns * m_step.width() - gapMm,
                      2 * margin + m_layout.rows * m_step.height() - gapMm);
 }
 
-void SheetGeometry::fitLabelsOnPaper(bool bare, const QSizeF& paperMm)
+void SheetGeometry::fitLabelsOnPaper(bool single, const QSizeF& paperMm)
 {
     m_sheet = paperMm;
-    // A label that is exactly as large as the paper may use all of it.
+    // A single label may extend to the edges of the paper.
     const bool fillsPaper =
-        bare && m_label.width() <= paperMm.width() && m_label.height() <= paperMm.height();
-    // On paper that is too small for margins the labels come first.
+        single && m_label.width() <= paperMm.width() && m_label.height() <= paperMm.height();
+    // On small paper the margins become smaller to leave room for the labels.
     const qreal shortest = std::min(paperMm.width(), paperMm.height());
     const qreal margin = fillsPaper ? 0.0 : std::min(marginMm, shortest / 10);
     const qreal gap = std::min(gapMm, shortest / 10 / NupLayout::maximumSide);
