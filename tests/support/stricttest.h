@@ -17,9 +17,17 @@ class StrictTest : public QObject
     Q_OBJECT
 
 protected Q_SLOTS:
-    // Not private, because Qt Test runs private slots as tests. It calls init() whatever its
-    // access.
-    void init();
+    // Not private, because Qt Test runs private slots as tests. It calls init() and cleanup()
+    // whatever their access.
+    virtual void init();
+    virtual void cleanup() {}
 };
+
+/** Adds a row of test data. Plain texts become QStrings. */
+template <typename... Values>
+void addRow(const char* name, const Values&... values)
+{
+    (QTest::newRow(name) << ... << values);
+}
 
 #endif
