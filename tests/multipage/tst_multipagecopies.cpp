@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "multipageprobe.h"
+#include "multipagefixture.h"
 #include "support/stricttest.h"
 
 #include <printpanels/multipageprintwidget.h>
@@ -14,20 +14,6 @@
 #include <QtWidgets/QPushButton>
 
 #include <limits>
-
-namespace {
-
-QLineEdit* copies(const QWidget& panel)
-{
-    return part<QLineEdit>(panel, "copiesEdit");
-}
-
-QPushButton* button(const QWidget& panel, const char* name)
-{
-    return part<QPushButton>(panel, name);
-}
-
-} // namespace
 
 /** The number of copies and its step buttons. */
 class tst_MultiPageCopies : public StrictTest
@@ -53,34 +39,34 @@ private Q_SLOTS:
 
 void tst_MultiPageCopies::startsAtOne()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
-    QCOMPARE(copies(panel)->text(), QStringLiteral("1"));
+    MultiPageFixture panel;
+    QCOMPARE(panel.copiesEdit()->text(), QStringLiteral("1"));
     QCOMPARE(panel.getNumberOfCopies(), 1);
 }
 
 void tst_MultiPageCopies::readsTheText_data()
 {
     QTest::addColumn<int>("number");
-    QTest::newRow("1") << 1;
-    QTest::newRow("2") << 2;
-    QTest::newRow("999") << 999;
-    QTest::newRow("1000") << 1000;
-    QTest::newRow("007") << 7;
-    QTest::newRow("0") << 1;
-    QTest::newRow("-5") << 1;
-    QTest::newRow("abc") << 1;
-    QTest::newRow("2.5") << 1;
-    QTest::newRow("0x10") << 1;
-    QTest::newRow("2147483647") << 2147483647;
-    QTest::newRow("2147483648") << 1;
-    QTest::newRow("-2147483649") << 1;
-    QTest::newRow("") << 1;
+    addRow("1", 1);
+    addRow("2", 2);
+    addRow("999", 999);
+    addRow("1000", 1000);
+    addRow("007", 7);
+    addRow("0", 1);
+    addRow("-5", 1);
+    addRow("abc", 1);
+    addRow("2.5", 1);
+    addRow("0x10", 1);
+    addRow("2147483647", 2147483647);
+    addRow("2147483648", 1);
+    addRow("-2147483649", 1);
+    addRow("", 1);
 }
 
 void tst_MultiPageCopies::readsTheText()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
-    copies(panel)->setText(QLatin1String(QTest::currentDataTag()));
+    MultiPageFixture panel;
+    panel.copiesEdit()->setText(QLatin1String(QTest::currentDataTag()));
     QTEST(panel.getNumberOfCopies(), "number");
 }
 
@@ -88,21 +74,21 @@ void tst_MultiPageCopies::setsAnyNumber_data()
 {
     QTest::addColumn<int>("number");
     QTest::addColumn<QString>("text");
-    QTest::newRow("one") << 1 << QStringLiteral("1");
-    QTest::newRow("most") << 999 << QStringLiteral("999");
-    QTest::newRow("more than the user may ask for") << 1500 << QStringLiteral("1500");
-    QTest::newRow("none") << 0 << QStringLiteral("0");
-    QTest::newRow("negative") << -3 << QStringLiteral("-3");
-    QTest::newRow("highest") << std::numeric_limits<int>::max() << QStringLiteral("2147483647");
-    QTest::newRow("lowest") << std::numeric_limits<int>::min() << QStringLiteral("-2147483648");
+    addRow("one", 1, "1");
+    addRow("most", 999, "999");
+    addRow("more than the user may ask for", 1500, "1500");
+    addRow("none", 0, "0");
+    addRow("negative", -3, "-3");
+    addRow("highest", std::numeric_limits<int>::max(), "2147483647");
+    addRow("lowest", std::numeric_limits<int>::min(), "-2147483648");
 }
 
 void tst_MultiPageCopies::setsAnyNumber()
 {
     QFETCH(const int, number);
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     panel.setNumberOfCopies(number);
-    QTEST(copies(panel)->text(), "text");
+    QTEST(panel.copiesEdit()->text(), "text");
     QCOMPARE(panel.getNumberOfCopies(), number < 1 ? 1 : number);
 }
 
@@ -111,41 +97,37 @@ void tst_MultiPageCopies::steps_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("more");
     QTest::addColumn<QString>("less");
-    const auto row = [](const char* name, const char* text, const char* more, const char* less) {
-        QTest::newRow(name) << QString::fromLatin1(text) << QString::fromLatin1(more)
-                            << QString::fromLatin1(less);
-    };
-    row("one", "1", "2", "1");
-    row("two", "2", "3", "1");
-    row("998", "998", "999", "997");
-    row("most", "999", "999", "998");
-    row("above the most", "1000", "1000", "999");
-    row("far above", "2147483647", "2147483647", "2147483646");
-    row("empty", "", "1", "");
-    row("no number", "abc", "1", "abc");
-    row("too high for a number", "2147483648", "1", "2147483648");
-    row("zero", "0", "1", "0");
-    row("negative", "-5", "-4", "-5");
-    row("lowest", "-2147483648", "-2147483647", "-2147483648");
+    addRow("one", "1", "2", "1");
+    addRow("two", "2", "3", "1");
+    addRow("998", "998", "999", "997");
+    addRow("most", "999", "999", "998");
+    addRow("above the most", "1000", "1000", "999");
+    addRow("far above", "2147483647", "2147483647", "2147483646");
+    addRow("empty", "", "1", "");
+    addRow("no number", "abc", "1", "abc");
+    addRow("too high for a number", "2147483648", "1", "2147483648");
+    addRow("zero", "0", "1", "0");
+    addRow("negative", "-5", "-4", "-5");
+    addRow("lowest", "-2147483648", "-2147483647", "-2147483648");
 }
 
 void tst_MultiPageCopies::steps()
 {
     QFETCH(const QString, text);
-    MultiPagePrintWidget panel(false, false, nullptr);
-    copies(panel)->setText(text);
-    clickOn(button(panel, "plusButton"));
-    QTEST(copies(panel)->text(), "more");
-    copies(panel)->setText(text);
+    MultiPageFixture panel;
+    panel.copiesEdit()->setText(text);
+    clickOn(panel.button("plusButton"));
+    QTEST(panel.copiesEdit()->text(), "more");
+    panel.copiesEdit()->setText(text);
     panel.increaseCopyCount();
-    QTEST(copies(panel)->text(), "more");
+    QTEST(panel.copiesEdit()->text(), "more");
 
-    copies(panel)->setText(text);
-    clickOn(button(panel, "minusButton"));
-    QTEST(copies(panel)->text(), "less");
-    copies(panel)->setText(text);
+    panel.copiesEdit()->setText(text);
+    clickOn(panel.button("minusButton"));
+    QTEST(panel.copiesEdit()->text(), "less");
+    panel.copiesEdit()->setText(text);
     QVERIFY(QMetaObject::invokeMethod(&panel, "decreaseCopyCount"));
-    QTEST(copies(panel)->text(), "less");
+    QTEST(panel.copiesEdit()->text(), "less");
 }
 
 void tst_MultiPageCopies::validatorTakesOneTo999_data()
@@ -159,24 +141,24 @@ void tst_MultiPageCopies::validatorTakesOneTo999_data()
 
 void tst_MultiPageCopies::validatorTakesOneTo999()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
-    const auto* validator = qobject_cast<const QIntValidator*>(copies(panel)->validator());
+    MultiPageFixture panel;
+    const auto* validator = qobject_cast<const QIntValidator*>(panel.copiesEdit()->validator());
     QVERIFY(validator);
     QCOMPARE(validator->bottom(), 1);
     QCOMPARE(validator->top(), 999);
     QVERIFY(validator->parent());
-    copies(panel)->setText(QLatin1String(QTest::currentDataTag()));
-    QTEST(copies(panel)->hasAcceptableInput(), "acceptable");
+    panel.copiesEdit()->setText(QLatin1String(QTest::currentDataTag()));
+    QTEST(panel.copiesEdit()->hasAcceptableInput(), "acceptable");
 }
 
 void tst_MultiPageCopies::typingIsLimited()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     QVERIFY(showActive(panel));
-    copies(panel)->setFocus();
-    copies(panel)->selectAll();
-    QTest::keyClicks(copies(panel), QStringLiteral("-1a2 345"));
-    QCOMPARE(copies(panel)->text(), QStringLiteral("123"));
+    panel.copiesEdit()->setFocus();
+    panel.copiesEdit()->selectAll();
+    QTest::keyClicks(panel.copiesEdit(), QStringLiteral("-1a2 345"));
+    QCOMPARE(panel.copiesEdit()->text(), QStringLiteral("123"));
     QCOMPARE(panel.getNumberOfCopies(), 123);
 }
 
@@ -184,9 +166,9 @@ void tst_MultiPageCopies::whatCanBeTypedIsRead_data()
 {
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("typed");
-    QTest::newRow("group separator") << QStringLiteral("en") << QStringLiteral("3,3");
-    QTest::newRow("another one") << QStringLiteral("de") << QStringLiteral("3.3");
-    QTest::newRow("other digits") << QStringLiteral("ar_EG") << QStringLiteral("\u06633\u06643");
+    addRow("group separator", "en", "3,3");
+    addRow("another one", "de", "3.3");
+    addRow("other digits", "ar_EG", "\u06633\u06643");
 }
 
 void tst_MultiPageCopies::whatCanBeTypedIsRead()
@@ -195,35 +177,35 @@ void tst_MultiPageCopies::whatCanBeTypedIsRead()
     QFETCH(const QString, typed);
     const auto restored = qScopeGuard([old = QLocale()] { QLocale::setDefault(old); });
     QLocale::setDefault(QLocale(language));
-    MultiPagePrintWidget panel(false, false, nullptr);
-    copies(panel)->clear();
+    MultiPageFixture panel;
+    panel.copiesEdit()->clear();
     for (const QChar character : typed) {
-        QTest::sendKeyEvent(QTest::Click, copies(panel), Qt::Key(character.unicode()),
+        QTest::sendKeyEvent(QTest::Click, panel.copiesEdit(), Qt::Key(character.unicode()),
                             QString(character), Qt::NoModifier);
     }
-    QCOMPARE(copies(panel)->text(), QStringLiteral("33"));
+    QCOMPARE(panel.copiesEdit()->text(), QStringLiteral("33"));
     QCOMPARE(panel.getNumberOfCopies(), 33);
 }
 
 void tst_MultiPageCopies::stepButtonsRepeat()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     panel.setNumberOfCopies(500);
     QVERIFY(showActive(panel));
     for (const char* name : {"plusButton", "minusButton"})
-        QVERIFY(button(panel, name)->autoRepeat());
-    QTest::mousePress(button(panel, "plusButton"), Qt::LeftButton);
+        QVERIFY(panel.button(name)->autoRepeat());
+    QTest::mousePress(panel.button("plusButton"), Qt::LeftButton);
     QTRY_VERIFY(panel.getNumberOfCopies() >= 503);
-    QTest::mouseRelease(button(panel, "plusButton"), Qt::LeftButton);
+    QTest::mouseRelease(panel.button("plusButton"), Qt::LeftButton);
     const int reached = panel.getNumberOfCopies();
-    QTest::mousePress(button(panel, "minusButton"), Qt::LeftButton);
+    QTest::mousePress(panel.button("minusButton"), Qt::LeftButton);
     QTRY_VERIFY(panel.getNumberOfCopies() <= reached - 3);
-    QTest::mouseRelease(button(panel, "minusButton"), Qt::LeftButton);
+    QTest::mouseRelease(panel.button("minusButton"), Qt::LeftButton);
 }
 
 void tst_MultiPageCopies::copiesEmitNothing()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     QList<QSharedPointer<QSignalSpy>> spies;
     const QMetaObject* meta = panel.metaObject();
     for (int i = PrintWidgetInterface::staticMetaObject.methodOffset(); i < meta->methodCount();
@@ -233,8 +215,8 @@ void tst_MultiPageCopies::copiesEmitNothing()
     }
     QCOMPARE(spies.size(), 14);
     panel.setNumberOfCopies(7);
-    clickOn(button(panel, "plusButton"));
-    clickOn(button(panel, "minusButton"));
+    clickOn(panel.button("plusButton"));
+    clickOn(panel.button("minusButton"));
     for (const auto& spy : std::as_const(spies))
         QCOMPARE(spy->size(), 0);
 }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "multipageprobe.h"
+#include "multipagefixture.h"
 #include "support/stricttest.h"
 
 #include <printpanels/multipageprintdialog.h>
@@ -15,7 +15,7 @@
 #include <functional>
 #include <limits>
 
-using Step = std::function<void(MultiPagePrintWidget&)>;
+using Step = std::function<void(MultiPageFixture&)>;
 Q_DECLARE_METATYPE(Step)
 
 namespace {
@@ -23,16 +23,16 @@ namespace {
 constexpr int lowest = std::numeric_limits<int>::min();
 constexpr int highest = std::numeric_limits<int>::max();
 
-void setListQuietly(MultiPagePrintWidget& panel, const QString& list)
+void setListQuietly(MultiPageFixture& panel, const QString& list)
 {
-    auto* edit = part<QLineEdit>(panel, "pageListEdit");
-    const QSignalBlocker untold(edit);
+    auto* edit = panel.pageList();
+    const QSignalBlocker blocker(edit);
     edit->setText(list);
 }
 
-void choose(MultiPagePrintWidget& panel, const char* radio)
+void choose(MultiPageFixture& panel, const char* radio)
 {
-    part<QAbstractButton>(panel, radio)->setChecked(true);
+    panel.part<QAbstractButton>(radio)->setChecked(true);
 }
 
 } // namespace
@@ -61,22 +61,22 @@ void tst_MultiPageHostileHost::panelDeletedAtOnceByAClick_data()
 {
     QTest::addColumn<Step>("step");
     const auto row = [](const char* name, const Step& step) { QTest::newRow(name) << step; };
-    row("click on a radio", [](auto& panel) {
+    row("click on a radio", [](MultiPageFixture& panel) {
         setListQuietly(panel, QStringLiteral("7"));
-        clickOn(part<QAbstractButton>(panel, "selectionRadio"));
+        clickOn(panel.part<QAbstractButton>("selectionRadio"));
     });
-    row("click on print", [](auto& panel) {
+    row("click on print", [](MultiPageFixture& panel) {
         panel.enablePrintButtons();
-        clickOn(part<QAbstractButton>(panel, "PrintButton"));
+        clickOn(panel.part<QAbstractButton>("PrintButton"));
     });
     row("click on settings",
-        [](auto& panel) { clickOn(part<QAbstractButton>(panel, "PreferencesButton")); });
+        [](MultiPageFixture& panel) { clickOn(panel.part<QAbstractButton>("PreferencesButton")); });
 }
 
 void tst_MultiPageHostileHost::panelDeletedAtOnceByAClick()
 {
     QFETCH(const Step, step);
-    const QPointer<MultiPagePrintWidget> panel(new MultiPagePrintWidget(false, false, nullptr));
+    const QPointer<MultiPageFixture> panel(new MultiPageFixture);
     int reports = 0;
     const auto die = [&reports, panel] {
         ++reports;
@@ -93,14 +93,14 @@ void tst_MultiPageHostileHost::panelDeletedAtOnceByAClick()
 
 void tst_MultiPageHostileHost::dialogDeletedFromThePanelsRequest()
 {
-    auto* panel = new MultiPagePrintWidget(false, false, nullptr);
+    auto* panel = new MultiPageFixture;
     const QPointer<MultiPagePrintDialog> dialog(
         new MultiPagePrintDialog(panel, nullptr, Qt::FramelessWindowHint));
     QVERIFY(showActive(*dialog));
     panel->enableAllButtons();
     connect(panel, &PrintWidgetInterface::widgetPrintSignal, this,
             [dialog] { delete dialog.data(); });
-    clickOn(part<QAbstractButton>(*panel, "PrintButton"));
+    clickOn(panel->part<QAbstractButton>("PrintButton"));
     QVERIFY(dialog.isNull());
 }
 
@@ -108,43 +108,43 @@ void tst_MultiPageHostileHost::panelDeletedLaterFromAnySignal_data()
 {
     QTest::addColumn<Step>("step");
     const auto row = [](const char* name, const Step& step) { QTest::newRow(name) << step; };
-    row("show", [](auto& panel) { panel.show(); });
+    row("show", [](MultiPageFixture& panel) { panel.show(); });
     row("list typed",
-        [](auto& panel) { part<QLineEdit>(panel, "pageListEdit")->setText(QStringLiteral("7")); });
+        [](MultiPageFixture& panel) { panel.pageList()->setText(QStringLiteral("7")); });
     for (const char* name : {"formFillCheck", "fitToPageCheck", "orientationCheck"})
-        row(name, [name](auto& panel) { clickOn(part<QAbstractButton>(panel, name)); });
-    row("page info", [](auto& panel) { panel.setPageInfo(5, 10, true); });
-    row("page info of a changed selection", [](auto& panel) {
+        row(name, [name](MultiPageFixture& panel) { clickOn(panel.part<QAbstractButton>(name)); });
+    row("page info", [](MultiPageFixture& panel) { panel.setPageInfo(5, 10, true); });
+    row("page info of a changed selection", [](MultiPageFixture& panel) {
         setListQuietly(panel, QStringLiteral("7"));
         choose(panel, "selectionRadio");
         panel.setPageInfo(5, 10, true);
     });
-    row("current index", [](auto& panel) { panel.updateCurrentRangeIndex(4); });
-    row("current index of an empty selection", [](auto& panel) {
+    row("current index", [](MultiPageFixture& panel) { panel.updateCurrentRangeIndex(4); });
+    row("current index of an empty selection", [](MultiPageFixture& panel) {
         choose(panel, "selectionRadio");
         panel.updateCurrentRangeIndex(4);
     });
-    row("forced update of a selection", [](auto& panel) {
+    row("forced update of a selection", [](MultiPageFixture& panel) {
         setListQuietly(panel, QStringLiteral("7"));
         choose(panel, "selectionRadio");
         panel.checkRangeUpdate(true);
     });
-    row("parse", [](auto& panel) {
+    row("parse", [](MultiPageFixture& panel) {
         setListQuietly(panel, QStringLiteral("7"));
         panel.listRangeParse();
     });
-    row("print", [](auto& panel) { panel.printSlot(); });
-    row("printer", [](auto& panel) { panel.currentPrinterSelectionChangedSlot(0); });
-    row("printer chosen", [](auto& panel) {
+    row("print", [](MultiPageFixture& panel) { panel.printSlot(); });
+    row("printer", [](MultiPageFixture& panel) { panel.currentPrinterSelectionChangedSlot(0); });
+    row("printer chosen", [](MultiPageFixture& panel) {
         panel.updateListOfPrinters({QStringLiteral("A"), QStringLiteral("B")}, 0);
-        QTest::keyClick(part<QWidget>(panel, "PrinterListCombo"), Qt::Key_Down);
+        QTest::keyClick(panel.part<QWidget>("PrinterListCombo"), Qt::Key_Down);
     });
 }
 
 void tst_MultiPageHostileHost::panelDeletedLaterFromAnySignal()
 {
     QFETCH(const Step, step);
-    const QPointer<MultiPagePrintWidget> panel(new MultiPagePrintWidget(false, false, nullptr));
+    const QPointer<MultiPageFixture> panel(new MultiPageFixture);
     const QMetaObject* meta = panel->metaObject();
     for (int i = PrintWidgetInterface::staticMetaObject.methodOffset(); i < meta->methodCount();
          ++i) {
@@ -168,7 +168,7 @@ void tst_MultiPageHostileHost::numbersWithoutSense_data()
 void tst_MultiPageHostileHost::numbersWithoutSense()
 {
     QFETCH(const int, number);
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     QSignalSpy printed(&panel, &PrintWidgetInterface::widgetPrintSignal);
     for (const char* radio : {"currentPageRadio", "allPagesRadio", "selectionRadio"}) {
         choose(panel, radio);
@@ -192,8 +192,8 @@ void tst_MultiPageHostileHost::dialogAtAPlaceBeyondAnyScreen_data()
 {
     QTest::addColumn<int>("place");
     QTest::addColumn<int>("expected");
-    QTest::newRow("highest") << highest << QWIDGETSIZE_MAX;
-    QTest::newRow("lowest") << lowest << -QWIDGETSIZE_MAX;
+    addRow("highest", highest, QWIDGETSIZE_MAX);
+    addRow("lowest", lowest, -QWIDGETSIZE_MAX);
 }
 
 void tst_MultiPageHostileHost::dialogAtAPlaceBeyondAnyScreen()
@@ -208,11 +208,11 @@ void tst_MultiPageHostileHost::dialogAtAPlaceBeyondAnyScreen()
 
 void tst_MultiPageHostileHost::longTexts()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     QSignalSpy started(&panel, &MultiPagePrintWidget::startPageChangedSignal);
     panel.setPageInfo(1, 10, true);
     started.clear();
-    part<QLineEdit>(panel, "pageListEdit")->setText(QStringLiteral("9999,").repeated(200000));
+    panel.pageList()->setText(QStringLiteral("9999,").repeated(200000));
     QCOMPARE(takeNumbers(started), QList<int>({-1}));
     const QString name = QStringLiteral("<b>printer</b>\n").repeated(10000);
     panel.updateListOfPrinters({name}, 0);
@@ -227,7 +227,7 @@ void tst_MultiPageHostileHost::longTexts()
 
 void tst_MultiPageHostileHost::operationsInAnyOrder()
 {
-    MultiPagePrintWidget panel(true, true, nullptr);
+    MultiPageFixture panel(true, true);
     panel.setSelectedPrinter(QString());
     panel.set180OrientationVisible(false);
     panel.set180OrientationCheck(true);
@@ -242,11 +242,11 @@ void tst_MultiPageHostileHost::operationsInAnyOrder()
     QVERIFY(!panel.grab().isNull());
     // A group without its buttons still answers.
     for (const char* name : {"currentPageRadio", "allPagesRadio", "selectionRadio"}) {
-        auto* radio = part<QAbstractButton>(panel, name);
-        part<QButtonGroup>(panel, "pageRangeButtonGroup")->removeButton(radio);
+        auto* radio = panel.part<QAbstractButton>(name);
+        panel.part<QButtonGroup>("pageRangeButtonGroup")->removeButton(radio);
     }
     panel.recordsRadioChangedSlot(true);
-    QVERIFY(part<QLineEdit>(panel, "pageListEdit")->isEnabled());
+    QVERIFY(panel.pageList()->isEnabled());
 }
 
 void tst_MultiPageHostileHost::manyPanelsAndDialogs()

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "multipageprobe.h"
+#include "multipagefixture.h"
+#include "support/expectedsheet.h"
 #include "support/layoutdescription.h"
 #include "support/stricttest.h"
 
@@ -78,7 +79,7 @@ private Q_SLOTS:
 
 void tst_MultiPageLayout::sectionsInOrder()
 {
-    const MultiPagePrintWidget panel(false, false, nullptr);
+    const MultiPageFixture panel;
     const QStringList expected = {QStringLiteral("QLabel"),
                                   QStringLiteral("separator"),
                                   QStringLiteral("QLabel"),
@@ -101,7 +102,7 @@ void tst_MultiPageLayout::sectionsInOrder()
 
 void tst_MultiPageLayout::captionHeights()
 {
-    const MultiPagePrintWidget panel(false, false, nullptr);
+    const MultiPageFixture panel;
     const QLabel* printer = labelWithText(panel, QStringLiteral("Printer:"));
     QCOMPARE(printer->minimumHeight(), 30);
     QCOMPARE(printer->maximumHeight(), 30);
@@ -112,7 +113,7 @@ void tst_MultiPageLayout::captionHeights()
 
 void tst_MultiPageLayout::printerGrid()
 {
-    const MultiPagePrintWidget panel(false, false, nullptr);
+    const MultiPageFixture panel;
     const auto* grid = qobject_cast<QGridLayout*>(layoutAt(panel, 3));
     QVERIFY(grid);
     QCOMPARE(grid->contentsMargins(), QMargins(0, 0, 0, 0));
@@ -128,8 +129,8 @@ void tst_MultiPageLayout::printerGrid()
 
 void tst_MultiPageLayout::pageRangeFrame()
 {
-    const MultiPagePrintWidget panel(false, false, nullptr);
-    const auto* frame = part<QFrame>(panel, "pageRangeFrame");
+    const MultiPageFixture panel;
+    const auto* frame = panel.part<QFrame>("pageRangeFrame");
     QCOMPARE(frame->minimumWidth(), 260);
     QCOMPARE(frame->maximumWidth(), 260);
     QCOMPARE(frame->layout()->metaObject()->className(), "QVBoxLayout");
@@ -146,8 +147,8 @@ void tst_MultiPageLayout::pageRangeFrame()
 
 void tst_MultiPageLayout::copiesFrame()
 {
-    const MultiPagePrintWidget panel(false, false, nullptr);
-    const auto* frame = part<QFrame>(panel, "copiesFrame");
+    const MultiPageFixture panel;
+    const auto* frame = panel.part<QFrame>("copiesFrame");
     QCOMPARE(frame->minimumWidth(), 260);
     QCOMPARE(frame->maximumWidth(), 260);
     QCOMPARE(frame->layout()->metaObject()->className(), "QHBoxLayout");
@@ -162,7 +163,7 @@ void tst_MultiPageLayout::copiesFrame()
 
 void tst_MultiPageLayout::optionsGrid()
 {
-    const MultiPagePrintWidget panel(false, false, nullptr);
+    const MultiPageFixture panel;
     const auto* grid = qobject_cast<QGridLayout*>(layoutAt(panel, 11));
     QVERIFY(grid);
     QCOMPARE(layoutDescription(grid), QStringList({QStringLiteral("QCheckBox formFillCheck"),
@@ -171,7 +172,7 @@ void tst_MultiPageLayout::optionsGrid()
     QCOMPARE(placesOf(grid), QStringList({QStringLiteral("0,0 1x2 %1").arg(int(Qt::AlignLeft)),
                                           QStringLiteral("1,0 1x1 %1").arg(int(Qt::AlignLeft)),
                                           QStringLiteral("1,1 1x1 %1").arg(int(Qt::AlignRight))}));
-    const QSizePolicy policy = part<QWidget>(panel, "PrintButton")->sizePolicy();
+    const QSizePolicy policy = panel.part<QWidget>("PrintButton")->sizePolicy();
     QCOMPARE(policy.horizontalPolicy(), QSizePolicy::Expanding);
     QCOMPARE(policy.verticalPolicy(), QSizePolicy::Fixed);
 }
@@ -179,11 +180,11 @@ void tst_MultiPageLayout::optionsGrid()
 void tst_MultiPageLayout::fixedSizes_data()
 {
     QTest::addColumn<QSize>("size");
-    QTest::newRow("PrinterListCombo") << QSize(200, 35);
-    QTest::newRow("PreferencesButton") << QSize(35, 35);
-    QTest::newRow("copiesEdit") << QSize(50, 35);
-    QTest::newRow("minusButton") << QSize(35, 35);
-    QTest::newRow("plusButton") << QSize(35, 35);
+    addRow("PrinterListCombo", QSize(200, 35));
+    addRow("PreferencesButton", QSize(35, 35));
+    addRow("copiesEdit", QSize(50, 35));
+    addRow("minusButton", QSize(35, 35));
+    addRow("plusButton", QSize(35, 35));
 }
 
 // The panel's style sheet asks for 35 pixels inside the border of buttons and combo boxes, which
@@ -191,8 +192,8 @@ void tst_MultiPageLayout::fixedSizes_data()
 void tst_MultiPageLayout::fixedSizes()
 {
     QFETCH(const QSize, size);
-    MultiPagePrintWidget panel(false, false, nullptr);
-    const auto* widget = part<QWidget>(panel, QTest::currentDataTag());
+    MultiPageFixture panel;
+    const auto* widget = panel.part<QWidget>(QTest::currentDataTag());
     QCOMPARE(widget->maximumSize(), size);
     QCOMPARE(widget->minimumWidth(), size.width());
     QVERIFY(showActive(panel));
@@ -202,8 +203,8 @@ void tst_MultiPageLayout::fixedSizes()
 
 void tst_MultiPageLayout::settingsIconFillsItsButton()
 {
-    const MultiPagePrintWidget panel(false, false, nullptr);
-    auto* button = part<QPushButton>(panel, "PreferencesButton");
+    const MultiPageFixture panel;
+    auto* button = panel.part<QPushButton>("PreferencesButton");
     QCOMPARE(button->iconSize(), QSize(35, 35));
     button->ensurePolished();
     QCOMPARE(button->icon().actualSize(QSize(45, 45)), QSize(45, 45));
@@ -214,14 +215,14 @@ void tst_MultiPageLayout::fixedHeights_data()
     QTest::addColumn<int>("height");
     for (const char* name : {"currentPageRadio", "allPagesRadio", "selectionRadio"})
         QTest::newRow(name) << 35;
-    QTest::newRow("pageListEdit") << 36;
+    addRow("pageListEdit", 36);
 }
 
 void tst_MultiPageLayout::fixedHeights()
 {
     QFETCH(const int, height);
-    const MultiPagePrintWidget panel(false, false, nullptr);
-    const auto* widget = part<QWidget>(panel, QTest::currentDataTag());
+    const MultiPageFixture panel;
+    const auto* widget = panel.part<QWidget>(QTest::currentDataTag());
     QCOMPARE(widget->minimumHeight(), height);
     QCOMPARE(widget->maximumHeight(), height);
     QCOMPARE(widget->maximumWidth(), QWIDGETSIZE_MAX);
@@ -247,8 +248,8 @@ void tst_MultiPageLayout::styleSheets_data()
 void tst_MultiPageLayout::styleSheets()
 {
     QFETCH(const QByteArray, role);
-    const MultiPagePrintWidget panel(false, false, nullptr);
-    QCOMPARE(part<QWidget>(panel, QTest::currentDataTag())->styleSheet(),
+    const MultiPageFixture panel;
+    QCOMPARE(panel.part<QWidget>(QTest::currentDataTag())->styleSheet(),
              role.isEmpty() ? QString() : expectedSheet(role.constData()));
 }
 
@@ -263,20 +264,20 @@ void tst_MultiPageLayout::focusPolicies_data()
 
 void tst_MultiPageLayout::focusPolicies()
 {
-    const MultiPagePrintWidget panel(false, false, nullptr);
-    QTEST(part<QWidget>(panel, QTest::currentDataTag())->focusPolicy() != Qt::NoFocus,
+    const MultiPageFixture panel;
+    QTEST(panel.part<QWidget>(QTest::currentDataTag())->focusPolicy() != Qt::NoFocus,
           "takesTheFocus");
 }
 
 void tst_MultiPageLayout::pageListRefusesTheContextMenu()
 {
-    const MultiPagePrintWidget panel(false, false, nullptr);
-    QCOMPARE(part<QLineEdit>(panel, "pageListEdit")->contextMenuPolicy(), Qt::NoContextMenu);
+    const MultiPageFixture panel;
+    QCOMPARE(panel.pageList()->contextMenuPolicy(), Qt::NoContextMenu);
 }
 
 void tst_MultiPageLayout::buttonsAreNotAutoDefault()
 {
-    auto* panel = new MultiPagePrintWidget(false, false, nullptr);
+    auto* panel = new MultiPageFixture;
     const MultiPagePrintDialog dialog(panel, nullptr, Qt::WindowFlags());
     const QList<QPushButton*> buttons = panel->findChildren<QPushButton*>();
     QCOMPARE(buttons.size(), 4);
@@ -288,7 +289,7 @@ void tst_MultiPageLayout::buttonsAreNotAutoDefault()
 
 void tst_MultiPageLayout::separatorBarsAreGrey()
 {
-    const MultiPagePrintWidget panel(false, false, nullptr);
+    const MultiPageFixture panel;
     int bars = 0;
     for (int i = 0; i < panel.layout()->count(); ++i) {
         const auto* bar = qobject_cast<QFrame*>(panel.layout()->itemAt(i)->widget());
@@ -302,7 +303,7 @@ void tst_MultiPageLayout::separatorBarsAreGrey()
 
 void tst_MultiPageLayout::everyOptionFitsIntoTheDialog()
 {
-    auto* panel = new MultiPagePrintWidget(false, false, nullptr);
+    auto* panel = new MultiPageFixture;
     MultiPagePrintDialog dialog(panel, nullptr, Qt::FramelessWindowHint);
     QVERIFY(showActive(dialog));
     QVERIFY(panel->height() >= panel->minimumSizeHint().height());
@@ -310,15 +311,15 @@ void tst_MultiPageLayout::everyOptionFitsIntoTheDialog()
     for (const char* name :
          {"PrinterListCombo", "orientationCheck", "currentPageRadio", "allPagesRadio",
           "selectionRadio", "pageListEdit", "copiesEdit", "formFillCheck", "fitToPageCheck"}) {
-        const auto* widget = part<QWidget>(*panel, name);
+        const auto* widget = panel->part<QWidget>(name);
         const QRect place(widget->mapTo(panel, QPoint()), widget->size());
         QVERIFY2(place.top() > bottom, name);
         QVERIFY2(panel->rect().contains(place), name);
         QVERIFY2(place.width() >= widget->minimumSizeHint().width(), name);
         bottom = place.bottom();
     }
-    const auto* print = part<QWidget>(*panel, "PrintButton");
-    const auto* fit = part<QWidget>(*panel, "fitToPageCheck");
+    const auto* print = panel->part<QWidget>("PrintButton");
+    const auto* fit = panel->part<QWidget>("fitToPageCheck");
     QVERIFY(print->geometry().left() > fit->geometry().right());
     QCOMPARE(print->geometry().right(), panel->rect().right());
     QVERIFY(print->width() >= print->sizeHint().width());
@@ -326,16 +327,13 @@ void tst_MultiPageLayout::everyOptionFitsIntoTheDialog()
 
 void tst_MultiPageLayout::thePanelOwnsAllItShows()
 {
-    QList<QPointer<QWidget>> parts;
+    QList<QPointer<QObject>> parts;
     {
-        const MultiPagePrintWidget panel(false, false, nullptr);
-        const QList<QWidget*> children = panel.findChildren<QWidget*>();
-        for (QWidget* child : children)
-            parts.append(child);
-        QVERIFY(parts.size() > 20);
+        MultiPageFixture panel;
+        parts = partsOf(&panel);
+        QVERIFY(panel.findChildren<QWidget*>().size() > 20);
     }
-    for (const QPointer<QWidget>& widget : std::as_const(parts))
-        QVERIFY(widget.isNull());
+    QVERIFY(areGone(parts));
 }
 
 QTEST_MAIN(tst_MultiPageLayout)

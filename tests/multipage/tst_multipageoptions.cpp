@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "multipageprobe.h"
+#include "multipagefixture.h"
 #include "support/stricttest.h"
 
 #include <printpanels/multipageprintwidget.h>
@@ -23,11 +23,6 @@ const Option options[] = {
     {"fitToPageCheck", &MultiPagePrintWidget::fitToPageChangedSignal, false},
     {"orientationCheck", &MultiPagePrintWidget::orientationChangedSignal, false}};
 
-QCheckBox* check(const QWidget& panel, const char* name)
-{
-    return part<QCheckBox>(panel, name);
-}
-
 } // namespace
 
 /** The three check boxes. */
@@ -46,7 +41,7 @@ private Q_SLOTS:
     void orientationCheckByName();
     void orientationVisibility();
     void hiddenOptionsAreShownAgainWithTheWindow();
-    void otherListenersStillHearOfTheHostsChange();
+    void otherReceiversAreStillNotifiedOfTheHostsChange();
 };
 
 void tst_MultiPageOptions::aClickIsReportedWithItsState_data()
@@ -60,11 +55,11 @@ void tst_MultiPageOptions::aClickIsReportedWithItsState_data()
 void tst_MultiPageOptions::aClickIsReportedWithItsState()
 {
     QFETCH(const int, row);
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     QSignalSpy spies[] = {QSignalSpy(&panel, options[0].signal),
                           QSignalSpy(&panel, options[1].signal),
                           QSignalSpy(&panel, options[2].signal)};
-    auto* box = check(panel, options[row].name);
+    auto* box = panel.check(options[row].name);
     QCOMPARE(box->isChecked(), options[row].startsChecked);
     QVERIFY(!box->isTristate());
     clickOn(box);
@@ -77,11 +72,11 @@ void tst_MultiPageOptions::aClickIsReportedWithItsState()
 
 void tst_MultiPageOptions::keyboardIsReported()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     QVERIFY(showActive(panel));
     QSignalSpy changed(&panel, &MultiPagePrintWidget::fitToPageChangedSignal);
-    check(panel, "fitToPageCheck")->setFocus();
-    QTest::keyClick(check(panel, "fitToPageCheck"), Qt::Key_Space);
+    panel.check("fitToPageCheck")->setFocus();
+    QTest::keyClick(panel.check("fitToPageCheck"), Qt::Key_Space);
     QCOMPARE(takeNumbers(changed), QList<int>({2}));
 }
 
@@ -89,86 +84,86 @@ void tst_MultiPageOptions::formFillOption_data()
 {
     QTest::addColumn<bool>("visible");
     QTest::addColumn<bool>("checked");
-    QTest::newRow("shown, checked") << true << true;
-    QTest::newRow("shown, unchecked") << true << false;
-    QTest::newRow("hidden, checked") << false << true;
-    QTest::newRow("hidden, unchecked") << false << false;
+    addRow("shown, checked", true, true);
+    addRow("shown, unchecked", true, false);
+    addRow("hidden, checked", false, true);
+    addRow("hidden, unchecked", false, false);
 }
 
 void tst_MultiPageOptions::formFillOption()
 {
     QFETCH(const bool, visible);
     QFETCH(const bool, checked);
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     QVERIFY(showActive(panel));
     QSignalSpy changed(&panel, &MultiPagePrintWidget::printFormFillChangedSignal);
     for (const bool before : {false, true}) {
         panel.setFormFillOption(before, before);
         panel.setFormFillOption(visible, checked);
-        QCOMPARE(check(panel, "formFillCheck")->isVisible(), visible);
-        QCOMPARE(check(panel, "formFillCheck")->isChecked(), checked);
+        QCOMPARE(panel.check("formFillCheck")->isVisible(), visible);
+        QCOMPARE(panel.check("formFillCheck")->isChecked(), checked);
     }
     QCOMPARE(changed.size(), 0);
 }
 
 void tst_MultiPageOptions::formFillOptionLeavesTheConnectionOnce()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     for (int i = 0; i < 3; ++i)
         panel.setFormFillOption(true, i % 2 == 0);
     QSignalSpy changed(&panel, &MultiPagePrintWidget::printFormFillChangedSignal);
-    clickOn(check(panel, "formFillCheck"));
+    clickOn(panel.check("formFillCheck"));
     QCOMPARE(takeNumbers(changed), QList<int>({0}));
 }
 
 void tst_MultiPageOptions::orientationCheckIsSetSilently()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     QSignalSpy changed(&panel, &MultiPagePrintWidget::orientationChangedSignal);
     for (const bool checked : {true, true, false, false, true}) {
         panel.set180OrientationCheck(checked);
-        QCOMPARE(check(panel, "orientationCheck")->isChecked(), checked);
+        QCOMPARE(panel.check("orientationCheck")->isChecked(), checked);
     }
     QCOMPARE(changed.size(), 0);
-    clickOn(check(panel, "orientationCheck"));
+    clickOn(panel.check("orientationCheck"));
     QCOMPARE(takeNumbers(changed), QList<int>({0}));
 }
 
 void tst_MultiPageOptions::orientationCheckByName()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     QVERIFY(QMetaObject::invokeMethod(&panel, "set180OrientationCheck", Q_ARG(bool, true)));
-    QVERIFY(check(panel, "orientationCheck")->isChecked());
+    QVERIFY(panel.check("orientationCheck")->isChecked());
 }
 
 void tst_MultiPageOptions::orientationVisibility()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     QVERIFY(showActive(panel));
     panel.set180OrientationCheck(true);
     panel.set180OrientationVisible(false);
-    QVERIFY(!check(panel, "orientationCheck")->isVisible());
-    QVERIFY(check(panel, "orientationCheck")->isChecked());
+    QVERIFY(!panel.check("orientationCheck")->isVisible());
+    QVERIFY(panel.check("orientationCheck")->isChecked());
     panel.set180OrientationVisible(true);
-    QVERIFY(check(panel, "orientationCheck")->isVisible());
+    QVERIFY(panel.check("orientationCheck")->isVisible());
 }
 
 void tst_MultiPageOptions::hiddenOptionsAreShownAgainWithTheWindow()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     panel.setFormFillOption(true, true);
     panel.set180OrientationVisible(true);
     QVERIFY(!panel.isVisible());
-    QVERIFY(!check(panel, "formFillCheck")->isVisible());
+    QVERIFY(!panel.check("formFillCheck")->isVisible());
     panel.show();
-    QVERIFY(check(panel, "formFillCheck")->isVisible());
-    QVERIFY(check(panel, "orientationCheck")->isVisible());
+    QVERIFY(panel.check("formFillCheck")->isVisible());
+    QVERIFY(panel.check("orientationCheck")->isVisible());
 }
 
-void tst_MultiPageOptions::otherListenersStillHearOfTheHostsChange()
+void tst_MultiPageOptions::otherReceiversAreStillNotifiedOfTheHostsChange()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
-    QSignalSpy box(check(panel, "orientationCheck"), &QCheckBox::stateChanged);
+    MultiPageFixture panel;
+    QSignalSpy box(panel.check("orientationCheck"), &QCheckBox::stateChanged);
     panel.set180OrientationCheck(true);
     QCOMPARE(takeNumbers(box), QList<int>({2}));
 }

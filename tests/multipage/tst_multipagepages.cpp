@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "multipageprobe.h"
+#include "multipagefixture.h"
 #include "support/stricttest.h"
 
 #include <printpanels/multipageprintwidget.h>
@@ -23,15 +23,10 @@ enum Choice { Current, All, Selection };
 constexpr int lowest = std::numeric_limits<int>::min();
 constexpr int highest = std::numeric_limits<int>::max();
 
-QRadioButton* radio(const QWidget& panel, int choice)
+QRadioButton* radio(const MultiPageFixture& panel, int choice)
 {
     const char* const names[] = {"currentPageRadio", "allPagesRadio", "selectionRadio"};
-    return part<QRadioButton>(panel, names[choice]);
-}
-
-QLineEdit* pageList(const QWidget& panel)
-{
-    return part<QLineEdit>(panel, "pageListEdit");
+    return panel.part<QRadioButton>(names[choice]);
 }
 
 /** A panel that shows a page of a document, with a choice made and a list typed. */
@@ -39,17 +34,16 @@ class Document
 {
 public:
     Document(int choice, const QString& list, int current, int count)
-        : panel(false, false, nullptr),
-          started(&panel, &MultiPagePrintWidget::startPageChangedSignal),
+        : started(&panel, &MultiPagePrintWidget::startPageChangedSignal),
           printed(&panel, &PrintWidgetInterface::widgetPrintSignal)
     {
-        pageList(panel)->setText(list);
+        panel.pageList()->setText(list);
         radio(panel, choice)->setChecked(true);
         panel.setPageInfo(current, count, true);
         started.clear();
     }
 
-    MultiPagePrintWidget panel;
+    MultiPageFixture panel;
     QSignalSpy started;
     QSignalSpy printed;
 };
@@ -91,7 +85,7 @@ private Q_SLOTS:
     void typingRefusesWhatIsNoList_data();
     void typingRefusesWhatIsNoList();
     void listIsReadWhicheverChoiceIsMade();
-    void parseTellsWhetherTheStartChanged();
+    void parseReturnsWhetherTheStartChanged();
 
     void printRequests_data();
     void printRequests();
@@ -102,7 +96,7 @@ private Q_SLOTS:
 
 void tst_MultiPagePages::freshPanelStandsForTheFirstPage()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     QSignalSpy printed(&panel, &PrintWidgetInterface::widgetPrintSignal);
     QSignalSpy started(&panel, &MultiPagePrintWidget::startPageChangedSignal);
     panel.printSlot();
@@ -114,7 +108,7 @@ void tst_MultiPagePages::freshPanelStandsForTheFirstPage()
 
 void tst_MultiPagePages::freshPanelReckonsWith99999Pages()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     QSignalSpy printed(&panel, &PrintWidgetInterface::widgetPrintSignal);
     QSignalSpy started(&panel, &MultiPagePrintWidget::startPageChangedSignal);
     clickOn(radio(panel, All));
@@ -122,15 +116,15 @@ void tst_MultiPagePages::freshPanelReckonsWith99999Pages()
     panel.printSlot();
     QCOMPARE(takeRequests(printed), Requests({{1, 99999, QString()}}));
     clickOn(radio(panel, Selection));
-    pageList(panel)->setText(QStringLiteral("99999"));
-    pageList(panel)->setText(QStringLiteral("100000"));
+    panel.pageList()->setText(QStringLiteral("99999"));
+    panel.pageList()->setText(QStringLiteral("100000"));
     QCOMPARE(takeNumbers(started), QList<int>({99999, -1}));
 }
 
 void tst_MultiPagePages::radiosAreOneExclusiveGroup()
 {
-    const MultiPagePrintWidget panel(false, false, nullptr);
-    const auto* group = part<QButtonGroup>(panel, "pageRangeButtonGroup");
+    const MultiPageFixture panel;
+    const auto* group = panel.part<QButtonGroup>("pageRangeButtonGroup");
     QCOMPARE(group->parent(), &panel);
     QVERIFY(group->exclusive());
     QCOMPARE(group->buttons().size(), 3);
@@ -143,20 +137,20 @@ void tst_MultiPagePages::pageInfoForcesOneReport_data()
 {
     QTest::addColumn<int>("current");
     QTest::addColumn<int>("count");
-    QTest::newRow("page 3 of 10") << 3 << 10;
-    QTest::newRow("page 1 of 1, where it was") << 1 << 1;
-    QTest::newRow("page 0") << 0 << 10;
-    QTest::newRow("page beyond the end") << 20 << 10;
-    QTest::newRow("no pages") << 1 << 0;
-    QTest::newRow("lowest") << lowest << lowest;
-    QTest::newRow("highest") << highest << highest;
+    addRow("page 3 of 10", 3, 10);
+    addRow("page 1 of 1, where it was", 1, 1);
+    addRow("page 0", 0, 10);
+    addRow("page beyond the end", 20, 10);
+    addRow("no pages", 1, 0);
+    addRow("lowest", lowest, lowest);
+    addRow("highest", highest, highest);
 }
 
 void tst_MultiPagePages::pageInfoForcesOneReport()
 {
     QFETCH(const int, current);
     QFETCH(const int, count);
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     QSignalSpy started(&panel, &MultiPagePrintWidget::startPageChangedSignal);
     QSignalSpy printed(&panel, &PrintWidgetInterface::widgetPrintSignal);
     panel.setPageInfo(current, count, true);
@@ -173,11 +167,11 @@ void tst_MultiPagePages::pageInfoReportsTheSamePageAgain_data()
     QTest::addColumn<int>("choice");
     QTest::addColumn<QString>("list");
     QTest::addColumn<int>("reported");
-    QTest::newRow("current page") << int(Current) << QString() << 3;
-    QTest::newRow("all pages") << int(All) << QString() << 1;
-    QTest::newRow("empty selection") << int(Selection) << QString() << 3;
-    QTest::newRow("selection") << int(Selection) << QStringLiteral("7-9,2") << 7;
-    QTest::newRow("selection of no page") << int(Selection) << QStringLiteral("12") << -1;
+    addRow("current page", int(Current), QString(), 3);
+    addRow("all pages", int(All), QString(), 1);
+    addRow("empty selection", int(Selection), QString(), 3);
+    addRow("selection", int(Selection), "7-9,2", 7);
+    addRow("selection of no page", int(Selection), "12", -1);
 }
 
 void tst_MultiPagePages::pageInfoReportsTheSamePageAgain()
@@ -221,8 +215,8 @@ void tst_MultiPagePages::pageInfoOfASelectionMayReportTwice()
 
 void tst_MultiPagePages::pageInfoEnablesTheWholeFrame()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
-    const auto* frame = part<QFrame>(panel, "pageRangeFrame");
+    MultiPageFixture panel;
+    const auto* frame = panel.part<QFrame>("pageRangeFrame");
     QVERIFY(frame->isEnabled());
     panel.setPageInfo(1, 1, false);
     QVERIFY(!frame->isEnabled());
@@ -232,7 +226,7 @@ void tst_MultiPagePages::pageInfoEnablesTheWholeFrame()
     QVERIFY(frame->isEnabled());
     for (int choice : {Current, All, Selection})
         QVERIFY(radio(panel, choice)->isEnabled());
-    QVERIFY(!pageList(panel)->isEnabled());
+    QVERIFY(!panel.pageList()->isEnabled());
 }
 
 void tst_MultiPagePages::currentIndexReports_data()
@@ -293,7 +287,7 @@ void tst_MultiPagePages::clicksOnTheRadios()
     QCOMPARE(click(All), QList<int>());
     QCOMPARE(click(Selection), QList<int>({3}));
     QCOMPARE(click(Current), QList<int>());
-    pageList(document.panel)->setText(QStringLiteral("5"));
+    document.panel.pageList()->setText(QStringLiteral("5"));
     QCOMPARE(takeNumbers(document.started), QList<int>({5}));
     QCOMPARE(click(Selection), QList<int>());
     QCOMPARE(click(All), QList<int>({1}));
@@ -305,9 +299,9 @@ void tst_MultiPagePages::listIsEnabledForTheSelectionOnly_data()
 {
     QTest::addColumn<int>("choice");
     QTest::addColumn<bool>("enabled");
-    QTest::newRow("current page") << int(Current) << false;
-    QTest::newRow("all pages") << int(All) << false;
-    QTest::newRow("selection") << int(Selection) << true;
+    addRow("current page", int(Current), false);
+    addRow("all pages", int(All), false);
+    addRow("selection", int(Selection), true);
 }
 
 void tst_MultiPagePages::listIsEnabledForTheSelectionOnly()
@@ -317,18 +311,18 @@ void tst_MultiPagePages::listIsEnabledForTheSelectionOnly()
     for (int before : {Current, All, Selection}) {
         Document document(before, QStringLiteral("4"), 3, 10);
         clickOn(radio(document.panel, choice));
-        QCOMPARE(pageList(document.panel)->isEnabled(), enabled);
-        QCOMPARE(pageList(document.panel)->text(), QStringLiteral("4"));
+        QCOMPARE(document.panel.pageList()->isEnabled(), enabled);
+        QCOMPARE(document.panel.pageList()->text(), QStringLiteral("4"));
     }
 }
 
 void tst_MultiPagePages::listIsEnabledWhenNoRadioIsChecked()
 {
     Document document(Current, QString(), 3, 10);
-    part<QButtonGroup>(document.panel, "pageRangeButtonGroup")->setExclusive(false);
+    document.panel.part<QButtonGroup>("pageRangeButtonGroup")->setExclusive(false);
     radio(document.panel, Current)->setChecked(false);
     document.panel.recordsRadioChangedSlot();
-    QVERIFY(pageList(document.panel)->isEnabled());
+    QVERIFY(document.panel.pageList()->isEnabled());
     document.panel.printSlot();
     QCOMPARE(takeRequests(document.printed), Requests({{3, 3, QString()}}));
 }
@@ -338,9 +332,9 @@ void tst_MultiPagePages::checkRangeUpdateLeavesTheListAsItIs()
     Document document(Current, QString(), 3, 10);
     radio(document.panel, Selection)->setChecked(true);
     document.panel.checkRangeUpdate(false);
-    QVERIFY(!pageList(document.panel)->isEnabled());
+    QVERIFY(!document.panel.pageList()->isEnabled());
     QVERIFY(QMetaObject::invokeMethod(&document.panel, "recordsRadioChangedSlot"));
-    QVERIFY(pageList(document.panel)->isEnabled());
+    QVERIFY(document.panel.pageList()->isEnabled());
     QCOMPARE(document.started.size(), 0);
 }
 
@@ -373,8 +367,8 @@ void tst_MultiPagePages::updatesReport()
         for (const bool force : {false, true}) {
             Document document(Current, QString(), 3, 10);
             {
-                const QSignalBlocker untold(pageList(document.panel));
-                pageList(document.panel)->setText(list);
+                const QSignalBlocker blocker(document.panel.pageList());
+                document.panel.pageList()->setText(list);
             }
             radio(document.panel, choice)->setChecked(true);
             (document.panel.*update)(force);
@@ -392,19 +386,19 @@ void tst_MultiPagePages::typingReportsEachNewStart()
     Document document(Current, QString(), 3, 10);
     QVERIFY(showActive(document.panel));
     clickOn(radio(document.panel, Selection));
-    pageList(document.panel)->setFocus();
+    document.panel.pageList()->setFocus();
     const auto type = [&document](const QString& keys) {
-        QTest::keyClicks(pageList(document.panel), keys);
+        QTest::keyClicks(document.panel.pageList(), keys);
         return takeNumbers(document.started);
     };
     QCOMPARE(type(QStringLiteral("7")), QList<int>({7}));
     QCOMPARE(type(QStringLiteral("-9,2")), QList<int>());
-    QCOMPARE(pageList(document.panel)->text(), QStringLiteral("7-9,2"));
-    QTest::keyClick(pageList(document.panel), Qt::Key_Home);
+    QCOMPARE(document.panel.pageList()->text(), QStringLiteral("7-9,2"));
+    QTest::keyClick(document.panel.pageList(), Qt::Key_Home);
     // 17-9,2: no page 17, so page 2
     QCOMPARE(type(QStringLiteral("1")), QList<int>({2}));
-    QTest::keyClick(pageList(document.panel), Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(pageList(document.panel), Qt::Key_Delete);
+    QTest::keyClick(document.panel.pageList(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(document.panel.pageList(), Qt::Key_Delete);
     QCOMPARE(takeNumbers(document.started), QList<int>({3}));
 }
 
@@ -413,7 +407,7 @@ void tst_MultiPagePages::typingBeyondTheEndReportsNoPage()
     Document document(Current, QString(), 3, 10);
     QVERIFY(showActive(document.panel));
     clickOn(radio(document.panel, Selection));
-    QTest::keyClicks(pageList(document.panel), QStringLiteral("12"));
+    QTest::keyClicks(document.panel.pageList(), QStringLiteral("12"));
     QCOMPARE(takeNumbers(document.started), QList<int>({1, -1}));
     document.panel.printSlot();
     QCOMPARE(takeRequests(document.printed), Requests({{0, 0, QStringLiteral("12")}}));
@@ -422,15 +416,15 @@ void tst_MultiPagePages::typingBeyondTheEndReportsNoPage()
 void tst_MultiPagePages::typingRefusesWhatIsNoList_data()
 {
     QTest::addColumn<QString>("kept");
-    QTest::newRow("0") << QString();
-    QTest::newRow("01") << QStringLiteral("1");
-    QTest::newRow("1,,2") << QStringLiteral("1,2");
-    QTest::newRow("1 - 3") << QStringLiteral("1-3");
-    QTest::newRow("12345") << QStringLiteral("1234");
-    QTest::newRow("1-2-3") << QStringLiteral("1-23");
-    QTest::newRow("abc") << QString();
-    QTest::newRow("1,4-5,11-20,33") << QStringLiteral("1,4-5,11-20,33");
-    QTest::newRow("20-11") << QStringLiteral("20-11");
+    addRow("0", QString());
+    addRow("01", "1");
+    addRow("1,,2", "1,2");
+    addRow("1 - 3", "1-3");
+    addRow("12345", "1234");
+    addRow("1-2-3", "1-23");
+    addRow("abc", QString());
+    addRow("1,4-5,11-20,33", "1,4-5,11-20,33");
+    addRow("20-11", "20-11");
 }
 
 void tst_MultiPagePages::typingRefusesWhatIsNoList()
@@ -438,29 +432,29 @@ void tst_MultiPagePages::typingRefusesWhatIsNoList()
     Document document(Current, QString(), 3, 10);
     QVERIFY(showActive(document.panel));
     clickOn(radio(document.panel, Selection));
-    QTest::keyClicks(pageList(document.panel), QLatin1String(QTest::currentDataTag()));
-    QTEST(pageList(document.panel)->text(), "kept");
+    QTest::keyClicks(document.panel.pageList(), QLatin1String(QTest::currentDataTag()));
+    QTEST(document.panel.pageList()->text(), "kept");
 }
 
 void tst_MultiPagePages::listIsReadWhicheverChoiceIsMade()
 {
     Document document(Current, QString(), 3, 10);
-    pageList(document.panel)->setText(QStringLiteral("7"));
+    document.panel.pageList()->setText(QStringLiteral("7"));
     QCOMPARE(takeNumbers(document.started), QList<int>({7}));
     document.panel.updateCurrentRangeIndex(2);
     QCOMPARE(takeNumbers(document.started), QList<int>({3}));
-    pageList(document.panel)->setText(QStringLiteral("12"));
+    document.panel.pageList()->setText(QStringLiteral("12"));
     document.panel.checkRangeUpdate(false);
     QCOMPARE(takeNumbers(document.started), QList<int>({-1, 3}));
 }
 
-void tst_MultiPagePages::parseTellsWhetherTheStartChanged()
+void tst_MultiPagePages::parseReturnsWhetherTheStartChanged()
 {
     Document document(Current, QString(), 3, 10);
     QVERIFY(!document.panel.listRangeParse());
     {
-        const QSignalBlocker untold(pageList(document.panel));
-        pageList(document.panel)->setText(QStringLiteral("5-9,2"));
+        const QSignalBlocker blocker(document.panel.pageList());
+        document.panel.pageList()->setText(QStringLiteral("5-9,2"));
     }
     QVERIFY(document.panel.listRangeParse());
     QVERIFY(!document.panel.listRangeParse());
@@ -500,7 +494,7 @@ void tst_MultiPagePages::printRequests()
 void tst_MultiPagePages::printButtonAsksWhileEnabled()
 {
     Document document(All, QString(), 3, 10);
-    auto* button = part<QAbstractButton>(document.panel, "PrintButton");
+    auto* button = document.panel.part<QAbstractButton>("PrintButton");
     clickOn(button);
     QCOMPARE(document.printed.size(), 0);
     document.panel.enablePrintButtons();
@@ -533,7 +527,7 @@ void tst_MultiPagePages::aHostMayFollowTheStartPage()
                     document.panel.updateCurrentRangeIndex(page - 1);
             });
     clickOn(radio(document.panel, Selection));
-    pageList(document.panel)->setText(QStringLiteral("8"));
+    document.panel.pageList()->setText(QStringLiteral("8"));
     QCOMPARE(shown, QList<int>({8}));
     clickOn(radio(document.panel, All));
     QCOMPARE(shown, QList<int>({8, 1}));

@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "multipageprobe.h"
+#include "multipagefixture.h"
+#include "preview/referencecanvas.h"
+#include "support/expectedsheet.h"
 #include "support/layoutdescription.h"
 #include "support/metamethods.h"
 #include "support/stricttest.h"
@@ -49,23 +51,7 @@ QImage page(const QSize& size, const QColor& color)
 /** The rectangle of a colour in what a widget shows. */
 QRect areaOf(QWidget* widget, const QColor& color)
 {
-    const QImage shown = widget->grab().toImage().convertToFormat(QImage::Format_RGB32);
-    QRect area;
-    for (int y = 0; y < shown.height(); ++y) {
-        for (int x = 0; x < shown.width(); ++x) {
-            if (shown.pixelColor(x, y) == color)
-                area |= QRect(x, y, 1, 1);
-        }
-    }
-    return area;
-}
-
-void turnWheel(QWidget* view, int delta)
-{
-    const QPointF place = QRectF(view->rect()).center();
-    QWheelEvent event(place, view->mapToGlobal(place), QPoint(), QPoint(0, delta), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(view, &event);
+    return extentOf(widget->grab().toImage().convertToFormat(QImage::Format_RGB32), color);
 }
 
 void drag(QWidget* widget, const QPoint& from, const QPoint& to)
@@ -107,7 +93,7 @@ private Q_SLOTS:
     void thePanelAppearsWithTheDialog();
     void aPanelThatTheHostHidStaysHidden();
     void withoutAPanel();
-    void thePanelMayDieFirst();
+    void thePanelMayBeDeletedFirst();
     void anyWidgetMayBeThePanel();
 
     void placeholderIsAWhitePage();
@@ -299,7 +285,7 @@ void tst_MultiPagePrintDialog::withoutAPanel()
     QVERIFY(!dialog.isVisible());
 }
 
-void tst_MultiPagePrintDialog::thePanelMayDieFirst()
+void tst_MultiPagePrintDialog::thePanelMayBeDeletedFirst()
 {
     Window window;
     QVERIFY(showActive(window.dialog));
@@ -334,10 +320,10 @@ void tst_MultiPagePrintDialog::placeholderIsAWhitePage()
 void tst_MultiPagePrintDialog::imagesAreFittedIntoThePreview_data()
 {
     QTest::addColumn<QSize>("size");
-    QTest::newRow("a portrait page") << QSize(595, 842);
-    QTest::newRow("a landscape page") << QSize(842, 595);
-    QTest::newRow("small") << QSize(10, 10);
-    QTest::newRow("wide") << QSize(4000, 20);
+    addRow("a portrait page", QSize(595, 842));
+    addRow("a landscape page", QSize(842, 595));
+    addRow("small", QSize(10, 10));
+    addRow("wide", QSize(4000, 20));
 }
 
 void tst_MultiPagePrintDialog::imagesAreFittedIntoThePreview()
@@ -363,7 +349,7 @@ void tst_MultiPagePrintDialog::nullImageShowsThePlaceholderAndResetsZoomAndPan()
     QVERIFY(showActive(window.dialog));
     QWidget* view = preview(window.dialog);
     const QImage fresh = view->grab().toImage();
-    turnWheel(view, -120);
+    turnWheel(*view, QPoint(0, -120));
     drag(view, QPoint(200, 200), QPoint(320, 260));
     QVERIFY(view->grab().toImage() != fresh);
     window.dialog.setPreviewImage(QImage());
@@ -428,9 +414,9 @@ void tst_MultiPagePrintDialog::signalMoveMovesTheDialog_data()
 {
     QTest::addColumn<int>("x");
     QTest::addColumn<int>("y");
-    QTest::newRow("somewhere") << 123 << 45;
-    QTest::newRow("the corner") << 0 << 0;
-    QTest::newRow("off the screen") << -300 << 2000;
+    addRow("somewhere", 123, 45);
+    addRow("the corner", 0, 0);
+    addRow("off the screen", -300, 2000);
 }
 
 void tst_MultiPagePrintDialog::signalMoveMovesTheDialog()
@@ -458,8 +444,8 @@ void tst_MultiPagePrintDialog::draggingTheTitleBarMovesTheDialog()
 void tst_MultiPagePrintDialog::returnPressesNoButton_data()
 {
     QTest::addColumn<Qt::Key>("key");
-    QTest::newRow("Return") << Qt::Key_Return;
-    QTest::newRow("Enter") << Qt::Key_Enter;
+    addRow("Return", Qt::Key_Return);
+    addRow("Enter", Qt::Key_Enter);
 }
 
 void tst_MultiPagePrintDialog::returnPressesNoButton()

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "multipageprobe.h"
+#include "multipagefixture.h"
 #include "support/stricttest.h"
 
 #include <jxcombobox.h>
@@ -13,9 +13,9 @@
 
 namespace {
 
-JxComboBox* printers(const QWidget& panel)
+JxComboBox* printers(const MultiPageFixture& panel)
 {
-    return part<JxComboBox>(panel, "PrinterListCombo");
+    return panel.part<JxComboBox>("PrinterListCombo");
 }
 
 QStringList names()
@@ -75,16 +75,16 @@ void tst_MultiPagePrinter::listReplacesAndSelects_data()
     QTest::addColumn<int>("current");
     const QStringList none;
     const QStringList noPrinter = {QStringLiteral("No printer")};
-    QTest::newRow("first") << names() << 0 << names() << 0;
-    QTest::newRow("last") << names() << 4 << names() << 4;
-    QTest::newRow("none") << names() << -1 << names() << -1;
-    QTest::newRow("index beyond the end") << names() << 5 << names() << -1;
-    QTest::newRow("index far below") << names() << std::numeric_limits<int>::min() << names() << -1;
-    QTest::newRow("index far above") << names() << std::numeric_limits<int>::max() << names() << -1;
-    QTest::newRow("empty, 0") << none << 0 << noPrinter << 0;
-    QTest::newRow("empty, -1") << none << -1 << noPrinter << 0;
-    QTest::newRow("empty, 3") << none << 3 << noPrinter << 0;
-    QTest::newRow("empty, far above") << none << std::numeric_limits<int>::max() << noPrinter << 0;
+    addRow("first", names(), 0, names(), 0);
+    addRow("last", names(), 4, names(), 4);
+    addRow("none", names(), -1, names(), -1);
+    addRow("index beyond the end", names(), 5, names(), -1);
+    addRow("index far below", names(), std::numeric_limits<int>::min(), names(), -1);
+    addRow("index far above", names(), std::numeric_limits<int>::max(), names(), -1);
+    addRow("empty, 0", none, 0, noPrinter, 0);
+    addRow("empty, -1", none, -1, noPrinter, 0);
+    addRow("empty, 3", none, 3, noPrinter, 0);
+    addRow("empty, far above", none, std::numeric_limits<int>::max(), noPrinter, 0);
 }
 
 void tst_MultiPagePrinter::listReplacesAndSelects()
@@ -93,7 +93,7 @@ void tst_MultiPagePrinter::listReplacesAndSelects()
     QFETCH(const int, index);
     QFETCH(const QStringList, items);
     QFETCH(const int, current);
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     panel.updateListOfPrinters({QStringLiteral("Old")}, 0);
     panel.updateListOfPrinters(list, index);
     QStringList shown;
@@ -106,7 +106,7 @@ void tst_MultiPagePrinter::listReplacesAndSelects()
 
 void tst_MultiPagePrinter::listEmitsNothing()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     QSignalSpy changed(&panel, &PrintWidgetInterface::currentPrinterSelectionChanged);
     panel.updateListOfPrinters({}, 0);
     panel.updateListOfPrinters(names(), 1);
@@ -118,7 +118,7 @@ void tst_MultiPagePrinter::listEmitsNothing()
 
 void tst_MultiPagePrinter::noPrinterIsAPlainItem()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     panel.updateListOfPrinters({}, 0);
     QCOMPARE(printers(panel)->count(), 1);
     QVERIFY(printers(panel)->itemIcon(0).isNull());
@@ -130,20 +130,20 @@ void tst_MultiPagePrinter::selectionByName_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("current");
-    QTest::newRow("exact") << QStringLiteral("Beta") << 1;
-    QTest::newRow("the other case") << QStringLiteral("alpha") << 2;
-    QTest::newRow("differs only in case") << QStringLiteral("BETA") << -1;
-    QTest::newRow("part of a name") << QStringLiteral("Bet") << -1;
-    QTest::newRow("pattern") << QStringLiteral("B*") << -1;
-    QTest::newRow("unknown") << QStringLiteral("Gamma") << -1;
-    QTest::newRow("empty name that exists") << QStringLiteral("") << 4;
+    addRow("exact", "Beta", 1);
+    addRow("the other case", "alpha", 2);
+    addRow("differs only in case", "BETA", -1);
+    addRow("part of a name", "Bet", -1);
+    addRow("pattern", "B*", -1);
+    addRow("unknown", "Gamma", -1);
+    addRow("empty name that exists", "", 4);
 }
 
 void tst_MultiPagePrinter::selectionByName()
 {
     QFETCH(const QString, name);
     QFETCH(const int, current);
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     panel.updateListOfPrinters(names(), 0);
     panel.setSelectedPrinter(name);
     QCOMPARE(printers(panel)->currentIndex(), current);
@@ -152,7 +152,7 @@ void tst_MultiPagePrinter::selectionByName()
 
 void tst_MultiPagePrinter::selectionEmitsNothing()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     panel.updateListOfPrinters(names(), 0);
     QSignalSpy changed(&panel, &PrintWidgetInterface::currentPrinterSelectionChanged);
     for (const char* name : {"Beta", "Beta", "unknown", "Alpha"})
@@ -165,7 +165,7 @@ void tst_MultiPagePrinter::selectionEmitsNothing()
 
 void tst_MultiPagePrinter::selectionBeforeTheFirstList()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     QSignalSpy changed(&panel, &PrintWidgetInterface::currentPrinterSelectionChanged);
     panel.setSelectedPrinter(QStringLiteral("Alpha"));
     QCOMPARE(panel.getSelectedPrinter(), QString());
@@ -174,7 +174,7 @@ void tst_MultiPagePrinter::selectionBeforeTheFirstList()
 
 void tst_MultiPagePrinter::theComboBoxIsNotTouchedBeforeTheFirstList()
 {
-    const MultiPagePrintWidget panel(false, false, nullptr);
+    const MultiPageFixture panel;
     QCOMPARE(printers(panel)->count(), 0);
     QVERIFY(!printers(panel)->isEditable());
     QSignalSpy changed(&panel, &PrintWidgetInterface::currentPrinterSelectionChanged);
@@ -185,7 +185,7 @@ void tst_MultiPagePrinter::theComboBoxIsNotTouchedBeforeTheFirstList()
 
 void tst_MultiPagePrinter::pickingAnotherPrinterIsReportedByIndexAndByPick()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     panel.updateListOfPrinters(names(), 0);
     QVERIFY(showActive(panel));
     QSignalSpy changed(&panel, &PrintWidgetInterface::currentPrinterSelectionChanged);
@@ -196,7 +196,7 @@ void tst_MultiPagePrinter::pickingAnotherPrinterIsReportedByIndexAndByPick()
 
 void tst_MultiPagePrinter::pickingTheSamePrinterIsReportedOnce()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     panel.updateListOfPrinters(names(), 1);
     QVERIFY(showActive(panel));
     QSignalSpy changed(&panel, &PrintWidgetInterface::currentPrinterSelectionChanged);
@@ -206,7 +206,7 @@ void tst_MultiPagePrinter::pickingTheSamePrinterIsReportedOnce()
 
 void tst_MultiPagePrinter::keyboardChoiceIsReported()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     panel.updateListOfPrinters(names(), 0);
     QVERIFY(showActive(panel));
     QSignalSpy changed(&panel, &PrintWidgetInterface::currentPrinterSelectionChanged);
@@ -218,7 +218,7 @@ void tst_MultiPagePrinter::keyboardChoiceIsReported()
 
 void tst_MultiPagePrinter::indexChangeIsReportedOnceHoweverOftenTheListWasFilled()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     for (int i = 0; i < 3; ++i)
         panel.updateListOfPrinters(names(), 0);
     QSignalSpy changed(&panel, &PrintWidgetInterface::currentPrinterSelectionChanged);
@@ -230,18 +230,18 @@ void tst_MultiPagePrinter::slotReportsTheItemsText_data()
 {
     QTest::addColumn<int>("index");
     QTest::addColumn<QString>("name");
-    QTest::newRow("first") << 0 << QStringLiteral("Alpha");
-    QTest::newRow("fourth") << 3 << QStringLiteral("Beta");
-    QTest::newRow("none") << -1 << QString();
-    QTest::newRow("beyond the end") << 5 << QString();
-    QTest::newRow("highest") << std::numeric_limits<int>::max() << QString();
+    addRow("first", 0, "Alpha");
+    addRow("fourth", 3, "Beta");
+    addRow("none", -1, QString());
+    addRow("beyond the end", 5, QString());
+    addRow("highest", std::numeric_limits<int>::max(), QString());
 }
 
 void tst_MultiPagePrinter::slotReportsTheItemsText()
 {
     QFETCH(const int, index);
     QFETCH(const QString, name);
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     panel.updateListOfPrinters(names(), 2);
     QSignalSpy changed(&panel, &PrintWidgetInterface::currentPrinterSelectionChanged);
     panel.currentPrinterSelectionChangedSlot(index);
@@ -251,9 +251,9 @@ void tst_MultiPagePrinter::slotReportsTheItemsText()
 
 void tst_MultiPagePrinter::settingsButtonOpensThePreferences()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     QSignalSpy opened(&panel, &PrintWidgetInterface::openPreferencesSignal);
-    auto* button = part<QPushButton>(panel, "PreferencesButton");
+    auto* button = panel.part<QPushButton>("PreferencesButton");
     clickOn(button);
     QCOMPARE(opened.size(), 1);
     panel.disableAllButtons();

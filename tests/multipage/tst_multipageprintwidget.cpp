@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "multipageprobe.h"
+#include "multipagefixture.h"
+#include "support/expectedsheet.h"
 #include "support/metamethods.h"
 #include "support/stricttest.h"
 
@@ -67,24 +68,24 @@ void tst_MultiPagePrintWidget::constructorNamesThePanelAndTakesTheParent()
 void tst_MultiPagePrintWidget::bothFlagsChangeNothingButFitToPage()
 {
     for (const bool fit : {false, true}) {
-        MultiPagePrintWidget panel(fit, false, nullptr);
-        QCOMPARE(part<QCheckBox>(panel, "fitToPageCheck")->isChecked(), fit);
+        MultiPageFixture panel(fit);
+        QCOMPARE(panel.check("fitToPageCheck")->isChecked(), fit);
         QCOMPARE(stateOf(panel), stateOf(MultiPagePrintWidget(fit, true, nullptr)));
-        part<QCheckBox>(panel, "fitToPageCheck")->setChecked(!fit);
+        panel.check("fitToPageCheck")->setChecked(!fit);
         QCOMPARE(stateOf(panel), stateOf(MultiPagePrintWidget(!fit, false, nullptr)));
     }
 }
 
 void tst_MultiPagePrintWidget::styleSheetIsExact()
 {
-    const MultiPagePrintWidget panel(false, false, nullptr);
+    const MultiPageFixture panel;
     QCOMPARE(panel.styleSheet().size(), 2537);
     QCOMPARE(panel.styleSheet(), expectedSheet("panel"));
 }
 
 void tst_MultiPagePrintWidget::widthIsFixed()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     QCOMPARE(panel.minimumWidth(), 270);
     QCOMPARE(panel.maximumWidth(), 270);
     panel.resize(800, 600);
@@ -118,7 +119,7 @@ void tst_MultiPagePrintWidget::everyPartHasItsName_data()
 void tst_MultiPagePrintWidget::everyPartHasItsName()
 {
     QFETCH(const QByteArray, className);
-    const MultiPagePrintWidget panel(false, false, nullptr);
+    const MultiPageFixture panel;
     const QList<QObject*> found =
         panel.findChildren<QObject*>(QLatin1String(QTest::currentDataTag()));
     QCOMPARE(found.size(), 1);
@@ -145,7 +146,7 @@ void tst_MultiPagePrintWidget::fonts()
 {
     QFETCH(const bool, prominent);
     QVERIFY(ApplicationFont::getWidgetFont(true) != ApplicationFont::getWidgetFont(false));
-    const MultiPagePrintWidget panel(false, false, nullptr);
+    const MultiPageFixture panel;
     const QLatin1String tag(QTest::currentDataTag());
     const QWidget* widget = labelWithText(panel, tag);
     if (!widget)
@@ -157,19 +158,19 @@ void tst_MultiPagePrintWidget::fonts()
 
 void tst_MultiPagePrintWidget::stateAtConstruction()
 {
-    const MultiPagePrintWidget panel(false, false, nullptr);
-    QVERIFY(part<QAbstractButton>(panel, "currentPageRadio")->isChecked());
-    QVERIFY(!part<QAbstractButton>(panel, "allPagesRadio")->isChecked());
-    QVERIFY(!part<QAbstractButton>(panel, "selectionRadio")->isChecked());
-    QVERIFY(!part<QLineEdit>(panel, "pageListEdit")->isEnabled());
-    QCOMPARE(part<QLineEdit>(panel, "pageListEdit")->text(), QString());
-    QVERIFY(!part<QAbstractButton>(panel, "PrintButton")->isEnabled());
-    QVERIFY(part<QAbstractButton>(panel, "PreferencesButton")->isEnabled());
-    QCOMPARE(part<QLineEdit>(panel, "copiesEdit")->text(), QStringLiteral("1"));
-    QVERIFY(part<QCheckBox>(panel, "formFillCheck")->isChecked());
-    QVERIFY(!part<QCheckBox>(panel, "orientationCheck")->isChecked());
+    const MultiPageFixture panel;
+    QVERIFY(panel.part<QAbstractButton>("currentPageRadio")->isChecked());
+    QVERIFY(!panel.part<QAbstractButton>("allPagesRadio")->isChecked());
+    QVERIFY(!panel.part<QAbstractButton>("selectionRadio")->isChecked());
+    QVERIFY(!panel.pageList()->isEnabled());
+    QCOMPARE(panel.pageList()->text(), QString());
+    QVERIFY(!panel.part<QAbstractButton>("PrintButton")->isEnabled());
+    QVERIFY(panel.part<QAbstractButton>("PreferencesButton")->isEnabled());
+    QCOMPARE(panel.copiesEdit()->text(), QStringLiteral("1"));
+    QVERIFY(panel.check("formFillCheck")->isChecked());
+    QVERIFY(!panel.check("orientationCheck")->isChecked());
     for (const char* name : {"formFillCheck", "fitToPageCheck", "orientationCheck"})
-        QVERIFY(!part<QCheckBox>(panel, name)->isHidden());
+        QVERIFY(!panel.check(name)->isHidden());
     QCOMPARE(panel.getSelectedPrinter(), QString());
     // Not hidden explicitly: it appears with the window that it is placed in.
     QVERIFY(!panel.testAttribute(Qt::WA_WState_ExplicitShowHide));
@@ -263,10 +264,10 @@ void tst_MultiPagePrintWidget::onlyTheCallWithoutArgumentIsCloned()
 
 void tst_MultiPagePrintWidget::parseAnswersThroughTheMetaObject()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     panel.setPageInfo(1, 10, true);
-    const QSignalBlocker quiet(part<QLineEdit>(panel, "pageListEdit"));
-    part<QLineEdit>(panel, "pageListEdit")->setText(QStringLiteral("7"));
+    const QSignalBlocker quiet(panel.pageList());
+    panel.pageList()->setText(QStringLiteral("7"));
     bool changed = false;
     QVERIFY(QMetaObject::invokeMethod(&panel, "listRangeParse", Q_RETURN_ARG(bool, changed)));
     QVERIFY(changed);
@@ -278,10 +279,10 @@ void tst_MultiPagePrintWidget::buttonsEnabling_data()
 {
     QTest::addColumn<int>("operation");
     QTest::addColumn<bool>("enabled");
-    QTest::newRow("enablePrintButtons") << 0 << true;
-    QTest::newRow("enableAllButtons") << 1 << true;
-    QTest::newRow("disablePrintButtons") << 2 << false;
-    QTest::newRow("disableAllButtons") << 3 << false;
+    addRow("enablePrintButtons", 0, true);
+    addRow("enableAllButtons", 1, true);
+    addRow("disablePrintButtons", 2, false);
+    addRow("disableAllButtons", 3, false);
 }
 
 void tst_MultiPagePrintWidget::buttonsEnabling()
@@ -294,13 +295,13 @@ void tst_MultiPagePrintWidget::buttonsEnabling()
         &PrintWidgetInterface::disablePrintButtons, &PrintWidgetInterface::disableAllButtons};
 
     for (const bool before : {false, true}) {
-        MultiPagePrintWidget panel(false, false, nullptr);
+        MultiPageFixture panel;
         QStringList expected = stateOf(panel);
-        part<QAbstractButton>(panel, "PrintButton")->setEnabled(before);
+        panel.part<QAbstractButton>("PrintButton")->setEnabled(before);
         (panel.*operations[operation])();
-        QCOMPARE(part<QAbstractButton>(panel, "PrintButton")->isEnabled(), enabled);
+        QCOMPARE(panel.part<QAbstractButton>("PrintButton")->isEnabled(), enabled);
         // Nothing else follows, not even the settings button.
-        part<QAbstractButton>(panel, "PrintButton")->setEnabled(false);
+        panel.part<QAbstractButton>("PrintButton")->setEnabled(false);
         QCOMPARE(stateOf(panel), expected);
     }
 }
@@ -315,7 +316,7 @@ void tst_MultiPagePrintWidget::modulesChangeNothing_data()
 void tst_MultiPagePrintWidget::modulesChangeNothing()
 {
     QFETCH(const int, module);
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     const QStringList before = stateOf(panel);
     panel.setModule(static_cast<JxModuleInfo::JxModuleTypes>(module));
     QCOMPARE(stateOf(panel), before);
@@ -323,7 +324,7 @@ void tst_MultiPagePrintWidget::modulesChangeNothing()
 
 void tst_MultiPagePrintWidget::operationsOfOtherPanelsDoNothing()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     const QStringList before = stateOf(panel);
     panel.setNupSeqRepVisible(true);
     panel.setNupDynamicLength(true);
@@ -343,7 +344,7 @@ void tst_MultiPagePrintWidget::operationsOfOtherPanelsDoNothing()
 
 void tst_MultiPagePrintWidget::everyShowEmitsTheShowSignalOnce()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     QSignalSpy shown(&panel, &PrintWidgetInterface::printWidgetShowSignal);
     panel.show();
     QCOMPARE(shown.size(), 1);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "multipageprobe.h"
+#include "multipagefixture.h"
 #include "support/stricttest.h"
 #include "support/translationrecorder.h"
 
@@ -56,40 +56,40 @@ void tst_MultiPageTexts::english_data()
     QTest::addColumn<bool>("shown");
     for (const char* text : {"PRINT SETTINGS", "Printer:", "Page Range:", "Copies:"})
         QTest::newRow(text) << true;
-    QTest::newRow("Records to Print:") << false;
+    addRow("Records to Print:", false);
 }
 
 void tst_MultiPageTexts::english()
 {
-    const MultiPagePrintWidget panel(false, false, nullptr);
+    const MultiPageFixture panel;
     QTEST(labelWithText(panel, QLatin1String(QTest::currentDataTag())) != nullptr, "shown");
 }
 
 void tst_MultiPageTexts::buttonTexts_data()
 {
     QTest::addColumn<QString>("text");
-    QTest::newRow("currentPageRadio") << QStringLiteral("Current Page");
-    QTest::newRow("allPagesRadio") << QStringLiteral("All Pages");
-    QTest::newRow("selectionRadio") << QStringLiteral("Selection:  ");
-    QTest::newRow("orientationCheck") << QStringLiteral("Print 180 Orientation");
-    QTest::newRow("formFillCheck") << QStringLiteral("Print Only Form Fill Text");
-    QTest::newRow("fitToPageCheck") << QStringLiteral("Fit To Page ");
-    QTest::newRow("PrintButton") << QStringLiteral("       Print       ");
-    QTest::newRow("PreferencesButton") << QString();
-    QTest::newRow("minusButton") << QString();
-    QTest::newRow("plusButton") << QString();
+    addRow("currentPageRadio", "Current Page");
+    addRow("allPagesRadio", "All Pages");
+    addRow("selectionRadio", "Selection:  ");
+    addRow("orientationCheck", "Print 180 Orientation");
+    addRow("formFillCheck", "Print Only Form Fill Text");
+    addRow("fitToPageCheck", "Fit To Page ");
+    addRow("PrintButton", "       Print       ");
+    addRow("PreferencesButton", QString());
+    addRow("minusButton", QString());
+    addRow("plusButton", QString());
 }
 
 void tst_MultiPageTexts::buttonTexts()
 {
-    const MultiPagePrintWidget panel(false, false, nullptr);
-    QTEST(part<QAbstractButton>(panel, QTest::currentDataTag())->text(), "text");
+    const MultiPageFixture panel;
+    QTEST(panel.part<QAbstractButton>(QTest::currentDataTag())->text(), "text");
 }
 
 void tst_MultiPageTexts::pageListTexts()
 {
-    const MultiPagePrintWidget panel(false, false, nullptr);
-    const auto* edit = part<QLineEdit>(panel, "pageListEdit");
+    const MultiPageFixture panel;
+    const auto* edit = panel.pageList();
     QCOMPARE(edit->placeholderText(), QStringLiteral("   Example:  1,4-5,11-20,33"));
     QCOMPARE(edit->toolTip(),
              QStringLiteral("Enter a list of record numbers and/or ranges, separated by comma.\n"
@@ -98,7 +98,7 @@ void tst_MultiPageTexts::pageListTexts()
 
 void tst_MultiPageTexts::orientationToolTip()
 {
-    const MultiPagePrintWidget panel(false, false, nullptr);
+    const MultiPageFixture panel;
     const QList<QWidget*> children = panel.findChildren<QWidget*>();
     QStringList tips;
     for (const QWidget* child : children) {
@@ -107,7 +107,7 @@ void tst_MultiPageTexts::orientationToolTip()
     }
     QCOMPARE(tips,
              QStringList({QStringLiteral("orientationCheck"), QStringLiteral("pageListEdit")}));
-    QCOMPARE(part<QAbstractButton>(panel, "orientationCheck")->toolTip(),
+    QCOMPARE(panel.part<QAbstractButton>("orientationCheck")->toolTip(),
              QStringLiteral("Switch Print Orientation"));
 }
 
@@ -129,14 +129,14 @@ void tst_MultiPageTexts::translatedButtons_data()
 void tst_MultiPageTexts::translatedButtons()
 {
     const TranslationRecorder recorder(QStringLiteral("MultiPagePrintWidget"));
-    const MultiPagePrintWidget panel(false, false, nullptr);
-    QTEST(part<QAbstractButton>(panel, QTest::currentDataTag())->text(), "text");
+    const MultiPageFixture panel;
+    QTEST(panel.part<QAbstractButton>(QTest::currentDataTag())->text(), "text");
 }
 
 void tst_MultiPageTexts::translatedLabels()
 {
     const TranslationRecorder recorder(QStringLiteral("MultiPagePrintWidget"));
-    const MultiPagePrintWidget panel(false, false, nullptr);
+    const MultiPageFixture panel;
     QVERIFY(labelWithText(panel, marked("PRINT SETTINGS", "Title for print settings.")));
     QVERIFY(labelWithText(panel, marked("Printer:", "Label showing printer name.")));
     QVERIFY(labelWithText(panel, marked("Page Range:", "Page range label text.")));
@@ -147,8 +147,8 @@ void tst_MultiPageTexts::translatedLabels()
 void tst_MultiPageTexts::translatedPageList()
 {
     const TranslationRecorder recorder(QStringLiteral("MultiPagePrintWidget"));
-    const MultiPagePrintWidget panel(false, false, nullptr);
-    const auto* edit = part<QLineEdit>(panel, "pageListEdit");
+    const MultiPageFixture panel;
+    const auto* edit = panel.pageList();
     const QString example =
         marked("Example:", "An example of a possible entry") + QStringLiteral("  1,4-5,11-20,33");
     QCOMPARE(edit->placeholderText(), QStringLiteral("   ") + example);
@@ -161,7 +161,7 @@ void tst_MultiPageTexts::translatedPageList()
 void tst_MultiPageTexts::everyKeyIsAskedForOnce()
 {
     const TranslationRecorder recorder(QStringLiteral("MultiPagePrintWidget"));
-    const MultiPagePrintWidget panel(false, false, nullptr);
+    const MultiPageFixture panel;
     QList<TranslationKey> expected;
     const auto key = [&expected](const char* text, const char* comment) {
         expected.append({QStringLiteral("MultiPagePrintWidget"), QString::fromLatin1(text),
@@ -186,7 +186,7 @@ void tst_MultiPageTexts::everyKeyIsAskedForOnce()
 
 void tst_MultiPageTexts::printerNamesAreNotTranslated()
 {
-    MultiPagePrintWidget panel(false, false, nullptr);
+    MultiPageFixture panel;
     const TranslationRecorder recorder(QStringLiteral("MultiPagePrintWidget"));
     panel.updateListOfPrinters({}, 0);
     QCOMPARE(panel.getSelectedPrinter(), QStringLiteral("No printer"));

@@ -178,3 +178,15 @@ void sendMouse(QWidget& view, QEvent::Type type, const QPointF& position, Qt::Mo
     QMouseEvent event(type, position, view.mapToGlobal(position), button, buttons, Qt::NoModifier);
     QApplication::sendEvent(&view, &event);
 }
+
+void pressMouse(QWidget& view, const QPointF& position)
+{
+    sendMouse(view, QEvent::MouseButtonPress, position, Qt::LeftButton, Qt::LeftButton);
+}
+
+void dragMouse(QWidget& view, const QPointF& from, const QPointF& to)
+{
+    pressMouse(view, from);
+    sendMouse(view, QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton);
+    sendMouse(view, QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
+}

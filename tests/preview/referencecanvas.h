@@ -82,4 +82,10 @@ bool turnWheel(QWidget& view, const QPoint& angleDelta);
 void sendMouse(QWidget& view, QEvent::Type type, const QPointF& position, Qt::MouseButton button,
                Qt::MouseButtons buttons);
 
+/** Presses the left button. */
+void pressMouse(QWidget& view, const QPointF& position);
+
+/** Presses the left button, moves the mouse and releases the button. */
+void dragMouse(QWidget& view, const QPointF& from, const QPointF& to);
+
 #endif

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 // What hosts do to the popup from inside its own signals, and with what they should not hand it.
-#include "popup.h"
+#include "previewfixture.h"
 #include "referencecanvas.h"
+#include "support/deleter.h"
 #include "support/stricttest.h"
 
 #include <containertitlebar.h>
@@ -20,9 +21,9 @@ class tst_PopupHost : public StrictTest
 private Q_SLOTS:
     void hostMayDeleteThePopupInItsSignals_data();
     void hostMayDeleteThePopupInItsSignals();
-    void popupThatDeletesItselfOnCloseStillTells();
+    void popupThatDeletesItselfOnCloseStillEmits();
     void hostMayUpdateThePopupInItsSignals();
-    void everyListenerHearsTheSameRange();
+    void everyReceiverGetsTheSameRange();
     void closingInADragLeavesNoCursorBehind();
     void deletingInADragLeavesNoCursorBehind();
     void hostileImages_data();
@@ -37,44 +38,30 @@ void tst_PopupHost::hostMayDeleteThePopupInItsSignals_data()
     const QByteArray print = SIGNAL(previewPrintSignal(int, int, QString));
     const QByteArray turn = SIGNAL(orientationChangedSignal(int));
     const QByteArray hidden = SIGNAL(popupHideSignal());
-    QTest::newRow("print") << print << QByteArray("printButton");
-    QTest::newRow("portrait") << turn << QByteArray("portraitButton");
-    QTest::newRow("landscape") << turn << QByteArray("landscapeButton");
-    QTest::newRow("close button") << hidden << QByteArray("closeButton");
-    QTest::newRow("cross") << hidden << QByteArray("cross");
+    addRow("print", print, QByteArray("printButton"));
+    addRow("portrait", turn, QByteArray("portraitButton"));
+    addRow("landscape", turn, QByteArray("landscapeButton"));
+    addRow("close button", hidden, QByteArray("closeButton"));
+    addRow("cross", hidden, QByteArray("cross"));
 }
-
-/** Deletes its target as soon as it hears of anything. */
-class Deleter : public QObject
-{
-    Q_OBJECT
-
-public:
-    explicit Deleter(QObject* doomed) : target(doomed) {}
-
-    QPointer<QObject> target;
-
-public Q_SLOTS:
-    void strike() { delete target; }
-};
 
 void tst_PopupHost::hostMayDeleteThePopupInItsSignals()
 {
     QFETCH(const QByteArray, signal);
     QFETCH(const QByteArray, button);
-    QPointer<Popup> popup = new Popup;
+    QPointer<PreviewFixture> popup = new PreviewFixture;
     popup->show();
     Deleter deleter(popup);
-    QVERIFY(connect(popup, signal.constData(), &deleter, SLOT(strike())));
+    QVERIFY(connect(popup, signal.constData(), &deleter, Deleter::slot(Deleter::AtOnce)));
     QAbstractButton* control =
         button == "cross" ? popup->cross() : popup->button(button.constData());
     QTest::mouseClick(control, Qt::LeftButton);
     QVERIFY(popup.isNull());
 }
 
-void tst_PopupHost::popupThatDeletesItselfOnCloseStillTells()
+void tst_PopupHost::popupThatDeletesItselfOnCloseStillEmits()
 {
-    QPointer<Popup> popup = new Popup;
+    QPointer<PreviewFixture> popup = new PreviewFixture;
     popup->setAttribute(Qt::WA_DeleteOnClose);
     QSignalSpy closed(popup, &PrintPreviewDialog::popupHideSignal);
     popup->show();
@@ -88,7 +75,7 @@ void tst_PopupHost::hostMayUpdateThePopupInItsSignals()
 {
     PopupContent content;
     content.image = speckledImage(QSize(40, 80));
-    Popup popup(content);
+    PreviewFixture popup(content);
     popup.show();
     int turns = 0;
     connect(&popup, &PrintPreviewDialog::orientationChangedSignal, this, [&](int id) {
@@ -105,11 +92,11 @@ void tst_PopupHost::hostMayUpdateThePopupInItsSignals()
     QCOMPARE(turns, 3);
 }
 
-void tst_PopupHost::everyListenerHearsTheSameRange()
+void tst_PopupHost::everyReceiverGetsTheSameRange()
 {
     PopupContent content;
     content.recordList = QStringLiteral("1,4-5");
-    Popup popup(content);
+    PreviewFixture popup(content);
     connect(&popup, &PrintPreviewDialog::previewPrintSignal, this, [&popup] {
         PopupContent next;
         next.recordList = QStringLiteral("99");
@@ -125,10 +112,9 @@ void tst_PopupHost::everyListenerHearsTheSameRange()
 
 void tst_PopupHost::closingInADragLeavesNoCursorBehind()
 {
-    Popup popup;
+    PreviewFixture popup;
     popup.show();
-    sendMouse(*popup.view(), QEvent::MouseButtonPress, QPointF(9, 9), Qt::LeftButton,
-              Qt::LeftButton);
+    pressMouse(*popup.view(), QPointF(9, 9));
     QVERIFY(QGuiApplication::overrideCursor());
     popup.close();
     QVERIFY(!QGuiApplication::overrideCursor());
@@ -136,10 +122,9 @@ void tst_PopupHost::closingInADragLeavesNoCursorBehind()
 
 void tst_PopupHost::deletingInADragLeavesNoCursorBehind()
 {
-    auto* popup = new Popup;
+    auto* popup = new PreviewFixture;
     popup->show();
-    sendMouse(*popup->view(), QEvent::MouseButtonPress, QPointF(9, 9), Qt::LeftButton,
-              Qt::LeftButton);
+    pressMouse(*popup->view(), QPointF(9, 9));
     QVERIFY(QGuiApplication::overrideCursor());
     delete popup;
     QVERIFY(!QGuiApplication::overrideCursor());
@@ -148,22 +133,22 @@ void tst_PopupHost::deletingInADragLeavesNoCursorBehind()
 void tst_PopupHost::hostileImages_data()
 {
     QTest::addColumn<QImage>("image");
-    QTest::newRow("null") << QImage();
-    QTest::newRow("null with a format") << QImage(0, 0, QImage::Format_RGB32);
-    QTest::newRow("1x1") << speckledImage(QSize(1, 1));
+    addRow("null", QImage());
+    addRow("null with a format", QImage(0, 0, QImage::Format_RGB32));
+    addRow("1x1", speckledImage(QSize(1, 1)));
     QImage wide(30000, 3, QImage::Format_Grayscale8);
     wide.fill(128);
-    QTest::newRow("30000x3") << wide;
+    addRow("30000x3", wide);
     QImage indexed(40, 20, QImage::Format_Indexed8);
     indexed.fill(255);
-    QTest::newRow("indexed without colours") << indexed;
+    addRow("indexed without colours", indexed);
     indexed.setColorTable({qRgb(1, 2, 3)});
-    QTest::newRow("indexed with a colour too few") << indexed;
+    addRow("indexed with a colour too few", indexed);
     QImage mono(40, 20, QImage::Format_MonoLSB);
     mono.fill(1);
     mono.setColorCount(0);
-    QTest::newRow("one bit without colours") << mono;
-    QTest::newRow("3x30000") << wide.transformed(QTransform().rotate(90));
+    addRow("one bit without colours", mono);
+    addRow("3x30000", wide.transformed(QTransform().rotate(90)));
 }
 
 void tst_PopupHost::hostileImages()
@@ -171,7 +156,7 @@ void tst_PopupHost::hostileImages()
     PopupContent content;
     QFETCH(const QImage, image);
     content.image = image;
-    Popup popup(content);
+    PreviewFixture popup(content);
     popup.zoomOut();
     popup.zoomIn();
     popup.zoomFit();
@@ -190,7 +175,7 @@ void tst_PopupHost::hostileImages()
 void tst_PopupHost::deletingTheHostDeletesThePopup()
 {
     auto* host = new QWidget;
-    const QPointer<Popup> popup = new Popup(PopupContent(), host, Qt::Tool);
+    const QPointer<PreviewFixture> popup = new PreviewFixture(PopupContent(), host, Qt::Tool);
     const QPointer<QWidget> view = popup->view();
     delete host;
     QVERIFY(popup.isNull());

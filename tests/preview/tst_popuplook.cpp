@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "popup.h"
+#include "previewfixture.h"
 #include "referencecanvas.h"
+#include "support/expectedsheet.h"
 #include "support/layoutdescription.h"
 #include "support/stricttest.h"
 #include "support/translationrecorder.h"
@@ -10,7 +11,6 @@
 #include <applicationfont.h>
 #include <containertitlebar.h>
 
-#include <QtCore/QFile>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QFrame>
@@ -20,28 +20,22 @@
 
 namespace {
 
-QString expectedSheet(const char* role)
-{
-    QFile file(QStringLiteral(EXPECTED_SHEETS "/%1.qss").arg(QLatin1String(role)));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-QFrame* outerFrame(const Popup& popup)
+QFrame* outerFrame(const PreviewFixture& popup)
 {
     return popup.findChild<QFrame*>(QStringLiteral("JxPreviewFrame"));
 }
 
-QVBoxLayout* outerColumn(const Popup& popup)
+QVBoxLayout* outerColumn(const PreviewFixture& popup)
 {
     return qobject_cast<QVBoxLayout*>(outerFrame(popup)->layout());
 }
 
-QVBoxLayout* innerColumn(const Popup& popup)
+QVBoxLayout* innerColumn(const PreviewFixture& popup)
 {
     return qobject_cast<QVBoxLayout*>(outerColumn(popup)->itemAt(1)->layout());
 }
 
-QHBoxLayout* buttonRow(const Popup& popup)
+QHBoxLayout* buttonRow(const PreviewFixture& popup)
 {
     return qobject_cast<QHBoxLayout*>(innerColumn(popup)->itemAt(1)->layout());
 }
@@ -77,7 +71,7 @@ private Q_SLOTS:
 
 void tst_PopupLook::buttonTexts()
 {
-    const Popup popup;
+    const PreviewFixture popup;
     QCOMPARE(popup.button("printButton")->text(), QStringLiteral("Print"));
     QCOMPARE(popup.button("closeButton")->text(), QStringLiteral("Close"));
     for (const char* name :
@@ -93,20 +87,20 @@ void tst_PopupLook::styleSheets_data()
 {
     QTest::addColumn<QByteArray>("button");
     QTest::addColumn<QByteArray>("role");
-    QTest::newRow("zoom in") << QByteArray("zoomInButton") << QByteArray("zoomInButton");
-    QTest::newRow("zoom out") << QByteArray("zoomOutButton") << QByteArray("zoomOutButton");
-    QTest::newRow("fit") << QByteArray("fitButton") << QByteArray("fitButton");
-    QTest::newRow("portrait") << QByteArray("portraitButton") << QByteArray("portraitButton");
-    QTest::newRow("landscape") << QByteArray("landscapeButton") << QByteArray("landscapeButton");
-    QTest::newRow("print") << QByteArray("printButton") << QByteArray("primaryPushButton");
-    QTest::newRow("close") << QByteArray("closeButton") << QByteArray("primaryPushButton");
+    addRow("zoom in", QByteArray("zoomInButton"), QByteArray("zoomInButton"));
+    addRow("zoom out", QByteArray("zoomOutButton"), QByteArray("zoomOutButton"));
+    addRow("fit", QByteArray("fitButton"), QByteArray("fitButton"));
+    addRow("portrait", QByteArray("portraitButton"), QByteArray("portraitButton"));
+    addRow("landscape", QByteArray("landscapeButton"), QByteArray("landscapeButton"));
+    addRow("print", QByteArray("printButton"), QByteArray("primaryPushButton"));
+    addRow("close", QByteArray("closeButton"), QByteArray("primaryPushButton"));
 }
 
 void tst_PopupLook::styleSheets()
 {
     QFETCH(const QByteArray, button);
     QFETCH(const QByteArray, role);
-    const Popup popup;
+    const PreviewFixture popup;
     const QString expected = expectedSheet(role);
     QVERIFY(!expected.isEmpty());
     QCOMPARE(popup.button(button)->styleSheet(), expected);
@@ -116,7 +110,7 @@ void tst_PopupLook::styleSheets()
 void tst_PopupLook::sizesOfTheButtons()
 {
     // Fixed at 100 x 35; their sheet counts its least height without the border of one pixel.
-    Popup popup;
+    PreviewFixture popup;
     popup.show();
     for (const char* name : {"printButton", "closeButton"}) {
         QCOMPARE(popup.button(name)->maximumSize(), QSize(100, 35));
@@ -130,14 +124,14 @@ void tst_PopupLook::sizesOfTheButtons()
 void tst_PopupLook::fonts()
 {
     QToolTip::setFont(QFont());
-    const Popup popup;
+    const PreviewFixture popup;
     QCOMPARE(QToolTip::font(), ApplicationFont::getWidgetFontSmall(false));
     QCOMPARE(popup.bar()->font(), ApplicationFont::getWidgetFontSmall(false));
 }
 
 void tst_PopupLook::popupHoldsOneFrame()
 {
-    const Popup popup;
+    const PreviewFixture popup;
     const auto* layout = qobject_cast<QVBoxLayout*>(popup.layout());
     QVERIFY(layout);
     QCOMPARE(layout->contentsMargins(), QMargins(0, 0, 0, 0));
@@ -152,7 +146,7 @@ void tst_PopupLook::popupHoldsOneFrame()
 
 void tst_PopupLook::outerColumnHoldsTitleBarAndInnerColumn()
 {
-    const Popup popup;
+    const PreviewFixture popup;
     const QVBoxLayout* column = outerColumn(popup);
     QVERIFY(column);
     QCOMPARE(column->spacing(), 10);
@@ -163,7 +157,7 @@ void tst_PopupLook::outerColumnHoldsTitleBarAndInnerColumn()
 
 void tst_PopupLook::innerColumnHoldsGreyFrameAndButtons()
 {
-    const Popup popup;
+    const PreviewFixture popup;
     const QVBoxLayout* column = innerColumn(popup);
     QVERIFY(column);
     QCOMPARE(column->spacing(), 10);
@@ -175,7 +169,7 @@ void tst_PopupLook::innerColumnHoldsGreyFrameAndButtons()
 
 void tst_PopupLook::buttonRowInOrder()
 {
-    const Popup popup;
+    const PreviewFixture popup;
     const QHBoxLayout* row = buttonRow(popup);
     QVERIFY(row);
     QCOMPARE(row->spacing(), 10);
@@ -193,7 +187,7 @@ void tst_PopupLook::buttonRowInOrder()
 
 void tst_PopupLook::viewSitsAloneInTheGreyFrame()
 {
-    const Popup popup;
+    const PreviewFixture popup;
     const auto* frame = qobject_cast<QFrame*>(popup.view()->parentWidget());
     QVERIFY(frame);
     QCOMPARE(frame->styleSheet(),
@@ -209,7 +203,7 @@ void tst_PopupLook::viewSitsAloneInTheGreyFrame()
 
 void tst_PopupLook::everythingIsAChildOfThePopup()
 {
-    const Popup popup;
+    const PreviewFixture popup;
     QCOMPARE(popup.findChildren<QPushButton*>().size(), 7);
     for (const char* name : buttonNames) {
         QVERIFY2(popup.button(name), name);
@@ -225,7 +219,7 @@ void tst_PopupLook::textsAreTranslatedInThePopupsContext()
     const QString context = QStringLiteral("PrintPreviewDialog");
     const TranslationRecorder recorder(context);
     PopupContent content;
-    Popup popup(content);
+    PreviewFixture popup(content);
     QCOMPARE(popup.button("printButton")->text(),
              TranslationRecorder::marked(context, QStringLiteral("Print"),
                                          QStringLiteral("Button to initiate print.")));
@@ -249,7 +243,7 @@ void tst_PopupLook::translatedTitleKeepsItsPlaceMarkers()
     const TranslationRecorder recorder(QStringLiteral("PrintPreviewDialog"));
     PopupContent content;
     content.printedSizeOnly = true;
-    const Popup popup(content);
+    const PreviewFixture popup(content);
     QCOMPARE(popup.bar()->title(),
              QStringLiteral("\u00abPrintPreviewDialog|Print Preview (3.50\" X 1.75\")|Dialog title "
                             "with label size.\u00bb"));
@@ -259,7 +253,7 @@ void tst_PopupLook::returnInAHostsDialogPressesNothing()
 {
     QDialog host;
     auto* edit = new QLineEdit(&host);
-    auto* popup = new Popup(PopupContent(), &host, Qt::WindowFlags());
+    auto* popup = new PreviewFixture(PopupContent(), &host, Qt::WindowFlags());
     int clicks = 0;
     for (const char* name : buttonNames)
         connect(popup->button(name), &QPushButton::clicked, this, [&clicks] { ++clicks; });
@@ -278,7 +272,7 @@ void tst_PopupLook::orangeBorderGreyGroundAndGreySurround()
     PopupContent content;
     content.image = QImage(100, 100, QImage::Format_RGB32);
     content.image.fill(Qt::blue);
-    Popup popup(content);
+    PreviewFixture popup(content);
     popup.show();
     const QImage picture = popup.grab().toImage();
     QCOMPARE(picture.size(), QSize(860, 500));
@@ -292,7 +286,7 @@ void tst_PopupLook::orangeBorderGreyGroundAndGreySurround()
 
 void tst_PopupLook::controlsDoNotOverlapAndAreNotCut()
 {
-    Popup popup;
+    PreviewFixture popup;
     popup.show();
     const QWidget* frame = popup.view()->parentWidget();
     QRect above(frame->mapTo(&popup, QPoint(0, 0)), frame->size());

@@ -51,18 +51,16 @@ void tst_PopupTitle::placeMarkersInAUnitStayText_data()
     QTest::addColumn<bool>("printedSizeOnly");
     QTest::addColumn<bool>("metric");
     QTest::addColumn<QString>("title");
-    QTest::newRow("printed size, millimetres")
-        << true << true << QStringLiteral("Print Preview (3 mm%1%2%3%4%5 X 1 mm%1%2%3%4%5)");
-    QTest::newRow("printed size, inches")
-        << true << false << QStringLiteral("Print Preview (3.00\"%1%2%3%4%5 X 1.00\"%1%2%3%4%5)");
-    QTest::newRow("both sizes, millimetres")
-        << false << true
-        << QStringLiteral("Print Preview (Design: 4 mm%1%2%3%4%5 X 2 mm%1%2%3%4%5  "
-                          "Printed: 3 mm%1%2%3%4%5 X 1 mm%1%2%3%4%5)");
-    QTest::newRow("both sizes, inches")
-        << false << false
-        << QStringLiteral("Print Preview (Design: 4.00\"%1%2%3%4%5 X 2.00\"%1%2%3%4%5  "
-                          "Printed: 3.00\"%1%2%3%4%5 X 1.00\"%1%2%3%4%5)");
+    addRow("printed size, millimetres", true, true,
+           "Print Preview (3 mm%1%2%3%4%5 X 1 mm%1%2%3%4%5)");
+    addRow("printed size, inches", true, false,
+           "Print Preview (3.00\"%1%2%3%4%5 X 1.00\"%1%2%3%4%5)");
+    addRow("both sizes, millimetres", false, true,
+           "Print Preview (Design: 4 mm%1%2%3%4%5 X 2 mm%1%2%3%4%5  "
+           "Printed: 3 mm%1%2%3%4%5 X 1 mm%1%2%3%4%5)");
+    addRow("both sizes, inches", false, false,
+           "Print Preview (Design: 4.00\"%1%2%3%4%5 X 2.00\"%1%2%3%4%5  "
+           "Printed: 3.00\"%1%2%3%4%5 X 1.00\"%1%2%3%4%5)");
 }
 
 void tst_PopupTitle::placeMarkersInAUnitStayText()

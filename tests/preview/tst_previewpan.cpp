@@ -80,7 +80,7 @@ class tst_PreviewPan : public StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
+    void cleanup() override;
     void dragMovesTheImageWithTheMouse_data();
     void dragMovesTheImageWithTheMouse();
     void everyButtonDrags_data();
@@ -115,10 +115,10 @@ void tst_PreviewPan::cleanup()
 void tst_PreviewPan::dragMovesTheImageWithTheMouse_data()
 {
     QTest::addColumn<double>("scale");
-    QTest::newRow("1") << 1.0;
-    QTest::newRow("2") << 2.0;
-    QTest::newRow("a half") << 0.5;
-    QTest::newRow("4") << 4.0;
+    addRow("1", 1.0);
+    addRow("2", 2.0);
+    addRow("a half", 0.5);
+    addRow("4", 4.0);
 }
 
 void tst_PreviewPan::dragMovesTheImageWithTheMouse()
@@ -140,10 +140,10 @@ void tst_PreviewPan::dragMovesTheImageWithTheMouse()
 void tst_PreviewPan::everyButtonDrags_data()
 {
     QTest::addColumn<int>("button");
-    QTest::newRow("left") << int(Qt::LeftButton);
-    QTest::newRow("right") << int(Qt::RightButton);
-    QTest::newRow("middle") << int(Qt::MiddleButton);
-    QTest::newRow("back") << int(Qt::BackButton);
+    addRow("left", int(Qt::LeftButton));
+    addRow("right", int(Qt::RightButton));
+    addRow("middle", int(Qt::MiddleButton));
+    addRow("back", int(Qt::BackButton));
 }
 
 void tst_PreviewPan::everyButtonDrags()
@@ -166,13 +166,11 @@ void tst_PreviewPan::positionsAreRoundedToWholePixels_data()
     QTest::addColumn<QPointF>("from");
     QTest::addColumn<QPointF>("to");
     QTest::addColumn<QPoint>("moved");
-    QTest::newRow("down") << QPointF(10.4, 10.4) << QPointF(30.3, 40.2) << QPoint(20, 30);
-    QTest::newRow("up") << QPointF(10.6, 10.6) << QPointF(30.7, 40.9) << QPoint(20, 30);
-    QTest::newRow("halves away from zero")
-        << QPointF(10.5, -10.5) << QPointF(10.0, -10.0) << QPoint(-1, 1);
-    QTest::newRow("less than a pixel") << QPointF(10.1, 10.1) << QPointF(10.4, 9.6) << QPoint(0, 0);
-    QTest::newRow("over an edge between pixels")
-        << QPointF(10.4, 10.4) << QPointF(10.6, 10.6) << QPoint(1, 1);
+    addRow("down", QPointF(10.4, 10.4), QPointF(30.3, 40.2), QPoint(20, 30));
+    addRow("up", QPointF(10.6, 10.6), QPointF(30.7, 40.9), QPoint(20, 30));
+    addRow("halves away from zero", QPointF(10.5, -10.5), QPointF(10.0, -10.0), QPoint(-1, 1));
+    addRow("less than a pixel", QPointF(10.1, 10.1), QPointF(10.4, 9.6), QPoint(0, 0));
+    addRow("over an edge between pixels", QPointF(10.4, 10.4), QPointF(10.6, 10.6), QPoint(1, 1));
 }
 
 void tst_PreviewPan::positionsAreRoundedToWholePixels()
@@ -371,8 +369,8 @@ void tst_PreviewPan::closedHandNeverOutlivesTheDrag()
 void tst_PreviewPan::releaseThatAMenuTookEndsTheDrag_data()
 {
     QTest::addColumn<bool>("closed");
-    QTest::newRow("menu is open") << false;
-    QTest::newRow("menu was closed again") << true;
+    addRow("menu is open", false);
+    addRow("menu was closed again", true);
 }
 
 void tst_PreviewPan::releaseThatAMenuTookEndsTheDrag()

@@ -73,7 +73,7 @@ private:
     void dragStep()
     {
         QPointF position = somewhere();
-        sendMouse(view, QEvent::MouseButtonPress, position, Qt::LeftButton, Qt::LeftButton);
+        pressMouse(view, position);
         reference.press(position);
         for (int moves = random.bounded(4); moves > 0; --moves) {
             position = somewhere();

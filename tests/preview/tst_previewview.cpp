@@ -85,11 +85,11 @@ void tst_PreviewView::isAPlainWidgetWithoutAMetaObjectOfItsOwn()
 void tst_PreviewView::sizeHintIsTheConstructorsSize_data()
 {
     QTest::addColumn<QSize>("size");
-    QTest::newRow("popup") << QSize(750, 450);
-    QTest::newRow("quick print") << QSize(200, 200);
-    QTest::newRow("invalid") << QSize(-1, -1);
-    QTest::newRow("empty") << QSize(0, 0);
-    QTest::newRow("larger than a widget") << QSize(100000000, 1);
+    addRow("popup", QSize(750, 450));
+    addRow("quick print", QSize(200, 200));
+    addRow("invalid", QSize(-1, -1));
+    addRow("empty", QSize(0, 0));
+    addRow("larger than a widget", QSize(100000000, 1));
 }
 
 void tst_PreviewView::sizeHintIsTheConstructorsSize()
@@ -124,12 +124,10 @@ void tst_PreviewView::startsAtScaleOneAroundTheIntegerCentre_data()
     QTest::addColumn<QSize>("imageSize");
     QTest::addColumn<QRect>("expected");
     // The centre of a view is ((width - 1) / 2, (height - 1) / 2), as whole numbers.
-    QTest::newRow("odd view, even image") << QSize(101, 61) << QSize(10, 4) << QRect(45, 28, 10, 4);
-    QTest::newRow("even view, even image")
-        << QSize(100, 60) << QSize(10, 4) << QRect(44, 27, 10, 4);
-    QTest::newRow("view of one pixel") << QSize(1, 1) << QSize(2, 2) << QRect(0, 0, 1, 1);
-    QTest::newRow("image as large as the view")
-        << QSize(20, 20) << QSize(20, 20) << QRect(0, 0, 19, 19);
+    addRow("odd view, even image", QSize(101, 61), QSize(10, 4), QRect(45, 28, 10, 4));
+    addRow("even view, even image", QSize(100, 60), QSize(10, 4), QRect(44, 27, 10, 4));
+    addRow("view of one pixel", QSize(1, 1), QSize(2, 2), QRect(0, 0, 1, 1));
+    addRow("image as large as the view", QSize(20, 20), QSize(20, 20), QRect(0, 0, 19, 19));
 }
 
 void tst_PreviewView::startsAtScaleOneAroundTheIntegerCentre()
@@ -162,11 +160,11 @@ void tst_PreviewView::fitShowsTheWholeImage_data()
     QTest::addColumn<QSize>("viewSize");
     QTest::addColumn<QSize>("imageSize");
     QTest::addColumn<QSize>("expected");
-    QTest::newRow("wide image fits across") << QSize(201, 201) << QSize(400, 100) << QSize(201, 50);
-    QTest::newRow("tall image fits down") << QSize(201, 201) << QSize(100, 400) << QSize(50, 201);
-    QTest::newRow("small image grows") << QSize(201, 201) << QSize(3, 3) << QSize(201, 201);
-    QTest::newRow("same shape") << QSize(151, 91) << QSize(1510, 910) << QSize(151, 91);
-    QTest::newRow("one pixel") << QSize(101, 51) << QSize(1, 1) << QSize(51, 51);
+    addRow("wide image fits across", QSize(201, 201), QSize(400, 100), QSize(201, 50));
+    addRow("tall image fits down", QSize(201, 201), QSize(100, 400), QSize(50, 201));
+    addRow("small image grows", QSize(201, 201), QSize(3, 3), QSize(201, 201));
+    addRow("same shape", QSize(151, 91), QSize(1510, 910), QSize(151, 91));
+    addRow("one pixel", QSize(101, 51), QSize(1, 1), QSize(51, 51));
 }
 
 void tst_PreviewView::fitShowsTheWholeImage()
@@ -206,9 +204,7 @@ void tst_PreviewView::newImageFitsAtOnceAlsoWhileHidden()
     view.resize(400, 300);
     view.setImage(targetImage());
     QCOMPARE(shownSide(view), 30);
-    sendMouse(view, QEvent::MouseButtonPress, QPointF(10, 10), Qt::LeftButton, Qt::LeftButton);
-    sendMouse(view, QEvent::MouseMove, QPointF(90, 60), Qt::NoButton, Qt::LeftButton);
-    sendMouse(view, QEvent::MouseButtonRelease, QPointF(90, 60), Qt::LeftButton, Qt::NoButton);
+    dragMouse(view, QPointF(10, 10), QPointF(90, 60));
     view.zoomIn();
     view.setImage(targetImage());
     ReferenceCanvas reference(targetImage(), view.size());
@@ -227,9 +223,7 @@ void tst_PreviewView::resizeDoesNotRefitButShowingAgainDoes()
     QCOMPARE(shownSide(view), 20);
     view.resetZoom();
     QCOMPARE(shownSide(view), 20);
-    sendMouse(view, QEvent::MouseButtonPress, QPointF(10, 10), Qt::LeftButton, Qt::LeftButton);
-    sendMouse(view, QEvent::MouseMove, QPointF(50, 20), Qt::NoButton, Qt::LeftButton);
-    sendMouse(view, QEvent::MouseButtonRelease, QPointF(50, 20), Qt::LeftButton, Qt::NoButton);
+    dragMouse(view, QPointF(10, 10), QPointF(50, 20));
     view.hide();
     QCOMPARE(shownSide(view), 20);
     view.show();
@@ -321,9 +315,7 @@ void tst_PreviewView::resetGoesBackToTheLastFit()
     view.fitToView();
     const QImage fitted = drawnBy(view, ground);
     view.scaleBy(3.7);
-    sendMouse(view, QEvent::MouseButtonPress, QPointF(0, 0), Qt::LeftButton, Qt::LeftButton);
-    sendMouse(view, QEvent::MouseMove, QPointF(1000, -70), Qt::NoButton, Qt::LeftButton);
-    sendMouse(view, QEvent::MouseButtonRelease, QPointF(1000, -70), Qt::LeftButton, Qt::NoButton);
+    dragMouse(view, QPointF(0, 0), QPointF(1000, -70));
     QVERIFY(drawnBy(view, ground) != fitted);
     view.resetZoom();
     QCOMPARE(drawnBy(view, ground), fitted);
@@ -350,9 +342,9 @@ void tst_PreviewView::scaleByHasNoLimits()
 void tst_PreviewView::scaleByIgnoresWhatIsNoNumber_data()
 {
     QTest::addColumn<double>("factor");
-    QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN();
-    QTest::newRow("infinity") << std::numeric_limits<double>::infinity();
-    QTest::newRow("minus infinity") << -std::numeric_limits<double>::infinity();
+    addRow("not a number", std::numeric_limits<double>::quiet_NaN());
+    addRow("infinity", std::numeric_limits<double>::infinity());
+    addRow("minus infinity", -std::numeric_limits<double>::infinity());
 }
 
 void tst_PreviewView::scaleByIgnoresWhatIsNoNumber()
@@ -369,16 +361,16 @@ void tst_PreviewView::wheelIsOneStepWhateverItsDelta_data()
 {
     QTest::addColumn<QPoint>("delta");
     QTest::addColumn<int>("expected");
-    QTest::newRow("one notch away") << QPoint(0, 120) << 110;
-    QTest::newRow("smallest turn away") << QPoint(0, 1) << 110;
-    QTest::newRow("many notches away") << QPoint(0, 12000) << 110;
-    QTest::newRow("away and tilted") << QPoint(-240, 8) << 110;
-    QTest::newRow("one notch near") << QPoint(0, -120) << 91;
-    QTest::newRow("smallest turn near") << QPoint(0, -1) << 91;
-    QTest::newRow("many notches near") << QPoint(0, -12000) << 91;
-    QTest::newRow("tilted right") << QPoint(120, 0) << 91;
-    QTest::newRow("tilted left") << QPoint(-120, 0) << 91;
-    QTest::newRow("not turned at all") << QPoint(0, 0) << 91;
+    addRow("one notch away", QPoint(0, 120), 110);
+    addRow("smallest turn away", QPoint(0, 1), 110);
+    addRow("many notches away", QPoint(0, 12000), 110);
+    addRow("away and tilted", QPoint(-240, 8), 110);
+    addRow("one notch near", QPoint(0, -120), 91);
+    addRow("smallest turn near", QPoint(0, -1), 91);
+    addRow("many notches near", QPoint(0, -12000), 91);
+    addRow("tilted right", QPoint(120, 0), 91);
+    addRow("tilted left", QPoint(-120, 0), 91);
+    addRow("not turned at all", QPoint(0, 0), 91);
 }
 
 void tst_PreviewView::wheelIsOneStepWhateverItsDelta()
@@ -464,8 +456,8 @@ void tst_PreviewView::resolutionOfTheImageDoesNotMatter()
 void tst_PreviewView::nullImageDrawsNothing_data()
 {
     QTest::addColumn<bool>("fromTheStart");
-    QTest::newRow("from the start") << true;
-    QTest::newRow("later") << false;
+    addRow("from the start", true);
+    addRow("later", false);
 }
 
 void tst_PreviewView::nullImageDrawsNothing()
@@ -485,9 +477,7 @@ void tst_PreviewView::nullImageDrawsNothing()
         view.scaleBy(1.5);
         view.fitToView();
         turnWheel(view, QPoint(0, -120));
-        sendMouse(view, QEvent::MouseButtonPress, QPointF(0, 0), Qt::LeftButton, Qt::LeftButton);
-        sendMouse(view, QEvent::MouseMove, QPointF(30, 20), Qt::NoButton, Qt::LeftButton);
-        sendMouse(view, QEvent::MouseButtonRelease, QPointF(30, 20), Qt::LeftButton, Qt::NoButton);
+        dragMouse(view, QPointF(0, 0), QPointF(30, 20));
         QCOMPARE(drawnBy(view, ground), empty);
         view.resetZoom();
         QCOMPARE(drawnBy(view, ground), empty);
@@ -504,7 +494,7 @@ void tst_PreviewView::viewWithoutASizeIsHarmless()
     view.fitToView();
     view.zoomIn();
     view.zoomOut();
-    sendMouse(view, QEvent::MouseButtonPress, QPointF(0, 0), Qt::LeftButton, Qt::LeftButton);
+    pressMouse(view, QPointF(0, 0));
     sendMouse(view, QEvent::MouseMove, QPointF(0, 0), Qt::NoButton, Qt::LeftButton);
     sendMouse(view, QEvent::MouseMove, QPointF(30, 20), Qt::NoButton, Qt::LeftButton);
     sendMouse(view, QEvent::MouseButtonRelease, QPointF(30, 20), Qt::LeftButton, Qt::NoButton);
@@ -517,10 +507,10 @@ void tst_PreviewView::viewWithoutASizeIsHarmless()
 void tst_PreviewView::extremeImages_data()
 {
     QTest::addColumn<QSize>("size");
-    QTest::newRow("1x1") << QSize(1, 1);
-    QTest::newRow("30000x1") << QSize(30000, 1);
-    QTest::newRow("1x30000") << QSize(1, 30000);
-    QTest::newRow("30000x2000") << QSize(30000, 2000);
+    addRow("1x1", QSize(1, 1));
+    addRow("30000x1", QSize(30000, 1));
+    addRow("1x30000", QSize(1, 30000));
+    addRow("30000x2000", QSize(30000, 2000));
 }
 
 void tst_PreviewView::extremeImages()
@@ -559,9 +549,7 @@ void tst_PreviewView::extremeScales()
     for (int round = 0; round < 3; ++round) {
         view.scaleBy(factor);
         QVERIFY(!drawnBy(view, ground).isNull());
-        sendMouse(view, QEvent::MouseButtonPress, QPointF(0, 0), Qt::LeftButton, Qt::LeftButton);
-        sendMouse(view, QEvent::MouseMove, QPointF(50, 50), Qt::NoButton, Qt::LeftButton);
-        sendMouse(view, QEvent::MouseButtonRelease, QPointF(50, 50), Qt::LeftButton, Qt::NoButton);
+        dragMouse(view, QPointF(0, 0), QPointF(50, 50));
         QVERIFY(!drawnBy(view, ground).isNull());
         view.zoomIn();
         view.zoomOut();

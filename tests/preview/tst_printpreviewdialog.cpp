@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "popup.h"
+#include "previewfixture.h"
 #include "referencecanvas.h"
 #include "support/metamethods.h"
 #include "support/stricttest.h"
@@ -25,7 +25,7 @@ QVariantList request(int start, int end, const QString& list)
 }
 
 /** What the popup's canvas shows, on the grey that stands behind it. */
-QImage shown(const Popup& popup)
+QImage shown(const PreviewFixture& popup)
 {
     return popup.view()->grab().toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
@@ -54,12 +54,12 @@ private Q_SLOTS:
     void updateReplacesTheRangeAndTheTitle();
     void orientationAtConstruction_data();
     void orientationAtConstruction();
-    void updateChecksTheOrientationWithoutTellingTheHost();
-    void clickOnOrientationTellsItsId();
-    void clickOnTheCheckedOrientationTellsAgain();
-    void bothCloseControlsCloseAndThenTell_data();
-    void bothCloseControlsCloseAndThenTell();
-    void nothingElseTellsOfClosing();
+    void updateChecksTheOrientationWithoutNotifyingTheHost();
+    void clickOnOrientationReportsItsId();
+    void clickOnTheCheckedOrientationReportsAgain();
+    void bothCloseControlsCloseAndThenEmit_data();
+    void bothCloseControlsCloseAndThenEmit();
+    void nothingElseReportsClosing();
     void popupCanBeShownAgainAfterClosing();
     void dragOfTheTitleBarMovesThePopup();
     void mouseMoveSlotPlacesThePopup();
@@ -105,7 +105,7 @@ void tst_PrintPreviewDialog::metaObjectTable()
 void tst_PrintPreviewDialog::orientationTip()
 {
     QCOMPARE(PrintPreviewDialog::ORIENTATION_TIP, QStringLiteral("Switch Print Orientation"));
-    const Popup popup;
+    const PreviewFixture popup;
     QCOMPARE(popup.button("portraitButton")->toolTip(), PrintPreviewDialog::ORIENTATION_TIP);
     QCOMPARE(popup.button("landscapeButton")->toolTip(), PrintPreviewDialog::ORIENTATION_TIP);
 }
@@ -113,10 +113,10 @@ void tst_PrintPreviewDialog::orientationTip()
 void tst_PrintPreviewDialog::constructorPassesParentAndFlags_data()
 {
     QTest::addColumn<int>("flags");
-    QTest::newRow("none") << 0;
-    QTest::newRow("frameless dialog") << int(Qt::Dialog | Qt::FramelessWindowHint);
-    QTest::newRow("tool") << int(Qt::Tool | Qt::WindowStaysOnTopHint);
-    QTest::newRow("popup") << int(Qt::Popup);
+    addRow("none", 0);
+    addRow("frameless dialog", int(Qt::Dialog | Qt::FramelessWindowHint));
+    addRow("tool", int(Qt::Tool | Qt::WindowStaysOnTopHint));
+    addRow("popup", int(Qt::Popup));
 }
 
 void tst_PrintPreviewDialog::constructorPassesParentAndFlags()
@@ -124,10 +124,10 @@ void tst_PrintPreviewDialog::constructorPassesParentAndFlags()
     QFETCH(const int, flags);
     const Qt::WindowFlags windowFlags(flags);
     QWidget host;
-    const Popup child(PopupContent(), &host, windowFlags);
+    const PreviewFixture child(PopupContent(), &host, windowFlags);
     QCOMPARE(child.parentWidget(), &host);
     QCOMPARE(child.windowFlags(), QWidget(&host, windowFlags).windowFlags());
-    const Popup alone(PopupContent(), nullptr, windowFlags);
+    const PreviewFixture alone(PopupContent(), nullptr, windowFlags);
     QCOMPARE(alone.parentWidget(), nullptr);
     QCOMPARE(alone.windowFlags(), QWidget(nullptr, windowFlags).windowFlags());
 }
@@ -135,7 +135,7 @@ void tst_PrintPreviewDialog::constructorPassesParentAndFlags()
 void tst_PrintPreviewDialog::startsHiddenWithItsNameAndSize()
 {
     QWidget host;
-    const Popup popup(PopupContent(), &host, Qt::WindowFlags());
+    const PreviewFixture popup(PopupContent(), &host, Qt::WindowFlags());
     QCOMPARE(popup.objectName(), QStringLiteral("PrintPreviewDialog"));
     QCOMPARE(popup.size(), QSize(860, 500));
     QCOMPARE(popup.minimumSize(), QSize(860, 500));
@@ -153,29 +153,22 @@ void tst_PrintPreviewDialog::titleNamesTheSizes_data()
     QTest::addColumn<bool>("printedOnly");
     QTest::addColumn<bool>("metric");
     QTest::addColumn<QString>("title");
-    QTest::newRow("inches, both")
-        << QSizeF(4, 2) << QSizeF(3.5, 1.75) << false << false
-        << QStringLiteral("Print Preview (Design: 4.00\" X 2.00\"  Printed: 3.50\" X 1.75\")");
-    QTest::newRow("inches, printed only") << QSizeF(4, 2) << QSizeF(3.5, 1.75) << true << false
-                                          << QStringLiteral("Print Preview (3.50\" X 1.75\")");
-    QTest::newRow("millimetres, both")
-        << QSizeF(101.6, 50.8) << QSizeF(88.9, 44.45) << false << true
-        << QStringLiteral("Print Preview (Design: 102 mm X 51 mm  Printed: 89 mm X 44 mm)");
-    QTest::newRow("millimetres, printed only")
-        << QSizeF(101.6, 50.8) << QSizeF(88.9, 44.4) << true << true
-        << QStringLiteral("Print Preview (89 mm X 44 mm)");
-    QTest::newRow("equal sizes are both named")
-        << QSizeF(4, 2) << QSizeF(4, 2) << false << false
-        << QStringLiteral("Print Preview (Design: 4.00\" X 2.00\"  Printed: 4.00\" X 2.00\")");
-    QTest::newRow("no thousands separator")
-        << QSizeF() << QSizeF(12345.678, 1000) << true << false
-        << QStringLiteral("Print Preview (12345.68\" X 1000.00\")");
-    QTest::newRow("rounded up to the next inch")
-        << QSizeF() << QSizeF(0.999, 0.004) << true << false
-        << QStringLiteral("Print Preview (1.00\" X 0.00\")");
-    QTest::newRow("invalid sizes are written as they are")
-        << QSizeF() << QSizeF() << false << true
-        << QStringLiteral("Print Preview (Design: -1 mm X -1 mm  Printed: -1 mm X -1 mm)");
+    addRow("inches, both", QSizeF(4, 2), QSizeF(3.5, 1.75), false, false,
+           "Print Preview (Design: 4.00\" X 2.00\"  Printed: 3.50\" X 1.75\")");
+    addRow("inches, printed only", QSizeF(4, 2), QSizeF(3.5, 1.75), true, false,
+           "Print Preview (3.50\" X 1.75\")");
+    addRow("millimetres, both", QSizeF(101.6, 50.8), QSizeF(88.9, 44.45), false, true,
+           "Print Preview (Design: 102 mm X 51 mm  Printed: 89 mm X 44 mm)");
+    addRow("millimetres, printed only", QSizeF(101.6, 50.8), QSizeF(88.9, 44.4), true, true,
+           "Print Preview (89 mm X 44 mm)");
+    addRow("equal sizes are both named", QSizeF(4, 2), QSizeF(4, 2), false, false,
+           "Print Preview (Design: 4.00\" X 2.00\"  Printed: 4.00\" X 2.00\")");
+    addRow("no thousands separator", QSizeF(), QSizeF(12345.678, 1000), true, false,
+           "Print Preview (12345.68\" X 1000.00\")");
+    addRow("rounded up to the next inch", QSizeF(), QSizeF(0.999, 0.004), true, false,
+           "Print Preview (1.00\" X 0.00\")");
+    addRow("invalid sizes are written as they are", QSizeF(), QSizeF(), false, true,
+           "Print Preview (Design: -1 mm X -1 mm  Printed: -1 mm X -1 mm)");
 }
 
 void tst_PrintPreviewDialog::titleNamesTheSizes()
@@ -192,10 +185,10 @@ void tst_PrintPreviewDialog::titleNamesTheSizes()
 
     const QLocale before;
     QLocale::setDefault(QLocale(QLocale::German));
-    const Popup constructed(content);
-    Popup titled;
+    const PreviewFixture constructed(content);
+    PreviewFixture titled;
     titled.title(content);
-    Popup updated;
+    PreviewFixture updated;
     updated.update(content);
     QLocale::setDefault(before);
     QTEST(constructed.bar()->title(), "title");
@@ -208,13 +201,10 @@ void tst_PrintPreviewDialog::titleSurvivesAnyNumber_data()
     QTest::addColumn<double>("length");
     QTest::addColumn<QString>("inches");
     QTest::addColumn<QString>("millimetres");
-    QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN()
-                                  << QStringLiteral("nan") << QStringLiteral("nan");
-    QTest::newRow("infinite") << std::numeric_limits<double>::infinity() << QStringLiteral("inf")
-                              << QStringLiteral("inf");
-    QTest::newRow("large") << 1e15 << QStringLiteral("1000000000000000.00")
-                           << QStringLiteral("1000000000000000");
-    QTest::newRow("negative") << -7.25 << QStringLiteral("-7.25") << QStringLiteral("-7");
+    addRow("not a number", std::numeric_limits<double>::quiet_NaN(), "nan", "nan");
+    addRow("infinite", std::numeric_limits<double>::infinity(), "inf", "inf");
+    addRow("large", 1e15, "1000000000000000.00", "1000000000000000");
+    addRow("negative", -7.25, "-7.25", "-7");
 }
 
 void tst_PrintPreviewDialog::titleSurvivesAnyNumber()
@@ -225,7 +215,7 @@ void tst_PrintPreviewDialog::titleSurvivesAnyNumber()
     PopupContent content;
     content.printedSize = QSizeF(length, length);
     content.printedSizeOnly = true;
-    Popup popup(content);
+    PreviewFixture popup(content);
     QCOMPARE(popup.bar()->title(), QStringLiteral("Print Preview (") + inches +
                                        QStringLiteral("\" X ") + inches + QStringLiteral("\")"));
     content.metric = true;
@@ -240,12 +230,12 @@ void tst_PrintPreviewDialog::printHandsBackTheRange_data()
     QTest::addColumn<int>("start");
     QTest::addColumn<int>("end");
     QTest::addColumn<QString>("list");
-    QTest::newRow("one record") << 5 << -1 << QString();
-    QTest::newRow("all records") << 1 << 99999 << QString();
-    QTest::newRow("a list") << 0 << 0 << QStringLiteral("1,4-5");
-    QTest::newRow("nonsense") << std::numeric_limits<int>::min() << std::numeric_limits<int>::max()
-                              << QStringLiteral("%1 <b> \n");
-    QTest::newRow("a megabyte") << 0 << 0 << QString(1 << 20, u'7');
+    addRow("one record", 5, -1, QString());
+    addRow("all records", 1, 99999, QString());
+    addRow("a list", 0, 0, "1,4-5");
+    addRow("nonsense", std::numeric_limits<int>::min(), std::numeric_limits<int>::max(),
+           "%1 <b> \n");
+    addRow("a megabyte", 0, 0, QString(1 << 20, u'7'));
 }
 
 void tst_PrintPreviewDialog::printHandsBackTheRange()
@@ -257,7 +247,7 @@ void tst_PrintPreviewDialog::printHandsBackTheRange()
     content.sequenceStart = start;
     content.sequenceEnd = end;
     content.recordList = list;
-    Popup popup(content);
+    PreviewFixture popup(content);
     QSignalSpy printed(&popup, &PrintPreviewDialog::previewPrintSignal);
     popup.show();
     QTest::mouseClick(popup.button("printButton"), Qt::LeftButton);
@@ -270,7 +260,7 @@ void tst_PrintPreviewDialog::printHandsBackTheRange()
 
 void tst_PrintPreviewDialog::printDoesNotCloseThePopup()
 {
-    Popup popup;
+    PreviewFixture popup;
     QSignalSpy closed(&popup, &PrintPreviewDialog::popupHideSignal);
     popup.show();
     QTest::mouseClick(popup.button("printButton"), Qt::LeftButton);
@@ -280,7 +270,7 @@ void tst_PrintPreviewDialog::printDoesNotCloseThePopup()
 
 void tst_PrintPreviewDialog::disabledPrintButtonDoesNothingButPrintItselfDoes()
 {
-    Popup popup;
+    PreviewFixture popup;
     QSignalSpy printed(&popup, &PrintPreviewDialog::previewPrintSignal);
     popup.show();
     QVERIFY(popup.button("printButton")->isEnabled());
@@ -298,7 +288,7 @@ void tst_PrintPreviewDialog::disabledPrintButtonDoesNothingButPrintItselfDoes()
 
 void tst_PrintPreviewDialog::updateReplacesTheRangeAndTheTitle()
 {
-    Popup popup;
+    PreviewFixture popup;
     QSignalSpy printed(&popup, &PrintPreviewDialog::previewPrintSignal);
     PopupContent next;
     next.sequenceStart = 0;
@@ -319,8 +309,8 @@ void tst_PrintPreviewDialog::updateReplacesTheRangeAndTheTitle()
 void tst_PrintPreviewDialog::orientationAtConstruction_data()
 {
     QTest::addColumn<bool>("portrait");
-    QTest::newRow("portrait") << true;
-    QTest::newRow("landscape") << false;
+    addRow("portrait", true);
+    addRow("landscape", false);
 }
 
 void tst_PrintPreviewDialog::orientationAtConstruction()
@@ -328,7 +318,7 @@ void tst_PrintPreviewDialog::orientationAtConstruction()
     QFETCH(const bool, portrait);
     PopupContent content;
     content.portrait = portrait;
-    const Popup popup(content);
+    const PreviewFixture popup(content);
     QPushButton* upright = popup.button("portraitButton");
     QPushButton* lying = popup.button("landscapeButton");
     QVERIFY(upright->isCheckable() && lying->isCheckable());
@@ -343,9 +333,9 @@ void tst_PrintPreviewDialog::orientationAtConstruction()
     QCOMPARE(group->button(1), upright);
 }
 
-void tst_PrintPreviewDialog::updateChecksTheOrientationWithoutTellingTheHost()
+void tst_PrintPreviewDialog::updateChecksTheOrientationWithoutNotifyingTheHost()
 {
-    Popup popup;
+    PreviewFixture popup;
     QSignalSpy turned(&popup, &PrintPreviewDialog::orientationChangedSignal);
     PopupContent content;
     for (const bool portrait : {false, false, true, true, false}) {
@@ -357,9 +347,9 @@ void tst_PrintPreviewDialog::updateChecksTheOrientationWithoutTellingTheHost()
     QCOMPARE(turned.size(), 0);
 }
 
-void tst_PrintPreviewDialog::clickOnOrientationTellsItsId()
+void tst_PrintPreviewDialog::clickOnOrientationReportsItsId()
 {
-    Popup popup;
+    PreviewFixture popup;
     QSignalSpy turned(&popup, &PrintPreviewDialog::orientationChangedSignal);
     popup.show();
     QTest::mouseClick(popup.button("landscapeButton"), Qt::LeftButton);
@@ -373,9 +363,9 @@ void tst_PrintPreviewDialog::clickOnOrientationTellsItsId()
     QVERIFY(popup.isVisible());
 }
 
-void tst_PrintPreviewDialog::clickOnTheCheckedOrientationTellsAgain()
+void tst_PrintPreviewDialog::clickOnTheCheckedOrientationReportsAgain()
 {
-    Popup popup;
+    PreviewFixture popup;
     QSignalSpy turned(&popup, &PrintPreviewDialog::orientationChangedSignal);
     popup.show();
     for (int click = 1; click <= 3; ++click) {
@@ -386,33 +376,33 @@ void tst_PrintPreviewDialog::clickOnTheCheckedOrientationTellsAgain()
     }
 }
 
-void tst_PrintPreviewDialog::bothCloseControlsCloseAndThenTell_data()
+void tst_PrintPreviewDialog::bothCloseControlsCloseAndThenEmit_data()
 {
     QTest::addColumn<bool>("cross");
-    QTest::newRow("Close button") << false;
-    QTest::newRow("cross of the title bar") << true;
+    addRow("Close button", false);
+    addRow("cross of the title bar", true);
 }
 
-void tst_PrintPreviewDialog::bothCloseControlsCloseAndThenTell()
+void tst_PrintPreviewDialog::bothCloseControlsCloseAndThenEmit()
 {
     QFETCH(const bool, cross);
-    Popup popup;
+    PreviewFixture popup;
     popup.show();
-    int told = 0;
-    bool visibleWhenTold = true;
+    int emitted = 0;
+    bool visibleWhenEmitted = true;
     connect(&popup, &PrintPreviewDialog::popupHideSignal, this, [&] {
-        ++told;
-        visibleWhenTold = popup.isVisible();
+        ++emitted;
+        visibleWhenEmitted = popup.isVisible();
     });
     QTest::mouseClick(cross ? popup.cross() : popup.button("closeButton"), Qt::LeftButton);
-    QCOMPARE(told, 1);
-    QVERIFY(!visibleWhenTold);
+    QCOMPARE(emitted, 1);
+    QVERIFY(!visibleWhenEmitted);
     QVERIFY(!popup.isVisible());
 }
 
-void tst_PrintPreviewDialog::nothingElseTellsOfClosing()
+void tst_PrintPreviewDialog::nothingElseReportsClosing()
 {
-    auto* popup = new Popup;
+    auto* popup = new PreviewFixture;
     QSignalSpy closed(popup, &PrintPreviewDialog::popupHideSignal);
     popup->show();
     popup->close();
@@ -428,7 +418,7 @@ void tst_PrintPreviewDialog::popupCanBeShownAgainAfterClosing()
 {
     PopupContent content;
     content.image = speckledImage(QSize(300, 200));
-    Popup popup(content);
+    PreviewFixture popup(content);
     QSignalSpy closed(&popup, &PrintPreviewDialog::popupHideSignal);
     popup.show();
     const QImage first = shown(popup);
@@ -444,12 +434,12 @@ void tst_PrintPreviewDialog::popupCanBeShownAgainAfterClosing()
 
 void tst_PrintPreviewDialog::dragOfTheTitleBarMovesThePopup()
 {
-    Popup popup;
+    PreviewFixture popup;
     popup.show();
     popup.move(100, 80);
     ContainerTitleBar* bar = popup.bar();
     const QPointF grip(200, 12);
-    sendMouse(*bar, QEvent::MouseButtonPress, grip, Qt::LeftButton, Qt::LeftButton);
+    pressMouse(*bar, grip);
     sendMouse(*bar, QEvent::MouseMove, grip + QPointF(35, 20), Qt::NoButton, Qt::LeftButton);
     QCOMPARE(popup.pos(), QPoint(135, 100));
     sendMouse(*bar, QEvent::MouseMove, grip + QPointF(-10, 5), Qt::NoButton, Qt::LeftButton);
@@ -461,7 +451,7 @@ void tst_PrintPreviewDialog::dragOfTheTitleBarMovesThePopup()
 
 void tst_PrintPreviewDialog::mouseMoveSlotPlacesThePopup()
 {
-    Popup popup;
+    PreviewFixture popup;
     for (const QPoint& place : {QPoint(12, 34), QPoint(-500, 0), QPoint(0, 0)}) {
         popup.mouseMoveSlot(place.x(), place.y());
         QCOMPARE(popup.pos(), place);
@@ -474,15 +464,15 @@ void tst_PrintPreviewDialog::placesBeyondAnyScreenKeepTheSize_data()
 {
     QTest::addColumn<int>("place");
     QTest::addColumn<int>("expected");
-    QTest::newRow("highest") << std::numeric_limits<int>::max() << QWIDGETSIZE_MAX;
-    QTest::newRow("lowest") << std::numeric_limits<int>::min() << -QWIDGETSIZE_MAX;
+    addRow("highest", std::numeric_limits<int>::max(), QWIDGETSIZE_MAX);
+    addRow("lowest", std::numeric_limits<int>::min(), -QWIDGETSIZE_MAX);
 }
 
 void tst_PrintPreviewDialog::placesBeyondAnyScreenKeepTheSize()
 {
     QFETCH(const int, place);
     QFETCH(const int, expected);
-    Popup popup;
+    PreviewFixture popup;
     popup.mouseMoveSlot(place, place);
     QCOMPARE(popup.pos(), QPoint(expected, expected));
     QCOMPARE(popup.size(), QSize(860, 500));
@@ -490,7 +480,7 @@ void tst_PrintPreviewDialog::placesBeyondAnyScreenKeepTheSize()
 
 void tst_PrintPreviewDialog::slotsCanBeCalledByName()
 {
-    Popup popup;
+    PreviewFixture popup;
     QSignalSpy printed(&popup, SIGNAL(previewPrintSignal(int, int, QString)));
     QSignalSpy turned(&popup, SIGNAL(orientationChangedSignal(int)));
     QSignalSpy closed(&popup, SIGNAL(popupHideSignal()));
@@ -509,7 +499,7 @@ void tst_PrintPreviewDialog::zoomButtonsZoomTheView()
 {
     PopupContent content;
     content.image = speckledImage(QSize(120, 90));
-    Popup popup(content);
+    PreviewFixture popup(content);
     popup.show();
     ReferenceCanvas reference(content.image, popup.view()->size());
     reference.fit();
@@ -542,7 +532,7 @@ void tst_PrintPreviewDialog::zoomInStopsAboveTheCeiling()
 {
     PopupContent content;
     content.image = speckledImage(QSize(120, 90));
-    Popup popup(content);
+    PreviewFixture popup(content);
     popup.show();
     ReferenceCanvas reference(content.image, popup.view()->size());
     reference.fit();
@@ -563,13 +553,11 @@ void tst_PrintPreviewDialog::zoomFitAfterDraggingCentresAgain()
 {
     PopupContent content;
     content.image = speckledImage(QSize(120, 90));
-    Popup popup(content);
+    PreviewFixture popup(content);
     popup.show();
     const QImage fitted = shown(popup);
     QWidget& view = *popup.view();
-    sendMouse(view, QEvent::MouseButtonPress, QPointF(50, 50), Qt::LeftButton, Qt::LeftButton);
-    sendMouse(view, QEvent::MouseMove, QPointF(300, 90), Qt::NoButton, Qt::LeftButton);
-    sendMouse(view, QEvent::MouseButtonRelease, QPointF(300, 90), Qt::LeftButton, Qt::NoButton);
+    dragMouse(view, QPointF(50, 50), QPointF(300, 90));
     ReferenceCanvas reference(content.image, view.size());
     reference.fit();
     reference.press(QPointF(50, 50));
@@ -583,7 +571,7 @@ void tst_PrintPreviewDialog::updateFitsAndCentresTheNewImage()
 {
     PopupContent content;
     content.image = speckledImage(QSize(120, 90));
-    Popup popup(content);
+    PreviewFixture popup(content);
     popup.show();
     popup.zoomIn();
     content.image = speckledImage(QSize(31, 200));

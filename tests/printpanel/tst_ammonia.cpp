@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "panelprobe.h"
+#include "printpanelfixture.h"
 #include "support/layoutdescription.h"
 #include "support/stricttest.h"
 
@@ -19,23 +19,23 @@
 
 namespace {
 
-QComboBox* combo(const PrintWidget& panel)
+QComboBox* combo(const PrintPanelFixture& panel)
 {
-    return part<QComboBox>(panel, "AmmoniaPrintCombo");
+    return panel.part<QComboBox>("AmmoniaPrintCombo");
 }
 
-QFrame* section(const PrintWidget& panel)
+QFrame* section(const PrintPanelFixture& panel)
 {
-    return part<QFrame>(panel, "ammoniaWidget");
+    return panel.part<QFrame>("ammoniaWidget");
 }
 
-QFrame* separator(const PrintWidget& panel)
+QFrame* separator(const PrintPanelFixture& panel)
 {
-    return part<QFrame>(panel, "ammoniaSeparator");
+    return panel.part<QFrame>("ammoniaSeparator");
 }
 
 /** "Label=0 High Pressure Tag=1": the entries with their values. */
-QStringList entries(const PrintWidget& panel)
+QStringList entries(const PrintPanelFixture& panel)
 {
     QStringList lines;
     for (int i = 0; i < combo(panel)->count(); ++i)
@@ -86,7 +86,7 @@ private Q_SLOTS:
 
 void tst_Ammonia::atConstructionTheSectionIsEmptyAndHidden()
 {
-    const PrintWidget panel(false, nullptr);
+    const PrintPanelFixture panel;
     QVERIFY(section(panel)->isHidden());
     QVERIFY(section(panel)->children().isEmpty());
     QCOMPARE(combo(panel), nullptr);
@@ -94,7 +94,7 @@ void tst_Ammonia::atConstructionTheSectionIsEmptyAndHidden()
 
 void tst_Ammonia::layoutOfTheSection()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setModule(JxModuleInfo::PipeMarking);
     auto* grid = qobject_cast<QGridLayout*>(section(panel)->layout());
     QVERIFY(grid);
@@ -116,7 +116,7 @@ void tst_Ammonia::layoutOfTheSection()
 
 void tst_Ammonia::caption()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setModule(JxModuleInfo::PipeMarking);
     const QLabel* label = labelWithText(panel, QStringLiteral("Item To Print:"));
     QVERIFY(label);
@@ -126,7 +126,7 @@ void tst_Ammonia::caption()
 
 void tst_Ammonia::setModuleBuildsHiddenAndDisconnected()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setModule(JxModuleInfo::PipeMarking);
     QVERIFY(section(panel)->isHidden());
     QVERIFY(separator(panel)->isHidden());
@@ -161,19 +161,19 @@ void tst_Ammonia::entriesFollowTheMask_data()
         }
         QTest::addRow("%d", mask) << mask << expected;
     }
-    QTest::newRow("5, literally") << 5 << QStringList({label, high, vapor});
-    QTest::newRow("only higher bits") << 16 + 64 << QStringList(label);
-    QTest::newRow("higher bits are ignored") << 1024 + 8 << QStringList({label, liquid});
-    QTest::newRow("every bit") << -1 << QStringList({label, high, low, vapor, liquid});
-    QTest::newRow("highest") << INT_MAX << QStringList({label, high, low, vapor, liquid});
-    QTest::newRow("lowest") << INT_MIN << QStringList(label);
+    addRow("5, literally", 5, QStringList({label, high, vapor}));
+    addRow("only higher bits", 16 + 64, QStringList(label));
+    addRow("higher bits are ignored", 1024 + 8, QStringList({label, liquid}));
+    addRow("every bit", -1, QStringList({label, high, low, vapor, liquid}));
+    addRow("highest", INT_MAX, QStringList({label, high, low, vapor, liquid}));
+    addRow("lowest", INT_MIN, QStringList(label));
 }
 
 void tst_Ammonia::entriesFollowTheMask()
 {
     QFETCH(const int, mask);
     QFETCH(const QStringList, expected);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setModule(JxModuleInfo::PipeMarking);
     for (const int before : {15, 0}) {
         panel.setVisibleAmmoniaTag(before);
@@ -187,7 +187,7 @@ void tst_Ammonia::entriesFollowTheMask()
 
 void tst_Ammonia::entriesHaveNoIcons()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setVisibleAmmoniaTag(15);
     for (int i = 0; i < combo(panel)->count(); ++i)
         QVERIFY(combo(panel)->itemIcon(i).isNull());
@@ -195,13 +195,13 @@ void tst_Ammonia::entriesHaveNoIcons()
 
 void tst_Ammonia::tagsBeforeSetModuleBuildTheSection()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setVisibleAmmoniaTag(5);
     QVERIFY(!section(panel)->isHidden());
     QVERIFY(!separator(panel)->isHidden());
     QCOMPARE(entries(panel).size(), 3);
     // The records stay: only the module hides them.
-    QVERIFY(!part<QFrame>(panel, "recordsFrame")->isHidden());
+    QVERIFY(!panel.part<QFrame>("recordsFrame")->isHidden());
 }
 
 void tst_Ammonia::noTagsBeforeSetModuleDoNothing_data()
@@ -214,7 +214,7 @@ void tst_Ammonia::noTagsBeforeSetModuleDoNothing_data()
 void tst_Ammonia::noTagsBeforeSetModuleDoNothing()
 {
     QFETCH(const int, mask);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     const QStringList before = stateOf(panel);
     panel.setVisibleAmmoniaTag(mask);
     QCOMPARE(stateOf(panel), before);
@@ -222,7 +222,7 @@ void tst_Ammonia::noTagsBeforeSetModuleDoNothing()
 
 void tst_Ammonia::setModuleAfterTagsStartsOverHidden()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setVisibleAmmoniaTag(5);
     panel.setModule(JxModuleInfo::PipeMarking);
     QVERIFY(section(panel)->isHidden());
@@ -239,12 +239,12 @@ void tst_Ammonia::theUsersChoiceIsReportedByItsValue_data()
     QTest::addColumn<int>("mask");
     QTest::addColumn<int>("index");
     QTest::addColumn<int>("value");
-    QTest::newRow("third entry of 5 is 4") << 5 << 2 << 4;
-    QTest::newRow("second entry of 5 is 1") << 5 << 1 << 1;
-    QTest::newRow("second entry of 8 is 8") << 8 << 1 << 8;
-    QTest::newRow("last of all is 8") << 15 << 4 << 8;
-    QTest::newRow("second of 6 is 2") << 6 << 1 << 2;
-    QTest::newRow("third of 6 is 4") << 6 << 2 << 4;
+    addRow("third entry of 5 is 4", 5, 2, 4);
+    addRow("second entry of 5 is 1", 5, 1, 1);
+    addRow("second entry of 8 is 8", 8, 1, 8);
+    addRow("last of all is 8", 15, 4, 8);
+    addRow("second of 6 is 2", 6, 1, 2);
+    addRow("third of 6 is 4", 6, 2, 4);
 }
 
 void tst_Ammonia::theUsersChoiceIsReportedByItsValue()
@@ -252,7 +252,7 @@ void tst_Ammonia::theUsersChoiceIsReportedByItsValue()
     QFETCH(const int, mask);
     QFETCH(const int, index);
     QFETCH(const int, value);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setModule(JxModuleInfo::PipeMarking);
     panel.setVisibleAmmoniaTag(mask);
     QVERIFY(showPanel(panel));
@@ -267,7 +267,7 @@ void tst_Ammonia::theUsersChoiceIsReportedByItsValue()
 
 void tst_Ammonia::rebuildingReturnsToTheLabelSilently()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setModule(JxModuleInfo::PipeMarking);
     panel.setVisibleAmmoniaTag(15);
     combo(panel)->setCurrentIndex(4);
@@ -283,7 +283,7 @@ void tst_Ammonia::rebuildingReturnsToTheLabelSilently()
 
 void tst_Ammonia::theSignalIsConnectedOnce()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setModule(JxModuleInfo::PipeMarking);
     for (int i = 0; i < 3; ++i)
         panel.setVisibleAmmoniaTag(15);
@@ -295,7 +295,7 @@ void tst_Ammonia::theSignalIsConnectedOnce()
 
 void tst_Ammonia::withoutTagsTheComboIsDisconnected()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setModule(JxModuleInfo::PipeMarking);
     panel.setVisibleAmmoniaTag(15);
     panel.setVisibleAmmoniaTag(0);
@@ -309,16 +309,16 @@ void tst_Ammonia::negativeIndexIsIgnored_data()
 {
     QTest::addColumn<int>("index");
     QTest::addColumn<QList<QVariantList>>("emitted");
-    QTest::newRow("-1") << -1 << QList<QVariantList>();
-    QTest::newRow("lowest") << INT_MIN << QList<QVariantList>();
-    QTest::newRow("first") << 0 << QList<QVariantList>{QVariantList{0}};
-    QTest::newRow("second") << 1 << QList<QVariantList>{QVariantList{2}};
+    addRow("-1", -1, QList<QVariantList>());
+    addRow("lowest", INT_MIN, QList<QVariantList>());
+    addRow("first", 0, QList<QVariantList>{QVariantList{0}});
+    addRow("second", 1, QList<QVariantList>{QVariantList{2}});
 }
 
 void tst_Ammonia::negativeIndexIsIgnored()
 {
     QFETCH(const int, index);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setVisibleAmmoniaTag(2);
     const QSignalSpy changed(&panel, tagSignal);
     QVERIFY(QMetaObject::invokeMethod(&panel, "ammoniaPrintComboChanged", Q_ARG(int, index)));
@@ -330,7 +330,7 @@ void tst_Ammonia::negativeIndexIsIgnored()
 
 void tst_Ammonia::separatorShowsOnlyWithoutSupply()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setModule(JxModuleInfo::PipeMarking);
     panel.showSupplyInfo({QStringLiteral("#000000")}, false, 4.0, 0, false);
     panel.setVisibleAmmoniaTag(3);
@@ -346,7 +346,7 @@ void tst_Ammonia::separatorShowsOnlyWithoutSupply()
 
 void tst_Ammonia::onlyAMaskReevaluatesTheSeparator()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setModule(JxModuleInfo::PipeMarking);
     panel.setVisibleAmmoniaTag(3);
     QVERIFY(!separator(panel)->isHidden());
@@ -360,7 +360,7 @@ void tst_Ammonia::onlyAMaskReevaluatesTheSeparator()
 
 void tst_Ammonia::secondSetModuleDoublesNoNames()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setModule(JxModuleInfo::PipeMarking);
     panel.setVisibleAmmoniaTag(15);
     panel.setModule(JxModuleInfo::PipeMarking);
@@ -381,7 +381,7 @@ void tst_Ammonia::secondSetModuleDoublesNoNames()
 // What is left of the old contents until the event loop deletes it is neither seen nor heard.
 void tst_Ammonia::secondSetModuleTakesTheOldContentsAwayAtOnce()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setModule(JxModuleInfo::PipeMarking);
     panel.setVisibleAmmoniaTag(15);
     QVERIFY(showPanel(panel));
@@ -405,7 +405,7 @@ void tst_Ammonia::secondSetModuleTakesTheOldContentsAwayAtOnce()
 
 void tst_Ammonia::createAmmoniaComboListTwiceDoublesNoNames()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.createAmmoniaComboList();
     panel.setModule(JxModuleInfo::PipeMarking);
     panel.createAmmoniaComboList();
@@ -417,41 +417,41 @@ void tst_Ammonia::createAmmoniaComboListTwiceDoublesNoNames()
 
 void tst_Ammonia::setModuleInsideTheTagHandler()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setModule(JxModuleInfo::PipeMarking);
     panel.setVisibleAmmoniaTag(15);
     QVERIFY(showPanel(panel));
-    int heard = 0;
+    int received = 0;
     connect(&panel, &PrintWidget::ammoniaPrintTagChanged, this, [&] {
-        ++heard;
+        ++received;
         panel.setModule(JxModuleInfo::PipeMarking);
         panel.setVisibleAmmoniaTag(3);
     });
     QTest::keyClick(combo(panel), Qt::Key_Down);
-    QCOMPARE(heard, 1);
+    QCOMPARE(received, 1);
     QTest::qWait(0);
     QCOMPARE(entries(panel).size(), 3);
     QCOMPARE(panel.findChildren<QComboBox*>(QStringLiteral("AmmoniaPrintCombo")).size(), 1);
     QVERIFY(combo(panel)->isVisible());
     QTest::keyClick(combo(panel), Qt::Key_Down);
-    QCOMPARE(heard, 2);
+    QCOMPARE(received, 2);
 }
 
 void tst_Ammonia::setVisibleAmmoniaTagInsideTheTagHandler()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setVisibleAmmoniaTag(15);
-    QList<int> heard;
+    QList<int> received;
     connect(&panel, &PrintWidget::ammoniaPrintTagChanged, this, [&](int value) {
-        heard.append(value);
+        received.append(value);
         panel.setVisibleAmmoniaTag(value);
     });
     combo(panel)->setCurrentIndex(4);
-    QCOMPARE(heard, QList<int>{8});
+    QCOMPARE(received, QList<int>{8});
     QCOMPARE(entries(panel),
              QStringList({QStringLiteral("Label=0"), QStringLiteral("Liquid State Tag=8")}));
     combo(panel)->setCurrentIndex(1);
-    QCOMPARE(heard, QList<int>({8, 8}));
+    QCOMPARE(received, QList<int>({8, 8}));
 }
 
 QTEST_MAIN(tst_Ammonia)

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "panelprobe.h"
+#include "printpanelfixture.h"
 #include "support/layoutdescription.h"
 #include "support/stricttest.h"
 
@@ -34,14 +34,14 @@ private Q_SLOTS:
 
 void tst_Copies::copyRowLiesInRowFourOfThePrinterGrid()
 {
-    const PrintWidget panel(false, nullptr);
+    const PrintPanelFixture panel;
     auto* grid = qobject_cast<QGridLayout*>(
-        layoutHolding(panel.layout(), part<QComboBox>(panel, "PrinterListCombo")));
+        layoutHolding(panel.layout(), panel.part<QComboBox>("PrinterListCombo")));
     QVERIFY(grid);
     for (const QWidget* widget :
          {static_cast<QWidget*>(labelWithText(panel, QStringLiteral("Copies:"))),
-          part<QWidget>(panel, "minusButton"), part<QWidget>(panel, "copiesSpinBox"),
-          part<QWidget>(panel, "plusButton")}) {
+          panel.part<QWidget>("minusButton"), panel.part<QWidget>("copiesSpinBox"),
+          panel.part<QWidget>("plusButton")}) {
         bool found = false;
         for (int i = 0; i < grid->count(); ++i) {
             if (!itemHolds(grid->itemAt(i), widget))
@@ -56,11 +56,11 @@ void tst_Copies::copyRowLiesInRowFourOfThePrinterGrid()
 
 void tst_Copies::copyRowFromLeftToRight()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     QVERIFY(showPanel(panel));
     const QWidget* widgets[] = {
-        labelWithText(panel, QStringLiteral("Copies:")), part<QWidget>(panel, "minusButton"),
-        part<QWidget>(panel, "copiesSpinBox"), part<QWidget>(panel, "plusButton")};
+        labelWithText(panel, QStringLiteral("Copies:")), panel.part<QWidget>("minusButton"),
+        panel.part<QWidget>("copiesSpinBox"), panel.part<QWidget>("plusButton")};
     int right = -1;
     for (const QWidget* widget : widgets) {
         const QRect rect(widget->mapTo(&panel, QPoint()), widget->size());
@@ -73,8 +73,8 @@ void tst_Copies::copyRowFromLeftToRight()
 
 void tst_Copies::copiesSpinBox()
 {
-    const PrintWidget panel(false, nullptr);
-    const auto* box = part<QSpinBox>(panel, "copiesSpinBox");
+    const PrintPanelFixture panel;
+    const auto* box = panel.part<QSpinBox>("copiesSpinBox");
     QVERIFY(box->inherits("JxSpinBox"));
     QCOMPARE(box->minimum(), 1);
     QCOMPARE(box->maximum(), 999);
@@ -90,10 +90,8 @@ void tst_Copies::stepButtons_data()
     QTest::addColumn<QByteArray>("name");
     QTest::addColumn<int>("characters");
     QTest::addColumn<QString>("image");
-    QTest::newRow("plus") << QByteArray("plusButton") << 222
-                          << QStringLiteral(":/Size/SizeIcons/plus.png");
-    QTest::newRow("minus") << QByteArray("minusButton") << 225
-                           << QStringLiteral(":/Size/SizeIcons/minus.png");
+    addRow("plus", QByteArray("plusButton"), 222, ":/Size/SizeIcons/plus.png");
+    addRow("minus", QByteArray("minusButton"), 225, ":/Size/SizeIcons/minus.png");
 }
 
 void tst_Copies::stepButtons()
@@ -101,8 +99,8 @@ void tst_Copies::stepButtons()
     QFETCH(const QByteArray, name);
     QFETCH(const int, characters);
     QFETCH(const QString, image);
-    const PrintWidget panel(false, nullptr);
-    const auto* button = part<QPushButton>(panel, name.constData());
+    const PrintPanelFixture panel;
+    const auto* button = panel.part<QPushButton>(name.constData());
     QVERIFY(button->inherits("DragScrollButton"));
     QVERIFY(button->autoRepeat());
     QVERIFY(button->isEnabled());
@@ -113,10 +111,10 @@ void tst_Copies::stepButtons()
 
 void tst_Copies::stepButtonsStep()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     QVERIFY(showPanel(panel));
-    auto* plus = part<QPushButton>(panel, "plusButton");
-    auto* minus = part<QPushButton>(panel, "minusButton");
+    auto* plus = panel.part<QPushButton>("plusButton");
+    auto* minus = panel.part<QPushButton>("minusButton");
     clickOn(plus);
     clickOn(plus);
     QCOMPARE(panel.getNumberOfCopies(), 3);
@@ -126,21 +124,21 @@ void tst_Copies::stepButtonsStep()
 
 void tst_Copies::stepButtonsStopAtTheBounds()
 {
-    PrintWidget panel(false, nullptr);
-    part<QPushButton>(panel, "minusButton")->click();
+    PrintPanelFixture panel;
+    panel.part<QPushButton>("minusButton")->click();
     QCOMPARE(panel.getNumberOfCopies(), 1);
     panel.setNumberOfCopies(999);
-    part<QPushButton>(panel, "plusButton")->click();
+    panel.part<QPushButton>("plusButton")->click();
     QCOMPARE(panel.getNumberOfCopies(), 999);
-    part<QPushButton>(panel, "minusButton")->click();
+    panel.part<QPushButton>("minusButton")->click();
     QCOMPARE(panel.getNumberOfCopies(), 998);
 }
 
 void tst_Copies::aHeldStepButtonRepeats()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     QVERIFY(showPanel(panel));
-    auto* plus = part<QPushButton>(panel, "plusButton");
+    auto* plus = panel.part<QPushButton>("plusButton");
     plus->setAutoRepeatDelay(10);
     plus->setAutoRepeatInterval(10);
     QTest::mousePress(plus, Qt::LeftButton);
@@ -171,17 +169,17 @@ void tst_Copies::setNumberOfCopies()
 {
     QFETCH(const int, asked);
     QFETCH(const int, copies);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setNumberOfCopies(asked);
     QCOMPARE(panel.getNumberOfCopies(), copies);
-    QCOMPARE(part<QSpinBox>(panel, "copiesSpinBox")->text(), QString::number(copies));
+    QCOMPARE(panel.part<QSpinBox>("copiesSpinBox")->text(), QString::number(copies));
 }
 
 void tst_Copies::typedCopiesCount()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     QVERIFY(showPanel(panel));
-    auto* box = part<QSpinBox>(panel, "copiesSpinBox");
+    auto* box = panel.part<QSpinBox>("copiesSpinBox");
     box->selectAll();
     QTest::keyClicks(box, QStringLiteral("42"));
     QCOMPARE(panel.getNumberOfCopies(), 42);

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "supplyprobe.h"
+#include "printpanelfixture.h"
+#include "support/deleter.h"
 #include "support/stricttest.h"
 
 #include <colormenu.h>
@@ -20,9 +21,9 @@
 namespace {
 
 /** A panel on which everything can be clicked, on the heap because its host may delete it. */
-PrintWidget* newFullPanel()
+PrintPanelFixture* newFullPanel()
 {
-    auto* panel = new PrintWidget(true, nullptr);
+    auto* panel = new PrintPanelFixture(true);
     panel->enableAllButtons();
     panel->updateListOfPrinters({QStringLiteral("Alpha"), QStringLiteral("Beta")}, 0);
     panel->setVisibleAmmoniaTag(15);
@@ -30,12 +31,12 @@ PrintWidget* newFullPanel()
     return panel;
 }
 
-QAbstractButton* swatch(const PrintWidget& panel, const char* menu, const char* code)
+QAbstractButton* swatch(const PrintPanelFixture& panel, const char* menu, const char* code)
 {
-    return colorMenu(panel, menu)->findChild<QAbstractButton*>(QLatin1String(code));
+    return panel.colorMenu(menu)->findChild<QAbstractButton*>(QLatin1String(code));
 }
 
-using Action = std::function<void(PrintWidget&)>;
+using Action = std::function<void(PrintPanelFixture&)>;
 
 struct ActionRow
 {
@@ -48,10 +49,10 @@ struct ActionRow
 QList<ActionRow> userActions()
 {
     const auto click = [](const char* name) -> Action {
-        return [name](PrintWidget& panel) { part<QAbstractButton>(panel, name)->click(); };
+        return [name](PrintPanelFixture& panel) { panel.part<QAbstractButton>(name)->click(); };
     };
     const auto pick = [](const char* menu) -> Action {
-        return [menu](PrintWidget& panel) { swatch(panel, menu, "#000000")->click(); };
+        return [menu](PrintPanelFixture& panel) { swatch(panel, menu, "#000000")->click(); };
     };
     return {
         {"print", SIGNAL(widgetPrintSignal(int, int, QString)), click("PrintButton")},
@@ -66,25 +67,6 @@ QList<ActionRow> userActions()
 }
 
 } // namespace
-
-/** Deletes its panel, at once or later, when the panel emits. */
-class Deleter : public QObject
-{
-    Q_OBJECT
-
-public:
-    explicit Deleter(PrintWidget* victim) : panel(victim) {}
-
-    QPointer<PrintWidget> panel;
-
-public Q_SLOTS:
-    void deleteNow() { delete panel.data(); }
-    void deleteSoon()
-    {
-        if (panel)
-            panel->deleteLater();
-    }
-};
 
 /** Calls in odd order, odd values, and hosts that delete the panel under its feet. */
 class tst_HostileHost : public StrictTest
@@ -126,37 +108,38 @@ void tst_HostileHost::deletedInAHandler()
 {
     QFETCH(const int, row);
     const ActionRow action = userActions().at(row);
-    Deleter host(newFullPanel());
-    connect(host.panel, action.signal, &host, SLOT(deleteNow()));
-    action.action(*host.panel);
-    QVERIFY(host.panel.isNull());
+    const QPointer<PrintPanelFixture> panel(newFullPanel());
+    Deleter host(panel);
+    connect(panel, action.signal, &host, SLOT(deleteAtOnce()));
+    action.action(*panel);
+    QVERIFY(panel.isNull());
 }
 
 void tst_HostileHost::deletedByAMouseClick_data()
 {
     QTest::addColumn<QByteArray>("button");
     QTest::addColumn<QByteArray>("signal");
-    QTest::newRow("print") << QByteArray("PrintButton")
-                           << QByteArray(SIGNAL(widgetPrintSignal(int, int, QString)));
-    QTest::newRow("preview") << QByteArray("PreviewButton")
-                             << QByteArray(SIGNAL(printPreviewSignal(int, int, QString)));
-    QTest::newRow("preferences") << QByteArray("PreferencesButton")
-                                 << QByteArray(SIGNAL(openPreferencesSignal()));
-    QTest::newRow("error") << QByteArray("showErrorButton")
-                           << QByteArray(SIGNAL(testPrintError(int)));
+    addRow("print", QByteArray("PrintButton"),
+           QByteArray(SIGNAL(widgetPrintSignal(int, int, QString))));
+    addRow("preview", QByteArray("PreviewButton"),
+           QByteArray(SIGNAL(printPreviewSignal(int, int, QString))));
+    addRow("preferences", QByteArray("PreferencesButton"),
+           QByteArray(SIGNAL(openPreferencesSignal())));
+    addRow("error", QByteArray("showErrorButton"), QByteArray(SIGNAL(testPrintError(int))));
 }
 
 void tst_HostileHost::deletedByAMouseClick()
 {
     QFETCH(const QByteArray, button);
     QFETCH(const QByteArray, signal);
-    Deleter host(newFullPanel());
-    QVERIFY(showPanel(*host.panel));
-    connect(host.panel, signal.constData(), &host, SLOT(deleteNow()));
-    auto* widget = part<QAbstractButton>(*host.panel, button.constData());
+    const QPointer<PrintPanelFixture> panel(newFullPanel());
+    Deleter host(panel);
+    QVERIFY(showPanel(*panel));
+    connect(panel, signal.constData(), &host, SLOT(deleteAtOnce()));
+    auto* widget = panel->part<QAbstractButton>(button.constData());
     QTest::mousePress(widget, Qt::LeftButton);
     QTest::mouseRelease(widget, Qt::LeftButton);
-    QVERIFY(host.panel.isNull());
+    QVERIFY(panel.isNull());
 }
 
 void tst_HostileHost::deletedSoonInAHandler_data()
@@ -168,38 +151,40 @@ void tst_HostileHost::deletedSoonInAHandler()
 {
     QFETCH(const int, row);
     const ActionRow action = userActions().at(row);
-    Deleter host(newFullPanel());
-    QVERIFY(showPanel(*host.panel));
-    connect(host.panel, action.signal, &host, SLOT(deleteSoon()));
-    action.action(*host.panel);
-    QVERIFY(host.panel);
-    QTRY_VERIFY(host.panel.isNull());
+    const QPointer<PrintPanelFixture> panel(newFullPanel());
+    Deleter host(panel);
+    QVERIFY(showPanel(*panel));
+    connect(panel, action.signal, &host, SLOT(deleteSoon()));
+    action.action(*panel);
+    QVERIFY(panel);
+    QTRY_VERIFY(panel.isNull());
 }
 
 void tst_HostileHost::deletedSoonInTheOtherHandlers()
 {
     const QList<ActionRow> actions = {
         {"printer", SIGNAL(currentPrinterSelectionChanged(QString)),
-         [](PrintWidget& panel) {
-             part<QComboBox>(panel, "PrinterListCombo")->setCurrentIndex(1);
+         [](PrintPanelFixture& panel) {
+             panel.part<QComboBox>("PrinterListCombo")->setCurrentIndex(1);
          }},
         {"tag", SIGNAL(ammoniaPrintTagChanged(int)),
-         [](PrintWidget& panel) {
-             part<QComboBox>(panel, "AmmoniaPrintCombo")->setCurrentIndex(2);
+         [](PrintPanelFixture& panel) {
+             panel.part<QComboBox>("AmmoniaPrintCombo")->setCurrentIndex(2);
          }},
         {"width", SIGNAL(supplyWidthChangedSignal(double)),
-         [](PrintWidget& panel) {
-             widthEdit(panel)->setText(QStringLiteral("9"));
-             Q_EMIT widthEdit(panel)->editingFinished();
+         [](PrintPanelFixture& panel) {
+             panel.widthEdit()->setText(QStringLiteral("9"));
+             Q_EMIT panel.widthEdit()->editingFinished();
          }},
-        {"show", SIGNAL(printWidgetShowSignal()), [](PrintWidget& panel) { panel.show(); }},
+        {"show", SIGNAL(printWidgetShowSignal()), [](PrintPanelFixture& panel) { panel.show(); }},
     };
     for (const ActionRow& action : actions) {
-        Deleter host(newFullPanel());
-        connect(host.panel, action.signal, &host, SLOT(deleteSoon()));
-        action.action(*host.panel);
-        QVERIFY2(host.panel, action.name);
-        QTRY_VERIFY2(host.panel.isNull(), action.name);
+        const QPointer<PrintPanelFixture> panel(newFullPanel());
+        Deleter host(panel);
+        connect(panel, action.signal, &host, SLOT(deleteSoon()));
+        action.action(*panel);
+        QVERIFY2(panel, action.name);
+        QTRY_VERIFY2(panel.isNull(), action.name);
     }
 }
 
@@ -222,15 +207,15 @@ void tst_HostileHost::extremeIntegers_data()
 void tst_HostileHost::extremeIntegers()
 {
     QFETCH(const int, value);
-    PrintWidget panel(true, nullptr);
+    PrintPanelFixture panel(true);
     panel.setNumberOfCopies(value);
     panel.updateListOfPrinters(colors({"a", "b"}), value);
     panel.updateCurrentRangeIndex(value);
     panel.setRangeValues(value, value, true);
     panel.setVisibleAmmoniaTag(value);
     for (const char* name : {"currentRecordRadio", "allRecordsRadio", "recordListRadio"}) {
-        part<QAbstractButton>(panel, name)->click();
-        part<QLineEdit>(panel, "recordListEdit")->setText(QStringLiteral("1-2147483647,4"));
+        panel.part<QAbstractButton>(name)->click();
+        panel.part<QLineEdit>("recordListEdit")->setText(QStringLiteral("1-2147483647,4"));
         panel.updateCurrentRangeIndex(value);
         panel.setRangeValues(value, value, false);
         panel.setRangeValues(0, value, true);
@@ -243,22 +228,22 @@ void tst_HostileHost::extremeIntegers()
 void tst_HostileHost::extremeTexts_data()
 {
     QTest::addColumn<QString>("text");
-    QTest::newRow("null") << QString();
-    QTest::newRow("empty") << QStringLiteral("");
-    QTest::newRow("a megabyte") << QString(1024 * 1024, u'W');
-    QTest::newRow("markup") << QStringLiteral("<h1>x</h1><img src=\":/no\"><a href=\"x\">y</a>");
-    QTest::newRow("style sheet") << QStringLiteral("} * { color: red; }");
-    QTest::newRow("surrogates") << QString(QChar(0xd800)) + QChar(0xdfff) + QChar(0xdc00);
-    QTest::newRow("null characters") << QString(5, QChar(u'\0'));
-    QTest::newRow("place markers") << QStringLiteral("%1 %2 %n %L1");
-    QTest::newRow("right to left override") << QString(QChar(0x202e)) + QStringLiteral("abc");
-    QTest::newRow("lines") << QStringLiteral("a\r\nb\u2028c\u2029d");
+    addRow("null", QString());
+    addRow("empty", "");
+    addRow("a megabyte", QString(1024 * 1024, u'W'));
+    addRow("markup", "<h1>x</h1><img src=\":/no\"><a href=\"x\">y</a>");
+    addRow("style sheet", "} * { color: red; }");
+    addRow("surrogates", QString(QChar(0xd800)) + QChar(0xdfff) + QChar(0xdc00));
+    addRow("null characters", QString(5, QChar(u'\0')));
+    addRow("place markers", "%1 %2 %n %L1");
+    addRow("right to left override", QString(QChar(0x202e)) + QStringLiteral("abc"));
+    addRow("lines", "a\r\nb\u2028c\u2029d");
 }
 
 void tst_HostileHost::extremeTexts()
 {
     QFETCH(const QString, text);
-    PrintWidget panel(true, nullptr);
+    PrintPanelFixture panel(true);
     panel.updateListOfPrinters({text, text}, 1);
     panel.addPrinterToList(text, true);
     panel.setSelectedPrinter(text);
@@ -266,12 +251,12 @@ void tst_HostileHost::extremeTexts()
     panel.updatePrinterLocation(text);
     panel.showSupplyInfo({text, text, text}, true, 4.0, 1, true);
     panel.setColorPalette({text, text}, {text});
-    Q_EMIT colorMenu(panel, "ribbon1Menu")->colorSignal(text);
-    Q_EMIT colorMenu(panel, "supplyMenu")->colorSignal(text + u'x');
-    part<QLineEdit>(panel, "recordListEdit")->setText(text);
-    widthEdit(panel)->setText(text);
-    Q_EMIT widthEdit(panel)->editingFinished();
-    part<QAbstractButton>(panel, "recordListRadio")->click();
+    Q_EMIT panel.colorMenu("ribbon1Menu")->colorSignal(text);
+    Q_EMIT panel.colorMenu("supplyMenu")->colorSignal(text + u'x');
+    panel.part<QLineEdit>("recordListEdit")->setText(text);
+    panel.widthEdit()->setText(text);
+    Q_EMIT panel.widthEdit()->editingFinished();
+    panel.part<QAbstractButton>("recordListRadio")->click();
     QVERIFY(showPanel(panel));
     QVERIFY(!panel.grab().isNull());
 }
@@ -290,7 +275,7 @@ void tst_HostileHost::everyPrivateSlotByNameOnANewPanel()
 {
     QFETCH(const int, index);
     for (const bool testControls : {false, true}) {
-        PrintWidget panel(testControls, nullptr);
+        PrintPanelFixture panel(testControls);
         const QMetaMethod slot = panel.metaObject()->method(index);
         const bool takesText =
             slot.parameterCount() == 1 && slot.parameterType(0) == QMetaType::QString;
@@ -310,56 +295,56 @@ void tst_HostileHost::everyPrivateSlotByNameOnANewPanel()
 
 void tst_HostileHost::printersChangedInsideTheSelectionHandler()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.updateListOfPrinters(colors({"a", "b", "c"}), 0);
-    int heard = 0;
+    int received = 0;
     connect(&panel, &PrintWidgetInterface::currentPrinterSelectionChanged, this,
             [&](const QString& name) {
-                ++heard;
+                ++received;
                 panel.updateListOfPrinters(colors({"c", "b", "a"}), 0);
                 panel.setSelectedPrinter(name);
             });
-    auto* combo = part<QComboBox>(panel, "PrinterListCombo");
+    auto* combo = panel.part<QComboBox>("PrinterListCombo");
     combo->setCurrentIndex(1);
-    QCOMPARE(heard, 1);
+    QCOMPARE(received, 1);
     QCOMPARE(panel.getSelectedPrinter(), QStringLiteral("b"));
     combo->setCurrentIndex(2);
-    QCOMPARE(heard, 2);
+    QCOMPARE(received, 2);
     QCOMPARE(panel.getSelectedPrinter(), QStringLiteral("a"));
 }
 
 void tst_HostileHost::supplyChangedInsideTheColourHandler()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.showSupplyInfo(colors({"#dc0b0b", "#248d4f", "#ffffff"}), true, 4.0, 0, false);
-    QList<QStringList> heard;
+    QList<QStringList> received;
     connect(&panel, &PrintWidgetInterface::supplyColorsChangedSignal, this,
             [&](const QStringList& reported) {
-                heard.append(reported);
+                received.append(reported);
                 panel.setColorPalette(colors({"#111111"}), colors({"#222222"}));
                 panel.showSupplyInfo(colors({"#dc0b0b", "#ffffff"}), false, 2.0, 1, false);
             });
     swatch(panel, "ribbon2Menu", "#000000")->click();
-    QCOMPARE(heard, QList<QStringList>{colors({"#dc0b0b", "#000000", "#ffffff"})});
-    QCOMPARE(tabs(panel), QStringList({tabOf(ribbonGlyph, "#dc0b0b", "Ribbon1"),
-                                       tabOf(supplyGlyph, "#ffffff", "Supply")}));
-    QCOMPARE(shownColors(colorMenu(panel, "supplyMenu")), colors({"#222222"}));
+    QCOMPARE(received, QList<QStringList>{colors({"#dc0b0b", "#000000", "#ffffff"})});
+    QCOMPARE(panel.tabs(), QStringList({tabOf(ribbonGlyph, "#dc0b0b", "Ribbon1"),
+                                        tabOf(supplyGlyph, "#ffffff", "Supply")}));
+    QCOMPARE(shownColors(panel.colorMenu("supplyMenu")), colors({"#222222"}));
 }
 
 void tst_HostileHost::recordsChangedInsideThePrintHandler()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.enablePrintButtons();
-    QList<Request> heard;
+    QList<Request> received;
     connect(&panel, &PrintWidgetInterface::widgetPrintSignal, this,
             [&](int start, int end, const QString& list) {
-                heard.append({start, end, list});
+                received.append({start, end, list});
                 panel.updateCurrentRangeIndex(start);
                 panel.setRangeValues(start, start + 3, true);
             });
-    part<QAbstractButton>(panel, "PrintButton")->click();
-    part<QAbstractButton>(panel, "PrintButton")->click();
-    QCOMPARE(heard, (QList<Request>{{1, -1, QString()}, {2, -1, QString()}}));
+    panel.part<QAbstractButton>("PrintButton")->click();
+    panel.part<QAbstractButton>("PrintButton")->click();
+    QCOMPARE(received, (QList<Request>{{1, -1, QString()}, {2, -1, QString()}}));
 }
 
 void tst_HostileHost::randomCallsInAnyOrder()
@@ -375,41 +360,41 @@ void tst_HostileHost::randomCallsInAnyOrder()
             some.append(all.at(random.bounded(int(all.size()))));
         return some;
     };
-    const QList<std::function<void(PrintWidget&)>> calls = {
-        [&](PrintWidget& panel) {
+    const QList<std::function<void(PrintPanelFixture&)>> calls = {
+        [&](PrintPanelFixture& panel) {
             panel.setModule(static_cast<JxModuleInfo::JxModuleTypes>(random.bounded(16)));
         },
-        [&](PrintWidget& panel) { panel.setVisibleAmmoniaTag(number()); },
-        [&](PrintWidget& panel) {
+        [&](PrintPanelFixture& panel) { panel.setVisibleAmmoniaTag(number()); },
+        [&](PrintPanelFixture& panel) {
             panel.showSupplyInfo(codes(), yes(), number(), static_cast<unsigned char>(number()),
                                  yes());
         },
-        [&](PrintWidget& panel) { panel.hideSupplyInfo(); },
-        [&](PrintWidget& panel) { panel.setColorPalette(codes(), codes()); },
-        [&](PrintWidget& panel) { panel.setRangeValues(number(), number(), yes()); },
-        [&](PrintWidget& panel) { panel.updateCurrentRangeIndex(number()); },
-        [&](PrintWidget& panel) { panel.setNupSeqRepVisible(yes()); },
-        [&](PrintWidget& panel) { panel.setNupDynamicLength(yes()); },
-        [&](PrintWidget& panel) { panel.updateListOfPrinters(codes(), number()); },
-        [&](PrintWidget& panel) { panel.addPrinterToList(QString::number(number()), yes()); },
-        [&](PrintWidget& panel) { panel.createSupplyInfoLayout(); },
-        [&](PrintWidget& panel) { panel.createAmmoniaComboList(); },
-        [&](PrintWidget& panel) { panel.listRangeParse(); },
-        [&](PrintWidget& panel) { yes() ? panel.show() : panel.hide(); },
-        [&](PrintWidget& panel) {
+        [&](PrintPanelFixture& panel) { panel.hideSupplyInfo(); },
+        [&](PrintPanelFixture& panel) { panel.setColorPalette(codes(), codes()); },
+        [&](PrintPanelFixture& panel) { panel.setRangeValues(number(), number(), yes()); },
+        [&](PrintPanelFixture& panel) { panel.updateCurrentRangeIndex(number()); },
+        [&](PrintPanelFixture& panel) { panel.setNupSeqRepVisible(yes()); },
+        [&](PrintPanelFixture& panel) { panel.setNupDynamicLength(yes()); },
+        [&](PrintPanelFixture& panel) { panel.updateListOfPrinters(codes(), number()); },
+        [&](PrintPanelFixture& panel) { panel.addPrinterToList(QString::number(number()), yes()); },
+        [&](PrintPanelFixture& panel) { panel.createSupplyInfoLayout(); },
+        [&](PrintPanelFixture& panel) { panel.createAmmoniaComboList(); },
+        [&](PrintPanelFixture& panel) { panel.listRangeParse(); },
+        [&](PrintPanelFixture& panel) { yes() ? panel.show() : panel.hide(); },
+        [&](PrintPanelFixture& panel) {
             const QList<QAbstractButton*> buttons = panel.findChildren<QAbstractButton*>();
             buttons.at(random.bounded(int(buttons.size())))->click();
         },
     };
     for (int round = 0; round < 20; ++round) {
-        PrintWidget panel(yes(), nullptr);
+        PrintPanelFixture panel(yes());
         for (int step = 0; step < 100; ++step)
             calls.at(random.bounded(int(calls.size())))(panel);
         // Whatever happened, the panel is in order.
         QCOMPARE(panel.findChildren<QComboBox*>(QStringLiteral("PrinterListCombo")).size(), 1);
-        if (const ExpandingTabBar* bar = colorTabs(panel)) {
+        if (const ExpandingTabBar* bar = panel.colorTabs()) {
             QVERIFY(bar->count() == 2 || bar->count() == 3);
-            QCOMPARE(stackPages(panel).size(), bar->count());
+            QCOMPARE(panel.stackPages().size(), bar->count());
         }
     }
 }

@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "panelprobe.h"
+#include "printpanelfixture.h"
+#include "support/expectedsheet.h"
 #include "support/layoutdescription.h"
 #include "support/stricttest.h"
 
 #include <printpanels/printwidget.h>
 
-#include <QtCore/QFile>
 #include <QtWidgets/QButtonGroup>
 #include <QtWidgets/QFrame>
 #include <QtWidgets/QHBoxLayout>
@@ -29,21 +29,16 @@ QString toolTip(int index)
     return QLatin1String(toolTips[index]);
 }
 
-QFrame* nupFrame(const PrintWidget& panel)
+QFrame* nupFrame(const PrintPanelFixture& panel)
 {
-    return part<QFrame>(panel, "nupFrame");
-}
-
-QRadioButton* radio(const PrintWidget& panel, const char* name)
-{
-    return part<QRadioButton>(panel, name);
+    return panel.part<QFrame>("nupFrame");
 }
 
 /** Ten records, all of them chosen by a click. */
-void chooseAllOfTen(PrintWidget& panel)
+void chooseAllOfTen(PrintPanelFixture& panel)
 {
     panel.setRangeValues(0, 9, true);
-    radio(panel, "allRecordsRadio")->click();
+    panel.radio("allRecordsRadio")->click();
 }
 
 } // namespace
@@ -85,20 +80,20 @@ private Q_SLOTS:
 
 void tst_Nup::frameAtConstruction()
 {
-    const PrintWidget panel(false, nullptr);
+    const PrintPanelFixture panel;
     const QFrame* frame = nupFrame(panel);
     QVERIFY(frame->isHidden());
     QVERIFY(frame->isEnabled());
     QCOMPARE(frame->toolTip(), QString());
-    QVERIFY(radio(panel, "replicatingRadio")->isChecked());
-    QVERIFY(!radio(panel, "sequencingRadio")->isChecked());
+    QVERIFY(panel.radio("replicatingRadio")->isChecked());
+    QVERIFY(!panel.radio("sequencingRadio")->isChecked());
     QVERIFY(!panel.getNupSeqRepOption());
-    QCOMPARE(frame->parentWidget(), part<QFrame>(panel, "recordsFrame"));
+    QCOMPARE(frame->parentWidget(), panel.part<QFrame>("recordsFrame"));
 }
 
 void tst_Nup::layoutOfTheFrame()
 {
-    const PrintWidget panel(false, nullptr);
+    const PrintPanelFixture panel;
     auto* column = qobject_cast<QVBoxLayout*>(nupFrame(panel)->layout());
     QVERIFY(column);
     QCOMPARE(column->contentsMargins(), QMargins(0, 10, 0, 10));
@@ -115,8 +110,8 @@ void tst_Nup::layoutOfTheFrame()
 
 void tst_Nup::title()
 {
-    const PrintWidget panel(false, nullptr);
-    const auto* label = part<QLabel>(panel, "nupTitleLabel");
+    const PrintPanelFixture panel;
+    const auto* label = panel.part<QLabel>("nupTitleLabel");
     QCOMPARE(label->text(), QStringLiteral("N-up replicating or sequencing:"));
     QCOMPARE(label->minimumHeight(), 35);
     QVERIFY(!label->wordWrap());
@@ -126,22 +121,20 @@ void tst_Nup::title()
 void tst_Nup::radios_data()
 {
     QTest::addColumn<int>("tip");
-    QTest::newRow("replicatingRadio") << 0;
-    QTest::newRow("sequencingRadio") << 1;
+    addRow("replicatingRadio", 0);
+    addRow("sequencingRadio", 1);
 }
 
 void tst_Nup::radios()
 {
     QFETCH(const int, tip);
-    const PrintWidget panel(false, nullptr);
-    const QRadioButton* button = radio(panel, QTest::currentDataTag());
+    const PrintPanelFixture panel;
+    const QRadioButton* button = panel.radio(QTest::currentDataTag());
     QCOMPARE(button->text(), QString());
     QCOMPARE(button->toolTip(), toolTip(tip));
     // Without a text, a screen reader has this.
     QCOMPARE(button->accessibleName(), toolTip(tip));
-    QFile sheet(QStringLiteral(EXPECTED_SHEETS "/radioButtonIndicator.qss"));
-    QVERIFY(sheet.open(QIODevice::ReadOnly));
-    QCOMPARE(button->styleSheet(), QString::fromUtf8(sheet.readAll()));
+    QCOMPARE(button->styleSheet(), expectedSheet("radioButtonIndicator"));
     QCOMPARE(button->styleSheet().size(), 508);
 }
 
@@ -149,30 +142,26 @@ void tst_Nup::pictures_data()
 {
     QTest::addColumn<QByteArray>("buddy");
     QTest::addColumn<QString>("sheet");
-    QTest::newRow("replicatingIconLabel")
-        << QByteArray("replicatingRadio")
-        << QStringLiteral(
-               "QLabel { width: 78px; height: 36px; }\n QLabel { border-image: "
-               "url(:/printicons/printericons/replicating.png); }\n QLabel::disabled { "
-               "border-image: url(:/printicons/printericons/replicating_disabled.png); }");
-    QTest::newRow("sequencingIconLabel")
-        << QByteArray("sequencingRadio")
-        << QStringLiteral(
-               "QLabel { width: 78px; height: 36px; }\n QLabel { border-image: "
-               "url(:/printicons/printericons/sequencing.png); }\n QLabel::disabled { "
-               "border-image: url(:/printicons/printericons/sequencing_disabled.png); }");
+    addRow("replicatingIconLabel", QByteArray("replicatingRadio"),
+           "QLabel { width: 78px; height: 36px; }\n QLabel { border-image: "
+           "url(:/printicons/printericons/replicating.png); }\n QLabel::disabled { "
+           "border-image: url(:/printicons/printericons/replicating_disabled.png); }");
+    addRow("sequencingIconLabel", QByteArray("sequencingRadio"),
+           "QLabel { width: 78px; height: 36px; }\n QLabel { border-image: "
+           "url(:/printicons/printericons/sequencing.png); }\n QLabel::disabled { "
+           "border-image: url(:/printicons/printericons/sequencing_disabled.png); }");
 }
 
 void tst_Nup::pictures()
 {
     QFETCH(const QByteArray, buddy);
-    PrintWidget panel(false, nullptr);
-    auto* label = part<QLabel>(panel, QTest::currentDataTag());
+    PrintPanelFixture panel;
+    auto* label = panel.part<QLabel>(QTest::currentDataTag());
     QCOMPARE(label->text(), QString());
     QCOMPARE(label->minimumSize(), QSize(78, 36));
     QCOMPARE(label->maximumSize(), QSize(78, 36));
     QTEST(label->styleSheet(), "sheet");
-    QCOMPARE(label->buddy(), radio(panel, buddy.constData()));
+    QCOMPARE(label->buddy(), panel.radio(buddy.constData()));
 
     chooseAllOfTen(panel);
     panel.setNupSeqRepVisible(true);
@@ -185,22 +174,22 @@ void tst_Nup::pictures()
 
 void tst_Nup::onlyTheReplicatingPictureHasAToolTip()
 {
-    const PrintWidget panel(false, nullptr);
-    QCOMPARE(part<QLabel>(panel, "replicatingIconLabel")->toolTip(), toolTip(0));
-    QCOMPARE(part<QLabel>(panel, "sequencingIconLabel")->toolTip(), QString());
+    const PrintPanelFixture panel;
+    QCOMPARE(panel.part<QLabel>("replicatingIconLabel")->toolTip(), toolTip(0));
+    QCOMPARE(panel.part<QLabel>("sequencingIconLabel")->toolTip(), QString());
 }
 
 void tst_Nup::group()
 {
-    const PrintWidget panel(false, nullptr);
-    const QButtonGroup* group = radio(panel, "replicatingRadio")->group();
+    const PrintPanelFixture panel;
+    const QButtonGroup* group = panel.radio("replicatingRadio")->group();
     QVERIFY(group);
     QCOMPARE(group->parent(), &panel);
     QVERIFY(group->exclusive());
-    QCOMPARE(group->id(radio(panel, "replicatingRadio")), 0);
-    QCOMPARE(group->id(radio(panel, "sequencingRadio")), 1);
+    QCOMPARE(group->id(panel.radio("replicatingRadio")), 0);
+    QCOMPARE(group->id(panel.radio("sequencingRadio")), 1);
     QCOMPARE(group->buttons().size(), 2);
-    QVERIFY(group != radio(panel, "allRecordsRadio")->group());
+    QVERIFY(group != panel.radio("allRecordsRadio")->group());
 }
 
 void tst_Nup::visibility_data()
@@ -208,10 +197,10 @@ void tst_Nup::visibility_data()
     QTest::addColumn<bool>("asked");
     QTest::addColumn<bool>("sectionEnabled");
     QTest::addColumn<bool>("visible");
-    QTest::newRow("shown") << true << true << true;
-    QTest::newRow("hidden") << false << true << false;
-    QTest::newRow("section disabled keeps it hidden") << true << false << false;
-    QTest::newRow("hidden, section disabled") << false << false << false;
+    addRow("shown", true, true, true);
+    addRow("hidden", false, true, false);
+    addRow("section disabled keeps it hidden", true, false, false);
+    addRow("hidden, section disabled", false, false, false);
 }
 
 void tst_Nup::visibility()
@@ -220,7 +209,7 @@ void tst_Nup::visibility()
     QFETCH(const bool, sectionEnabled);
     QFETCH(const bool, visible);
     for (const bool visibleBefore : {false, true}) {
-        PrintWidget panel(false, nullptr);
+        PrintPanelFixture panel;
         panel.setNupSeqRepVisible(visibleBefore);
         panel.setRangeValues(0, 9, sectionEnabled);
         panel.setNupSeqRepVisible(asked);
@@ -232,20 +221,20 @@ void tst_Nup::visibility()
 
 void tst_Nup::visibilityTouchesNothingElse()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     chooseAllOfTen(panel);
-    radio(panel, "sequencingRadio")->click();
+    panel.radio("sequencingRadio")->click();
     for (const bool visible : {true, false, true}) {
         panel.setNupSeqRepVisible(visible);
         QVERIFY(nupFrame(panel)->isEnabled());
-        QVERIFY(radio(panel, "sequencingRadio")->isChecked());
+        QVERIFY(panel.radio("sequencingRadio")->isChecked());
         QCOMPARE(nupFrame(panel)->toolTip(), QString());
     }
 }
 
 void tst_Nup::enablingTheSectionDoesNotShowTheFrame()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setRangeValues(0, 9, false);
     panel.setNupSeqRepVisible(true);
     panel.setRangeValues(0, 9, true);
@@ -261,17 +250,16 @@ void tst_Nup::rules_data()
     QTest::addColumn<bool>("sequencing");
     QTest::addColumn<int>("tip");
     constexpr int none = -1;
-    QTest::newRow("dynamic, several") << true << 10 << false << false << false << 2;
-    QTest::newRow("dynamic, several, sequencing chosen")
-        << true << 10 << true << false << false << 2;
-    QTest::newRow("dynamic, one") << true << 1 << false << false << false << 2;
-    QTest::newRow("several") << false << 10 << false << true << false << none;
-    QTest::newRow("several, sequencing chosen") << false << 10 << true << true << true << none;
-    QTest::newRow("two") << false << 2 << true << true << true << none;
-    QTest::newRow("one") << false << 1 << false << false << false << 3;
-    QTest::newRow("one, sequencing chosen") << false << 1 << true << false << false << 3;
-    QTest::newRow("none") << false << 0 << true << false << false << 3;
-    QTest::newRow("fewer than none") << false << -4 << true << false << false << 3;
+    addRow("dynamic, several", true, 10, false, false, false, 2);
+    addRow("dynamic, several, sequencing chosen", true, 10, true, false, false, 2);
+    addRow("dynamic, one", true, 1, false, false, false, 2);
+    addRow("several", false, 10, false, true, false, none);
+    addRow("several, sequencing chosen", false, 10, true, true, true, none);
+    addRow("two", false, 2, true, true, true, none);
+    addRow("one", false, 1, false, false, false, 3);
+    addRow("one, sequencing chosen", false, 1, true, false, false, 3);
+    addRow("none", false, 0, true, false, false, 3);
+    addRow("fewer than none", false, -4, true, false, false, 3);
 }
 
 void tst_Nup::rules()
@@ -280,32 +268,32 @@ void tst_Nup::rules()
     QFETCH(const int, records);
     QFETCH(const bool, sequencingChosen);
     QFETCH(const int, tip);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     chooseAllOfTen(panel);
     if (sequencingChosen)
-        radio(panel, "sequencingRadio")->click();
+        panel.radio("sequencingRadio")->click();
     panel.setRangeValues(0, records - 1, true);
     panel.setNupDynamicLength(dynamicLength);
 
     QTEST(nupFrame(panel)->isEnabled(), "enabled");
-    QTEST(radio(panel, "sequencingRadio")->isChecked(), "sequencing");
-    QCOMPARE(radio(panel, "replicatingRadio")->isChecked(),
-             !radio(panel, "sequencingRadio")->isChecked());
+    QTEST(panel.radio("sequencingRadio")->isChecked(), "sequencing");
+    QCOMPARE(panel.radio("replicatingRadio")->isChecked(),
+             !panel.radio("sequencingRadio")->isChecked());
     const QString expected = tip < 0 ? QString() : toolTip(tip);
     QCOMPARE(nupFrame(panel)->toolTip(), expected);
-    QCOMPARE(part<QLabel>(panel, "nupTitleLabel")->toolTip(), expected);
+    QCOMPARE(panel.part<QLabel>("nupTitleLabel")->toolTip(), expected);
     // The tool tips of the choices themselves stay.
-    QCOMPARE(radio(panel, "replicatingRadio")->toolTip(), toolTip(0));
-    QCOMPARE(radio(panel, "sequencingRadio")->toolTip(), toolTip(1));
+    QCOMPARE(panel.radio("replicatingRadio")->toolTip(), toolTip(0));
+    QCOMPARE(panel.radio("sequencingRadio")->toolTip(), toolTip(1));
 }
 
 void tst_Nup::dynamicLengthWinsOverSeveralRecords()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     chooseAllOfTen(panel);
     panel.setNupDynamicLength(true);
     QVERIFY(!nupFrame(panel)->isEnabled());
-    QVERIFY(radio(panel, "replicatingRadio")->isChecked());
+    QVERIFY(panel.radio("replicatingRadio")->isChecked());
     QCOMPARE(nupFrame(panel)->toolTip(), toolTip(2));
     panel.setNupDynamicLength(false);
     QVERIFY(nupFrame(panel)->isEnabled());
@@ -313,61 +301,61 @@ void tst_Nup::dynamicLengthWinsOverSeveralRecords()
 
 void tst_Nup::oneRecordDisablesWhateverWasChosen()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     chooseAllOfTen(panel);
-    radio(panel, "sequencingRadio")->click();
+    panel.radio("sequencingRadio")->click();
     panel.setRangeValues(0, 0, true);
-    QVERIFY(radio(panel, "allRecordsRadio")->isChecked());
+    QVERIFY(panel.radio("allRecordsRadio")->isChecked());
     QVERIFY(!nupFrame(panel)->isEnabled());
-    QVERIFY(radio(panel, "replicatingRadio")->isChecked());
+    QVERIFY(panel.radio("replicatingRadio")->isChecked());
     QCOMPARE(nupFrame(panel)->toolTip(), toolTip(3));
 }
 
 void tst_Nup::theUsersChoiceComesBack()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setNupSeqRepVisible(true);
     QVERIFY(showPanel(panel));
     chooseAllOfTen(panel);
-    clickOn(radio(panel, "sequencingRadio"));
+    clickOn(panel.radio("sequencingRadio"));
     QVERIFY(panel.getNupSeqRepOption());
-    clickOn(radio(panel, "currentRecordRadio"));
+    clickOn(panel.radio("currentRecordRadio"));
     QVERIFY(!panel.getNupSeqRepOption());
-    QVERIFY(radio(panel, "replicatingRadio")->isChecked());
-    clickOn(radio(panel, "allRecordsRadio"));
-    QVERIFY(radio(panel, "sequencingRadio")->isChecked());
+    QVERIFY(panel.radio("replicatingRadio")->isChecked());
+    clickOn(panel.radio("allRecordsRadio"));
+    QVERIFY(panel.radio("sequencingRadio")->isChecked());
     QVERIFY(panel.getNupSeqRepOption());
 }
 
 void tst_Nup::theUsersChoiceOfReplicatingComesBackToo()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     chooseAllOfTen(panel);
-    radio(panel, "sequencingRadio")->click();
-    radio(panel, "replicatingRadio")->click();
-    radio(panel, "currentRecordRadio")->click();
-    radio(panel, "allRecordsRadio")->click();
-    QVERIFY(radio(panel, "replicatingRadio")->isChecked());
+    panel.radio("sequencingRadio")->click();
+    panel.radio("replicatingRadio")->click();
+    panel.radio("currentRecordRadio")->click();
+    panel.radio("allRecordsRadio")->click();
+    QVERIFY(panel.radio("replicatingRadio")->isChecked());
 }
 
 void tst_Nup::programmaticChecksAreNotTheUsersChoice()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     chooseAllOfTen(panel);
-    radio(panel, "sequencingRadio")->setChecked(true);
+    panel.radio("sequencingRadio")->setChecked(true);
     panel.setNupDynamicLength(false);
-    QVERIFY(radio(panel, "replicatingRadio")->isChecked());
+    QVERIFY(panel.radio("replicatingRadio")->isChecked());
 }
 
 void tst_Nup::typingAListAppliesTheRules()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setRangeValues(0, 9, true);
     panel.setNupSeqRepVisible(true);
     QVERIFY(showPanel(panel));
-    clickOn(radio(panel, "recordListRadio"));
+    clickOn(panel.radio("recordListRadio"));
     QVERIFY(!nupFrame(panel)->isEnabled());
-    auto* edit = part<QLineEdit>(panel, "recordListEdit");
+    auto* edit = panel.part<QLineEdit>("recordListEdit");
     QTest::keyClicks(edit, QStringLiteral("1"));
     QVERIFY(!nupFrame(panel)->isEnabled());
     QTest::keyClicks(edit, QStringLiteral(","));
@@ -375,7 +363,7 @@ void tst_Nup::typingAListAppliesTheRules()
     QTest::keyClicks(edit, QStringLiteral("4-5"));
     QVERIFY(nupFrame(panel)->isEnabled());
     QCOMPARE(nupFrame(panel)->toolTip(), QString());
-    clickOn(radio(panel, "sequencingRadio"));
+    clickOn(panel.radio("sequencingRadio"));
     QVERIFY(panel.getNupSeqRepOption());
     edit->clear();
     QVERIFY(!panel.getNupSeqRepOption());
@@ -384,12 +372,12 @@ void tst_Nup::typingAListAppliesTheRules()
 
 void tst_Nup::dynamicLengthIsRemembered()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setNupDynamicLength(true);
     chooseAllOfTen(panel);
     QVERIFY(!nupFrame(panel)->isEnabled());
     QCOMPARE(nupFrame(panel)->toolTip(), toolTip(2));
-    part<QLineEdit>(panel, "recordListEdit")->setText(QStringLiteral("1,2"));
+    panel.part<QLineEdit>("recordListEdit")->setText(QStringLiteral("1,2"));
     QCOMPARE(nupFrame(panel)->toolTip(), toolTip(2));
     panel.setNupDynamicLength(false);
     panel.setRangeValues(0, 9, true);
@@ -401,31 +389,31 @@ void tst_Nup::option_data()
     QTest::addColumn<bool>("sequencing");
     QTest::addColumn<bool>("visible");
     QTest::addColumn<bool>("option");
-    QTest::newRow("sequencing") << true << true << true;
-    QTest::newRow("replicating") << false << true << false;
-    QTest::newRow("sequencing, hidden") << true << false << false;
-    QTest::newRow("replicating, hidden") << false << false << false;
+    addRow("sequencing", true, true, true);
+    addRow("replicating", false, true, false);
+    addRow("sequencing, hidden", true, false, false);
+    addRow("replicating, hidden", false, false, false);
 }
 
 void tst_Nup::option()
 {
     QFETCH(const bool, sequencing);
     QFETCH(const bool, visible);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     chooseAllOfTen(panel);
     panel.setNupSeqRepVisible(visible);
     QVERIFY(showPanel(panel));
-    radio(panel, sequencing ? "sequencingRadio" : "replicatingRadio")->click();
+    panel.radio(sequencing ? "sequencingRadio" : "replicatingRadio")->click();
     QTEST(panel.getNupSeqRepOption(), "option");
 }
 
 void tst_Nup::optionIsFalseWhileThePanelIsNotShown()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     chooseAllOfTen(panel);
     panel.setNupSeqRepVisible(true);
-    radio(panel, "sequencingRadio")->click();
-    QVERIFY(radio(panel, "sequencingRadio")->isChecked());
+    panel.radio("sequencingRadio")->click();
+    QVERIFY(panel.radio("sequencingRadio")->isChecked());
     QVERIFY(!panel.getNupSeqRepOption());
     QVERIFY(showPanel(panel));
     QVERIFY(panel.getNupSeqRepOption());

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "panelprobe.h"
+#include "printpanelfixture.h"
 #include "support/stricttest.h"
 
 #include <printpanels/printwidget.h>
@@ -11,31 +11,16 @@
 
 namespace {
 
-/** A host's own panel: hears of every call that goes through the virtual table. */
-class OverridingPanel : public PrintWidget
-{
-public:
-    OverridingPanel() : PrintWidget(false, nullptr) {}
-
-    void setNupDynamicLength(bool on) override
-    {
-        calls.append(on);
-        PrintWidget::setNupDynamicLength(on);
-    }
-
-    QList<bool> calls;
-};
-
 using Step = void (*)(OverridingPanel&);
 
 void clickAllRecords(OverridingPanel& panel)
 {
-    part<QRadioButton>(panel, "allRecordsRadio")->click();
+    panel.part<QRadioButton>("allRecordsRadio")->click();
 }
 
 void changeTheText(OverridingPanel& panel)
 {
-    part<QLineEdit>(panel, "recordListEdit")->setText(QStringLiteral("4"));
+    panel.part<QLineEdit>("recordListEdit")->setText(QStringLiteral("4"));
 }
 
 void tellTheRange(OverridingPanel& panel)
@@ -63,10 +48,10 @@ void tst_NupOverride::rulesRunInTheOverride_data()
 {
     QTest::addColumn<Step>("step");
     QTest::addColumn<int>("calls");
-    QTest::newRow("a radio is clicked") << &clickAllRecords << 1;
-    QTest::newRow("the text changes") << &changeTheText << 1;
-    QTest::newRow("setRangeValues") << &tellTheRange << 1;
-    QTest::newRow("updateCurrentRangeIndex does not run them") << &tellTheCurrentRecord << 0;
+    addRow("a radio is clicked", &clickAllRecords, 1);
+    addRow("the text changes", &changeTheText, 1);
+    addRow("setRangeValues", &tellTheRange, 1);
+    addRow("updateCurrentRangeIndex does not run them", &tellTheCurrentRecord, 0);
 }
 
 // They run with the dynamic length that the host told last.

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "panelprobe.h"
+#include "printpanelfixture.h"
 #include "support/metamethods.h"
 #include "support/stricttest.h"
 
@@ -80,7 +80,7 @@ void tst_PanelInterface::everyPartHasItsName_data()
 void tst_PanelInterface::everyPartHasItsName()
 {
     QFETCH(const QByteArray, className);
-    PrintWidget panel(true, nullptr);
+    PrintPanelFixture panel(true);
     panel.setModule(JxModuleInfo::PipeMarking);
     panel.showSupplyInfo({QStringLiteral("#000000")}, true, 1.0, 0, true);
     const QList<QWidget*> found =
@@ -208,12 +208,12 @@ void tst_PanelInterface::methodOffsets()
 
 void tst_PanelInterface::aPublicSlotCanBeConnectedByText()
 {
-    PrintWidget panel(true, nullptr);
+    PrintPanelFixture panel(true);
     QSpinBox record;
     QVERIFY(
         connect(&record, SIGNAL(valueChanged(int)), &panel, SLOT(updateCurrentRangeIndex(int))));
     record.setValue(6);
-    QCOMPARE(keptRange(panel), qMakePair(7, 7));
+    QCOMPARE(panel.keptRange(), qMakePair(7, 7));
 }
 
 void tst_PanelInterface::theHostMayHoldItThroughTheInterface()

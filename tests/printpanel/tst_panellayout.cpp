@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "panelprobe.h"
+#include "printpanelfixture.h"
 #include "support/layoutdescription.h"
 #include "support/stricttest.h"
 
@@ -15,6 +15,12 @@
 #include <QtWidgets/QVBoxLayout>
 
 namespace {
+
+/** The vertical layout of a whole panel. */
+QVBoxLayout* mainLayout(const QWidget& panel)
+{
+    return qobject_cast<QVBoxLayout*>(panel.layout());
+}
 
 QStringList mainLayoutWithoutTestControls()
 {
@@ -79,19 +85,19 @@ private Q_SLOTS:
     void thePanelOwnsAllItShows();
 
 private:
-    static void setUpState(PrintWidget& panel, const QString& state);
+    static void setUpState(PrintPanelFixture& panel, const QString& state);
 };
 
 void tst_PanelLayout::rowsInOrder()
 {
-    const PrintWidget panel(false, nullptr);
+    const PrintPanelFixture panel;
     QVERIFY(mainLayout(panel));
     QCOMPARE(layoutDescription(panel.layout()), mainLayoutWithoutTestControls());
 }
 
 void tst_PanelLayout::rowsInOrderWithTestControls()
 {
-    const PrintWidget panel(true, nullptr);
+    const PrintPanelFixture panel(true);
     QStringList expected = mainLayoutWithoutTestControls();
     const QString buttons = expected.takeLast();
     expected << QStringLiteral("separator") << QStringLiteral("spacer 1x15 Minimum/Minimum")
@@ -103,7 +109,7 @@ void tst_PanelLayout::rowsInOrderWithTestControls()
 
 void tst_PanelLayout::title()
 {
-    const PrintWidget panel(false, nullptr);
+    const PrintPanelFixture panel;
     const auto* label = qobject_cast<QLabel*>(panel.layout()->itemAt(0)->widget());
     QVERIFY(label);
     QCOMPARE(label->text(), QStringLiteral("PRINT SETTINGS"));
@@ -112,7 +118,7 @@ void tst_PanelLayout::title()
 
 void tst_PanelLayout::separatorBarsAreGrey()
 {
-    const PrintWidget panel(true, nullptr);
+    const PrintPanelFixture panel(true);
     int bars = 0;
     for (int i = 0; i < panel.layout()->count(); ++i) {
         const auto* bar = qobject_cast<QFrame*>(panel.layout()->itemAt(i)->widget());
@@ -127,9 +133,9 @@ void tst_PanelLayout::separatorBarsAreGrey()
 
 void tst_PanelLayout::onlyTheBottomSeparatorStretches()
 {
-    const PrintWidget panel(true, nullptr);
+    const PrintPanelFixture panel(true);
     const QVBoxLayout* layout = mainLayout(panel);
-    const int bar = layout->indexOf(part<QFrame>(panel, "bottomSeparator"));
+    const int bar = layout->indexOf(panel.part<QFrame>("bottomSeparator"));
     QCOMPARE(bar, 9);
     for (int i = 0; i < layout->count(); ++i)
         QCOMPARE(layout->stretch(i), i == bar ? 11 : 0);
@@ -138,7 +144,7 @@ void tst_PanelLayout::onlyTheBottomSeparatorStretches()
 
 void tst_PanelLayout::partsStandInVisualOrder()
 {
-    PrintWidget panel(true, nullptr);
+    PrintPanelFixture panel(true);
     panel.setVisibleAmmoniaTag(1);
     panel.showSupplyInfo({QStringLiteral("#000000"), QStringLiteral("#ffffff")}, false, 4.0, 0,
                          true);
@@ -152,7 +158,7 @@ void tst_PanelLayout::partsStandInVisualOrder()
           "stackGroup",        "currentRecordRadio", "allRecordsRadio",    "recordListRadio",
           "recordListEdit",    "nupTitleLabel",      "replicatingRadio",   "userBackgroundCheck",
           "bottomSeparator",   "printToFileCheck",   "errorNumberSpinBox", "PrintButton"}) {
-        const auto* widget = part<QWidget>(panel, name);
+        const auto* widget = panel.part<QWidget>(name);
         QVERIFY2(widget && widget->isVisible(), name);
         const int top = widget->mapTo(&panel, QPoint()).y();
         QVERIFY2(top > above, name);
@@ -160,7 +166,7 @@ void tst_PanelLayout::partsStandInVisualOrder()
     }
 }
 
-void tst_PanelLayout::setUpState(PrintWidget& panel, const QString& state)
+void tst_PanelLayout::setUpState(PrintPanelFixture& panel, const QString& state)
 {
     if (state.contains(QLatin1String("nup"))) {
         panel.setRangeValues(0, 9, true);
@@ -180,14 +186,14 @@ void tst_PanelLayout::extraHeightGoesToTheBottomSeparator_data()
 {
     QTest::addColumn<bool>("testControls");
     QTest::addColumn<QString>("state");
-    QTest::newRow("plain") << false << QString();
-    QTest::newRow("test controls") << true << QString();
-    QTest::newRow("N-up") << false << QStringLiteral("nup");
-    QTest::newRow("loaded supply") << false << QStringLiteral("supply");
-    QTest::newRow("pipe marking") << false << QStringLiteral("pipe");
-    QTest::newRow("user background") << false << QStringLiteral("background");
-    QTest::newRow("everything") << true << QStringLiteral("nup supply background");
-    QTest::newRow("pipe marking and supply") << true << QStringLiteral("pipe supply");
+    addRow("plain", false, QString());
+    addRow("test controls", true, QString());
+    addRow("N-up", false, "nup");
+    addRow("loaded supply", false, "supply");
+    addRow("pipe marking", false, "pipe");
+    addRow("user background", false, "background");
+    addRow("everything", true, "nup supply background");
+    addRow("pipe marking and supply", true, "pipe supply");
 }
 
 void tst_PanelLayout::extraHeightGoesToTheBottomSeparator()
@@ -195,7 +201,7 @@ void tst_PanelLayout::extraHeightGoesToTheBottomSeparator()
     QFETCH(const bool, testControls);
     QFETCH(const QString, state);
     constexpr int extra = 300;
-    PrintWidget panel(testControls, nullptr);
+    PrintPanelFixture panel(testControls);
     setUpState(panel, state);
     QVERIFY(showPanel(panel));
     const QSize natural = panel.sizeHint();
@@ -208,7 +214,7 @@ void tst_PanelLayout::extraHeightGoesToTheBottomSeparator()
     const QList<QRect> after = geometries(panel);
 
     const int barTop =
-        before.at(panel.findChildren<QWidget*>().indexOf(part<QFrame>(panel, "bottomSeparator")))
+        before.at(panel.findChildren<QWidget*>().indexOf(panel.part<QFrame>("bottomSeparator")))
             .top();
     const QList<QWidget*> children = panel.findChildren<QWidget*>();
     for (qsizetype i = 0; i < children.size(); ++i) {
@@ -229,7 +235,7 @@ void tst_PanelLayout::nothingOverlapsAtItsSizeHint()
 {
     QFETCH(const bool, testControls);
     QFETCH(const QString, state);
-    PrintWidget panel(testControls, nullptr);
+    PrintPanelFixture panel(testControls);
     setUpState(panel, state);
     QVERIFY(showPanel(panel));
     panel.resize(panel.sizeHint());
@@ -256,14 +262,14 @@ void tst_PanelLayout::nothingOverlapsAtItsSizeHint()
 void tst_PanelLayout::ammoniaSeparatorStandsDirectlyUnderItsFrame()
 {
     for (const bool onDemand : {false, true}) {
-        PrintWidget panel(false, nullptr);
+        PrintPanelFixture panel;
         if (onDemand)
             panel.setVisibleAmmoniaTag(1);
         else
             panel.setModule(JxModuleInfo::PipeMarking);
-        const int frame = panel.layout()->indexOf(part<QFrame>(panel, "ammoniaWidget"));
+        const int frame = panel.layout()->indexOf(panel.part<QFrame>("ammoniaWidget"));
         QCOMPARE(frame, 3);
-        QCOMPARE(panel.layout()->indexOf(part<QFrame>(panel, "ammoniaSeparator")), frame + 1);
+        QCOMPARE(panel.layout()->indexOf(panel.part<QFrame>("ammoniaSeparator")), frame + 1);
         QStringList expected = mainLayoutWithoutTestControls();
         expected.insert(4, QStringLiteral("separator"));
         QCOMPARE(layoutDescription(panel.layout()), expected);
@@ -276,17 +282,14 @@ void tst_PanelLayout::thePanelOwnsAllItShows()
 {
     QList<QPointer<QObject>> parts;
     {
-        PrintWidget panel(true, nullptr);
+        PrintPanelFixture panel(true);
         panel.setModule(JxModuleInfo::PipeMarking);
         panel.showSupplyInfo({QStringLiteral("#000000")}, false, 4.0, 0, true);
         panel.setModule(JxModuleInfo::PipeMarking);
-        const QList<QObject*> children = panel.findChildren<QObject*>();
-        for (QObject* child : children)
-            parts.append(child);
-        QVERIFY(parts.size() > 60);
+        parts = partsOf(&panel);
+        QVERIFY(parts.size() > 61);
     }
-    for (const QPointer<QObject>& child : std::as_const(parts))
-        QVERIFY(child.isNull());
+    QVERIFY(areGone(parts));
 }
 
 QTEST_MAIN(tst_PanelLayout)

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "supplyprobe.h"
+#include "printpanelfixture.h"
 #include "support/stricttest.h"
 #include "support/translationrecorder.h"
 
@@ -83,7 +83,7 @@ QString keyText(const TranslationKey& key)
 
 /** Everything that the panel ever shows is on it: both ribbons, one of them blank, tags, test
  * controls. */
-void showEverything(PrintWidget& panel)
+void showEverything(PrintPanelFixture& panel)
 {
     panel.setModule(JxModuleInfo::PipeMarking);
     panel.setVisibleAmmoniaTag(15);
@@ -129,7 +129,7 @@ void tst_PanelTexts::everyTextIsLookedUpWithItsKey()
     QFETCH(const QString, text);
     QFETCH(const QString, comment);
     const TranslationRecorder recorder(context);
-    PrintWidget panel(true, nullptr);
+    PrintPanelFixture panel(true);
     showEverything(panel);
     QVERIFY(recorder.keys().contains(TranslationKey{context, text, comment}));
 }
@@ -141,7 +141,7 @@ void tst_PanelTexts::noTextIsLookedUpByAnotherKey()
         expected.append(
             keyText({context, QString::fromUtf8(row.text), QString::fromUtf8(row.comment)}));
     const TranslationRecorder recorder(context);
-    PrintWidget panel(true, nullptr);
+    PrintPanelFixture panel(true);
     showEverything(panel);
     const QList<TranslationKey> keys = recorder.keys();
     for (const TranslationKey& key : keys)
@@ -176,7 +176,7 @@ void tst_PanelTexts::labelsShowTheirTranslation()
 {
     QFETCH(const QString, shown);
     const TranslationRecorder recorder(context);
-    PrintWidget panel(true, nullptr);
+    PrintPanelFixture panel(true);
     showEverything(panel);
     QVERIFY(labelWithText(panel, shown));
 }
@@ -220,18 +220,18 @@ void tst_PanelTexts::propertiesShowTheirTranslation()
     QFETCH(const QByteArray, name);
     QFETCH(const QByteArray, property);
     const TranslationRecorder recorder(context);
-    PrintWidget panel(true, nullptr);
+    PrintPanelFixture panel(true);
     showEverything(panel);
-    QTEST(part<QWidget>(panel, name.constData())->property(property.constData()).toString(),
+    QTEST(panel.part<QWidget>(name.constData())->property(property.constData()).toString(),
           "shown");
 }
 
 void tst_PanelTexts::itemNamesAreTranslated()
 {
     const TranslationRecorder recorder(context);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setVisibleAmmoniaTag(15);
-    const auto* combo = part<QComboBox>(panel, "AmmoniaPrintCombo");
+    const auto* combo = panel.part<QComboBox>("AmmoniaPrintCombo");
     QCOMPARE(combo->itemText(0), marked("Label", "The option to print the label"));
     QCOMPARE(combo->itemText(1),
              marked("High Pressure Tag", "The option to print the high pressure tag"));
@@ -246,8 +246,8 @@ void tst_PanelTexts::itemNamesAreTranslated()
 void tst_PanelTexts::statusIsComposedOfTheTranslations()
 {
     const TranslationRecorder recorder(context);
-    PrintWidget panel(false, nullptr);
-    const auto* label = part<QLabel>(panel, "statusLabel");
+    PrintPanelFixture panel;
+    const auto* label = panel.part<QLabel>("statusLabel");
     const QString unavailable = marked(", Unavailable", "Printer status");
     panel.updatePrinterStatus(false, false, true);
     QCOMPARE(label->text(), marked("Online", "Printer status") + unavailable);
@@ -260,10 +260,10 @@ void tst_PanelTexts::statusIsComposedOfTheTranslations()
 void tst_PanelTexts::listTextsAreComposedOfTheTranslations()
 {
     const TranslationRecorder recorder(context);
-    const PrintWidget panel(false, nullptr);
+    const PrintPanelFixture panel;
     const QString example =
         marked("Example:", "An example of a possible entry") + QStringLiteral("  1,4-5,11-20,33");
-    const auto* edit = part<QWidget>(panel, "recordListEdit");
+    const auto* edit = panel.part<QWidget>("recordListEdit");
     QCOMPARE(edit->property("placeholderText").toString(), QStringLiteral("   ") + example);
     QCOMPARE(edit->toolTip(),
              marked("Enter a list of record numbers and/or ranges, separated by comma.",
@@ -274,9 +274,9 @@ void tst_PanelTexts::listTextsAreComposedOfTheTranslations()
 void tst_PanelTexts::tabToolTipsAreTranslated()
 {
     const TranslationRecorder recorder(context);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     const char* const comment = "Label for the ribbon color.";
-    const auto toolTip = [&panel](int index) { return colorTabs(panel)->tabToolTip(index); };
+    const auto toolTip = [&panel](int index) { return panel.colorTabs()->tabToolTip(index); };
     panel.showSupplyInfo(colors({"#dc0b0b", "#fffffe", "#ffffff"}), true, 4.0, 0, true);
     QCOMPARE(toolTip(0), marked("Ribbon1", comment));
     QCOMPARE(toolTip(1), marked("Blank Ribbon2", comment));
@@ -289,8 +289,8 @@ void tst_PanelTexts::tabToolTipsAreTranslated()
 void tst_PanelTexts::nupToolTipsAreTranslated()
 {
     const TranslationRecorder recorder(context);
-    PrintWidget panel(false, nullptr);
-    const auto* frame = part<QWidget>(panel, "nupFrame");
+    PrintPanelFixture panel;
+    const auto* frame = panel.part<QWidget>("nupFrame");
     panel.setRangeValues(0, 0, true);
     QCOMPARE(frame->toolTip(),
              marked("N-up replicating option is enabled only for multiple records.",
@@ -304,17 +304,17 @@ void tst_PanelTexts::nupToolTipsAreTranslated()
 void tst_PanelTexts::noPrinterIsNotTranslated()
 {
     const TranslationRecorder recorder(context);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.updateListOfPrinters({}, 0);
     QCOMPARE(panel.getSelectedPrinter(), QStringLiteral("No printer"));
 }
 
 void tst_PanelTexts::statusTextsAreTranslatedOnce()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     const TranslationRecorder late(context);
     panel.updatePrinterStatus(true, false, true);
-    QCOMPARE(part<QLabel>(panel, "statusLabel")->text(), QStringLiteral("Offline, Unavailable"));
+    QCOMPARE(panel.part<QLabel>("statusLabel")->text(), QStringLiteral("Offline, Unavailable"));
     QVERIFY(late.keys().isEmpty());
 }
 
@@ -322,9 +322,9 @@ void tst_PanelTexts::widthIsFormattedWithAPointInEveryLocale()
 {
     const QLocale before;
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.showSupplyInfo(colors({"#000000"}), false, 1234.5, 0, false);
-    const QString text = widthEdit(panel)->property("text").toString();
+    const QString text = panel.widthEdit()->property("text").toString();
     QLocale::setDefault(before);
     QCOMPARE(text, QStringLiteral("1234.50"));
 }

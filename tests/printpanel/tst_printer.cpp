@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "panelprobe.h"
+#include "printpanelfixture.h"
 #include "support/layoutdescription.h"
 #include "support/stricttest.h"
 
@@ -16,14 +16,9 @@
 
 namespace {
 
-QComboBox* printerCombo(const PrintWidget& panel)
+QGridLayout* printerGrid(const PrintPanelFixture& panel)
 {
-    return part<QComboBox>(panel, "PrinterListCombo");
-}
-
-QGridLayout* printerGrid(const PrintWidget& panel)
-{
-    return qobject_cast<QGridLayout*>(layoutHolding(panel.layout(), printerCombo(panel)));
+    return qobject_cast<QGridLayout*>(layoutHolding(panel.layout(), panel.printerCombo()));
 }
 
 const QStringList threePrinters = {QStringLiteral("Alpha"), QStringLiteral("Beta"),
@@ -57,7 +52,7 @@ private Q_SLOTS:
 
 void tst_Printer::gridOfTheRow()
 {
-    const PrintWidget panel(false, nullptr);
+    const PrintPanelFixture panel;
     const QGridLayout* grid = printerGrid(panel);
     QVERIFY(grid);
     QCOMPARE(grid->contentsMargins(), QMargins(0, 0, 0, 0));
@@ -65,7 +60,7 @@ void tst_Printer::gridOfTheRow()
     QCOMPARE(grid->verticalSpacing(), 0);
     QCOMPARE(panel.layout()->indexOf(const_cast<QGridLayout*>(grid)), 4);
 
-    const int combo = grid->indexOf(::printerCombo(panel));
+    const int combo = grid->indexOf(panel.printerCombo());
     QCOMPARE(gridCell(grid, combo).row, 1);
     QCOMPARE(gridCell(grid, combo).column, 0);
     QCOMPARE(gridCell(grid, combo).rowSpan, 1);
@@ -75,7 +70,7 @@ void tst_Printer::gridOfTheRow()
     QCOMPARE(itemDescription(grid->itemAtPosition(1, 5)),
              QStringLiteral("spacer 5x5 Fixed/Minimum"));
 
-    const int button = grid->indexOf(part<QPushButton>(panel, "PreferencesButton"));
+    const int button = grid->indexOf(panel.part<QPushButton>("PreferencesButton"));
     QCOMPARE(gridCell(grid, button).row, 1);
     QCOMPARE(gridCell(grid, button).column, 6);
     QCOMPARE(gridCell(grid, button).columnSpan, 1);
@@ -84,7 +79,7 @@ void tst_Printer::gridOfTheRow()
 
 void tst_Printer::captionOfTheRow()
 {
-    const PrintWidget panel(false, nullptr);
+    const PrintPanelFixture panel;
     const QGridLayout* grid = printerGrid(panel);
     QLabel* caption = labelWithText(panel, QStringLiteral("Printer:"));
     QVERIFY(caption);
@@ -101,8 +96,8 @@ void tst_Printer::captionOfTheRow()
 
 void tst_Printer::printerCombo()
 {
-    const PrintWidget panel(false, nullptr);
-    const QComboBox* combo = ::printerCombo(panel);
+    const PrintPanelFixture panel;
+    const QComboBox* combo = panel.printerCombo();
     QVERIFY(combo->inherits("JxComboBox"));
     QVERIFY(!combo->isEditable());
     QCOMPARE(combo->minimumWidth(), 200);
@@ -116,8 +111,8 @@ void tst_Printer::printerCombo()
 
 void tst_Printer::preferencesButton()
 {
-    const PrintWidget panel(false, nullptr);
-    const auto* button = part<QPushButton>(panel, "PreferencesButton");
+    const PrintPanelFixture panel;
+    const auto* button = panel.part<QPushButton>("PreferencesButton");
     QVERIFY(button->inherits("DragScrollButton"));
     // The sheet's minimum height and border raise the minimum to 37; the size asked for is the
     // maximum.
@@ -131,7 +126,7 @@ void tst_Printer::preferencesButton()
 
 void tst_Printer::statusGrid()
 {
-    const PrintWidget panel(false, nullptr);
+    const PrintPanelFixture panel;
     const QGridLayout* grid = printerGrid(panel);
     auto* inner = qobject_cast<QGridLayout*>(grid->itemAtPosition(2, 0)->layout());
     QVERIFY(inner);
@@ -143,9 +138,9 @@ void tst_Printer::statusGrid()
         return inner->itemAtPosition(row, column)->widget();
     };
     QCOMPARE(widgetAt(0, 0), labelWithText(panel, QStringLiteral("Location:")));
-    QCOMPARE(widgetAt(0, 1), part<QLabel>(panel, "locationLabel"));
+    QCOMPARE(widgetAt(0, 1), panel.part<QLabel>("locationLabel"));
     QCOMPARE(widgetAt(1, 0), labelWithText(panel, QStringLiteral("Status:")));
-    QCOMPARE(widgetAt(1, 1), part<QLabel>(panel, "statusLabel"));
+    QCOMPARE(widgetAt(1, 1), panel.part<QLabel>("statusLabel"));
     for (const int row : {0, 1}) {
         for (const int column : {0, 1})
             QCOMPARE(widgetAt(row, column)->font(), ApplicationFont::getWidgetFontSmall(false));
@@ -155,36 +150,36 @@ void tst_Printer::statusGrid()
 void tst_Printer::valueLabels_data()
 {
     QTest::addColumn<QByteArray>("name");
-    QTest::newRow("location") << QByteArray("locationLabel");
-    QTest::newRow("status") << QByteArray("statusLabel");
+    addRow("location", QByteArray("locationLabel"));
+    addRow("status", QByteArray("statusLabel"));
 }
 
 void tst_Printer::valueLabels()
 {
     QFETCH(const QByteArray, name);
-    const PrintWidget panel(false, nullptr);
-    const auto* label = part<QLabel>(panel, name.constData());
+    const PrintPanelFixture panel;
+    const auto* label = panel.part<QLabel>(name.constData());
     QCOMPARE(label->minimumHeight(), 35);
     QCOMPARE(label->maximumHeight(), 35);
 }
 
 void tst_Printer::atConstruction()
 {
-    const PrintWidget panel(false, nullptr);
-    QCOMPARE(::printerCombo(panel)->count(), 0);
+    const PrintPanelFixture panel;
+    QCOMPARE(panel.printerCombo()->count(), 0);
     QCOMPARE(panel.getSelectedPrinter(), QString());
-    QCOMPARE(part<QLabel>(panel, "locationLabel")->text(), QString());
+    QCOMPARE(panel.part<QLabel>("locationLabel")->text(), QString());
 }
 
 void tst_Printer::preferencesButtonEmitsOpenPreferences()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     QVERIFY(showPanel(panel));
     const QSignalSpy opened(&panel, SIGNAL(openPreferencesSignal()));
-    clickOn(part<QPushButton>(panel, "PreferencesButton"));
+    clickOn(panel.part<QPushButton>("PreferencesButton"));
     QCOMPARE(opened.size(), 1);
     panel.disableAllButtons();
-    part<QPushButton>(panel, "PreferencesButton")->click();
+    panel.part<QPushButton>("PreferencesButton")->click();
     QCOMPARE(opened.size(), 1);
 }
 
@@ -194,16 +189,14 @@ void tst_Printer::status_data()
     QTest::addColumn<bool>("remote");
     QTest::addColumn<bool>("unavailable");
     QTest::addColumn<QString>("text");
-    QTest::newRow("nothing") << false << false << false << QStringLiteral("Online");
-    QTest::newRow("offline") << true << false << false << QStringLiteral("Offline");
-    QTest::newRow("remote") << false << true << false << QStringLiteral("Remote");
-    QTest::newRow("remote outranks offline") << true << true << false << QStringLiteral("Remote");
-    QTest::newRow("unavailable") << false << false << true << QStringLiteral("Online, Unavailable");
-    QTest::newRow("offline, unavailable")
-        << true << false << true << QStringLiteral("Offline, Unavailable");
-    QTest::newRow("remote, unavailable")
-        << false << true << true << QStringLiteral("Remote, Unavailable");
-    QTest::newRow("all") << true << true << true << QStringLiteral("Remote, Unavailable");
+    addRow("nothing", false, false, false, "Online");
+    addRow("offline", true, false, false, "Offline");
+    addRow("remote", false, true, false, "Remote");
+    addRow("remote outranks offline", true, true, false, "Remote");
+    addRow("unavailable", false, false, true, "Online, Unavailable");
+    addRow("offline, unavailable", true, false, true, "Offline, Unavailable");
+    addRow("remote, unavailable", false, true, true, "Remote, Unavailable");
+    addRow("all", true, true, true, "Remote, Unavailable");
 }
 
 void tst_Printer::status()
@@ -211,40 +204,40 @@ void tst_Printer::status()
     QFETCH(const bool, offline);
     QFETCH(const bool, remote);
     QFETCH(const bool, unavailable);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.updatePrinterStatus(true, true, true);
     panel.updatePrinterStatus(offline, remote, unavailable);
-    QTEST(part<QLabel>(panel, "statusLabel")->text(), "text");
+    QTEST(panel.part<QLabel>("statusLabel")->text(), "text");
 }
 
 void tst_Printer::location_data()
 {
     QTest::addColumn<QString>("location");
-    QTest::newRow("plain") << QStringLiteral("Hall 2, by the door");
-    QTest::newRow("empty") << QString();
-    QTest::newRow("blanks kept") << QStringLiteral("  Hall 2  ");
-    QTest::newRow("two lines") << QStringLiteral("Hall 2\nDoor 4");
-    QTest::newRow("markup") << QStringLiteral("<b>Hall</b> & <img src='x'>");
-    QTest::newRow("mnemonic") << QStringLiteral("R&D");
-    QTest::newRow("a megabyte") << QString(1024 * 1024, u'M');
-    QTest::newRow("right to left") << QStringLiteral("\u05e9\u05dc\u05d5\u05dd");
+    addRow("plain", "Hall 2, by the door");
+    addRow("empty", QString());
+    addRow("blanks kept", "  Hall 2  ");
+    addRow("two lines", "Hall 2\nDoor 4");
+    addRow("markup", "<b>Hall</b> & <img src='x'>");
+    addRow("mnemonic", "R&D");
+    addRow("a megabyte", QString(1024 * 1024, u'M'));
+    addRow("right to left", "\u05e9\u05dc\u05d5\u05dd");
 }
 
 void tst_Printer::location()
 {
     QFETCH(const QString, location);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.updatePrinterLocation(QStringLiteral("before"));
     panel.updatePrinterLocation(location);
-    QCOMPARE(part<QLabel>(panel, "locationLabel")->text(), location);
+    QCOMPARE(panel.part<QLabel>("locationLabel")->text(), location);
     QVERIFY(showPanel(panel));
     QVERIFY(!panel.grab().isNull());
 }
 
 void tst_Printer::locationIsShownAsPlainText()
 {
-    PrintWidget panel(false, nullptr);
-    auto* label = part<QLabel>(panel, "locationLabel");
+    PrintPanelFixture panel;
+    auto* label = panel.part<QLabel>("locationLabel");
     QCOMPARE(label->textFormat(), Qt::PlainText);
     panel.updatePrinterLocation(QStringLiteral("<font color='red'>\u2588\u2588\u2588</font>"));
     QVERIFY(showPanel(panel));
@@ -259,7 +252,7 @@ void tst_Printer::locationIsShownAsPlainText()
 
 void tst_Printer::aLongLocationDoesNotWidenThePanel()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     QVERIFY(showPanel(panel));
     const int before = panel.minimumSizeHint().width();
     panel.updatePrinterLocation(QString(4000, u'W'));

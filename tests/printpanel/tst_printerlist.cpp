@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "panelprobe.h"
+#include "printpanelfixture.h"
 #include "support/stricttest.h"
 
 #include <printpanels/printwidget.h>
@@ -12,11 +12,6 @@
 #include <climits>
 
 namespace {
-
-QComboBox* printerCombo(const PrintWidget& panel)
-{
-    return part<QComboBox>(panel, "PrinterListCombo");
-}
 
 QStringList itemTexts(const QComboBox* combo)
 {
@@ -64,9 +59,9 @@ private Q_SLOTS:
 
 void tst_PrinterList::listIsFilledInOrderWithToolTips()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.updateListOfPrinters(threePrinters, 1);
-    const QComboBox* combo = ::printerCombo(panel);
+    const QComboBox* combo = panel.printerCombo();
     QCOMPARE(itemTexts(combo), threePrinters);
     for (int i = 0; i < 3; ++i)
         QCOMPARE(combo->itemData(i, Qt::ToolTipRole).toString(), threePrinters.at(i));
@@ -84,10 +79,10 @@ void tst_PrinterList::emptyListShowsNoPrinter_data()
 void tst_PrinterList::emptyListShowsNoPrinter()
 {
     QFETCH(const int, index);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.updateListOfPrinters(threePrinters, 1);
     panel.updateListOfPrinters({}, index);
-    const QComboBox* combo = ::printerCombo(panel);
+    const QComboBox* combo = panel.printerCombo();
     QCOMPARE(itemTexts(combo), QStringList(QStringLiteral("No printer")));
     QVERIFY(!combo->itemData(0, Qt::ToolTipRole).isValid());
     QCOMPARE(combo->currentIndex(), 0);
@@ -99,21 +94,21 @@ void tst_PrinterList::indexSelectsThePrinter_data()
 {
     QTest::addColumn<int>("index");
     QTest::addColumn<int>("current");
-    QTest::newRow("first") << 0 << 0;
-    QTest::newRow("last") << 2 << 2;
-    QTest::newRow("none") << -1 << -1;
-    QTest::newRow("beyond the last") << 3 << -1;
-    QTest::newRow("highest") << INT_MAX << -1;
-    QTest::newRow("lowest") << INT_MIN << -1;
+    addRow("first", 0, 0);
+    addRow("last", 2, 2);
+    addRow("none", -1, -1);
+    addRow("beyond the last", 3, -1);
+    addRow("highest", INT_MAX, -1);
+    addRow("lowest", INT_MIN, -1);
 }
 
 void tst_PrinterList::indexSelectsThePrinter()
 {
     QFETCH(const int, index);
     QFETCH(const int, current);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.updateListOfPrinters(threePrinters, index);
-    const QComboBox* combo = ::printerCombo(panel);
+    const QComboBox* combo = panel.printerCombo();
     QCOMPARE(combo->currentIndex(), current);
     QCOMPARE(panel.getSelectedPrinter(), threePrinters.value(current));
     QCOMPARE(combo->toolTip(), threePrinters.value(current));
@@ -121,20 +116,20 @@ void tst_PrinterList::indexSelectsThePrinter()
 
 void tst_PrinterList::aNewListReplacesTheOldOne()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.updateListOfPrinters(threePrinters, 2);
     panel.updateListOfPrinters({QStringLiteral("Delta"), QStringLiteral("Delta")}, 1);
-    QCOMPARE(itemTexts(::printerCombo(panel)),
+    QCOMPARE(itemTexts(panel.printerCombo()),
              QStringList({QStringLiteral("Delta"), QStringLiteral("Delta")}));
-    QCOMPARE(::printerCombo(panel)->currentIndex(), 1);
+    QCOMPARE(panel.printerCombo()->currentIndex(), 1);
 }
 
 void tst_PrinterList::addingAtTheTopMakesItCurrent()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.updateListOfPrinters(threePrinters, 2);
     panel.addPrinterToList(QStringLiteral("New"), true);
-    const QComboBox* combo = ::printerCombo(panel);
+    const QComboBox* combo = panel.printerCombo();
     QCOMPARE(itemTexts(combo), QStringList(QStringLiteral("New")) + threePrinters);
     QCOMPARE(combo->currentIndex(), 0);
     QCOMPARE(combo->itemData(0, Qt::ToolTipRole).toString(), QStringLiteral("New"));
@@ -143,10 +138,10 @@ void tst_PrinterList::addingAtTheTopMakesItCurrent()
 
 void tst_PrinterList::addingAtTheEndKeepsTheCurrentPrinter()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.updateListOfPrinters(threePrinters, 1);
     panel.addPrinterToList(QStringLiteral("New"), false);
-    const QComboBox* combo = ::printerCombo(panel);
+    const QComboBox* combo = panel.printerCombo();
     QCOMPARE(itemTexts(combo), threePrinters + QStringList(QStringLiteral("New")));
     QCOMPARE(combo->itemData(3, Qt::ToolTipRole).toString(), QStringLiteral("New"));
     QCOMPARE(panel.getSelectedPrinter(), QStringLiteral("Beta"));
@@ -156,43 +151,43 @@ void tst_PrinterList::addingAtTheEndKeepsTheCurrentPrinter()
 void tst_PrinterList::addingToAnEmptyListMakesItCurrent_data()
 {
     QTest::addColumn<bool>("atTop");
-    QTest::newRow("at the top") << true;
-    QTest::newRow("at the end") << false;
+    addRow("at the top", true);
+    addRow("at the end", false);
 }
 
 void tst_PrinterList::addingToAnEmptyListMakesItCurrent()
 {
     QFETCH(const bool, atTop);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.addPrinterToList(QStringLiteral("Only"), atTop);
     QCOMPARE(panel.getSelectedPrinter(), QStringLiteral("Only"));
-    QCOMPARE(::printerCombo(panel)->currentIndex(), 0);
-    QCOMPARE(::printerCombo(panel)->toolTip(), QStringLiteral("Only"));
+    QCOMPARE(panel.printerCombo()->currentIndex(), 0);
+    QCOMPARE(panel.printerCombo()->toolTip(), QStringLiteral("Only"));
 }
 
 void tst_PrinterList::selectingByName()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.updateListOfPrinters(threePrinters, 0);
     panel.setSelectedPrinter(QStringLiteral("Gamma"));
     QCOMPARE(panel.getSelectedPrinter(), QStringLiteral("Gamma"));
-    QCOMPARE(::printerCombo(panel)->currentIndex(), 2);
-    QCOMPARE(::printerCombo(panel)->toolTip(), QStringLiteral("Gamma"));
+    QCOMPARE(panel.printerCombo()->currentIndex(), 2);
+    QCOMPARE(panel.printerCombo()->toolTip(), QStringLiteral("Gamma"));
 }
 
 void tst_PrinterList::selectingAnUnknownNameChangesOnlyTheToolTip()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.updateListOfPrinters(threePrinters, 1);
     panel.setSelectedPrinter(QStringLiteral("Omega"));
     QCOMPARE(panel.getSelectedPrinter(), QStringLiteral("Beta"));
-    QCOMPARE(itemTexts(::printerCombo(panel)), threePrinters);
-    QCOMPARE(::printerCombo(panel)->toolTip(), QStringLiteral("Omega"));
+    QCOMPARE(itemTexts(panel.printerCombo()), threePrinters);
+    QCOMPARE(panel.printerCombo()->toolTip(), QStringLiteral("Omega"));
 }
 
 void tst_PrinterList::namesAreComparedLetterForLetter()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.updateListOfPrinters(threePrinters, 1);
     panel.setSelectedPrinter(QStringLiteral("gamma"));
     QCOMPARE(panel.getSelectedPrinter(), QStringLiteral("Beta"));
@@ -204,7 +199,7 @@ void tst_PrinterList::namesAreComparedLetterForLetter()
 
 void tst_PrinterList::onlyTheUserIsReported()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     const QSignalSpy changed(&panel, SIGNAL(currentPrinterSelectionChanged(QString)));
     panel.updateListOfPrinters(threePrinters, 2);
     panel.updateListOfPrinters(threePrinters, 1);
@@ -218,32 +213,32 @@ void tst_PrinterList::onlyTheUserIsReported()
 
 void tst_PrinterList::theUsersChoiceIsReportedOnce()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.updateListOfPrinters(threePrinters, 0);
     QVERIFY(showPanel(panel));
     QSignalSpy changed(&panel, SIGNAL(currentPrinterSelectionChanged(QString)));
-    QTest::keyClick(::printerCombo(panel), Qt::Key_Down);
+    QTest::keyClick(panel.printerCombo(), Qt::Key_Down);
     QCOMPARE(changed.size(), 1);
     QCOMPARE(changed.takeFirst(), QVariantList{QStringLiteral("Beta")});
-    QCOMPARE(::printerCombo(panel)->toolTip(), QStringLiteral("Beta"));
-    QTest::keyClick(::printerCombo(panel), Qt::Key_End);
+    QCOMPARE(panel.printerCombo()->toolTip(), QStringLiteral("Beta"));
+    QTest::keyClick(panel.printerCombo(), Qt::Key_End);
     QCOMPARE(changed.takeFirst(), QVariantList{QStringLiteral("Gamma")});
     QCOMPARE(panel.getSelectedPrinter(), QStringLiteral("Gamma"));
     // The same one again is no change.
-    QTest::keyClick(::printerCombo(panel), Qt::Key_End);
+    QTest::keyClick(panel.printerCombo(), Qt::Key_End);
     QCOMPARE(changed.size(), 0);
 }
 
 void tst_PrinterList::theConnectionStandsOnceAfterEveryHostOperation()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.updateListOfPrinters(threePrinters, 0);
     panel.updateListOfPrinters(threePrinters, 0);
     panel.addPrinterToList(QStringLiteral("End"), false);
     panel.setSelectedPrinter(QStringLiteral("Alpha"));
     panel.setSelectedPrinter(QStringLiteral("Alpha"));
     QSignalSpy changed(&panel, SIGNAL(currentPrinterSelectionChanged(QString)));
-    ::printerCombo(panel)->setCurrentIndex(3);
+    panel.printerCombo()->setCurrentIndex(3);
     QCOMPARE(changed.size(), 1);
     QCOMPARE(changed.first(), QVariantList{QStringLiteral("End")});
 }
@@ -252,51 +247,51 @@ void tst_PrinterList::slotTakesTheTextAtItsIndex_data()
 {
     QTest::addColumn<int>("index");
     QTest::addColumn<QString>("text");
-    QTest::newRow("an item that is not the current one") << 2 << QStringLiteral("Gamma");
-    QTest::newRow("no item") << -1 << QString();
-    QTest::newRow("beyond the last") << 3 << QString();
-    QTest::newRow("highest") << INT_MAX << QString();
+    addRow("an item that is not the current one", 2, "Gamma");
+    addRow("no item", -1, QString());
+    addRow("beyond the last", 3, QString());
+    addRow("highest", INT_MAX, QString());
 }
 
 void tst_PrinterList::slotTakesTheTextAtItsIndex()
 {
     QFETCH(const int, index);
     QFETCH(const QString, text);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.updateListOfPrinters(threePrinters, 0);
     const QSignalSpy changed(&panel, SIGNAL(currentPrinterSelectionChanged(QString)));
     QVERIFY(
         QMetaObject::invokeMethod(&panel, "currentPrinterSelectionChangedSlot", Q_ARG(int, index)));
     QCOMPARE(changed.size(), 1);
     QCOMPARE(changed.first(), QVariantList{text});
-    QCOMPARE(::printerCombo(panel)->toolTip(), text);
+    QCOMPARE(panel.printerCombo()->toolTip(), text);
 }
 
 void tst_PrinterList::hostileNamesStayAsTheyAre_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::newRow("markup") << QStringLiteral("<h1>Press</h1><img src=':/x'>");
-    QTest::newRow("empty") << QString();
-    QTest::newRow("blanks") << QStringLiteral("   ");
-    QTest::newRow("control characters") << QStringLiteral("a\tb\nc");
-    QTest::newRow("long") << QString(100000, u'x');
-    QTest::newRow("No printer") << QStringLiteral("No printer");
-    QTest::newRow("place marker") << QStringLiteral("%1 %n");
+    addRow("markup", "<h1>Press</h1><img src=':/x'>");
+    addRow("empty", QString());
+    addRow("blanks", "   ");
+    addRow("control characters", "a\tb\nc");
+    addRow("long", QString(100000, u'x'));
+    addRow("No printer", "No printer");
+    addRow("place marker", "%1 %n");
 }
 
 void tst_PrinterList::hostileNamesStayAsTheyAre()
 {
     QFETCH(const QString, name);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.updateListOfPrinters({QStringLiteral("Alpha"), name}, 1);
     QCOMPARE(panel.getSelectedPrinter(), name);
-    QCOMPARE(::printerCombo(panel)->toolTip(), name);
-    QCOMPARE(::printerCombo(panel)->itemData(1, Qt::ToolTipRole).toString(), name);
+    QCOMPARE(panel.printerCombo()->toolTip(), name);
+    QCOMPARE(panel.printerCombo()->itemData(1, Qt::ToolTipRole).toString(), name);
     panel.addPrinterToList(name, true);
     QCOMPARE(panel.getSelectedPrinter(), name);
     QSignalSpy changed(&panel, SIGNAL(currentPrinterSelectionChanged(QString)));
-    ::printerCombo(panel)->setCurrentIndex(1);
-    ::printerCombo(panel)->setCurrentIndex(0);
+    panel.printerCombo()->setCurrentIndex(1);
+    panel.printerCombo()->setCurrentIndex(0);
     QCOMPARE(changed.at(1), QVariantList{name});
     QVERIFY(showPanel(panel));
 }

@@ -1,19 +1,20 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "panelprobe.h"
+#include "printpanelfixture.h"
+#include "support/expectedsheet.h"
 #include "support/layoutdescription.h"
 #include "support/stricttest.h"
 
 #include <applicationfont.h>
 #include <printpanels/printwidget.h>
 
-#include <QtCore/QFile>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QFrame>
 #include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSpinBox>
 
@@ -64,17 +65,15 @@ void tst_PrintWidget::constructorNamesThePanelAndTakesTheParent()
 
 void tst_PrintWidget::styleSheetIsExact()
 {
-    QFile expected(QStringLiteral(EXPECTED_SHEETS "/printSettingsPanel.qss"));
-    QVERIFY(expected.open(QIODevice::ReadOnly));
-    const PrintWidget panel(false, nullptr);
+    const PrintPanelFixture panel;
     QCOMPARE(panel.styleSheet().size(), 2998);
-    QCOMPARE(panel.styleSheet(), QString::fromUtf8(expected.readAll()));
+    QCOMPARE(panel.styleSheet(), expectedSheet("printSettingsPanel"));
 }
 
 // The sheets make push buttons bold, so family and size are compared.
 void tst_PrintWidget::everyTextHasThePanelsFont()
 {
-    PrintWidget panel(true, nullptr);
+    PrintPanelFixture panel(true);
     panel.setModule(JxModuleInfo::PipeMarking);
     panel.createSupplyInfoLayout();
     const QList<QWidget*> children = panel.findChildren<QWidget*>();
@@ -90,7 +89,7 @@ void tst_PrintWidget::everyTextHasThePanelsFont()
             continue;
         const bool small = label && layoutHolding(panel.layout(), label) &&
                            layoutHolding(panel.layout(), label) ==
-                               layoutHolding(panel.layout(), part<QLabel>(panel, "statusLabel"));
+                               layoutHolding(panel.layout(), panel.part<QLabel>("statusLabel"));
         const QFont expected = small ? ApplicationFont::getWidgetFontSmall(false)
                                      : ApplicationFont::getWidgetFont(true);
         const QByteArray name = (child->objectName() + child->property("text").toString()).toUtf8();
@@ -104,10 +103,10 @@ void tst_PrintWidget::everyTextHasThePanelsFont()
 
 void tst_PrintWidget::buttonsAtConstruction()
 {
-    const PrintWidget panel(false, nullptr);
-    QVERIFY(!part<QPushButton>(panel, "PrintButton")->isEnabled());
-    QVERIFY(!part<QPushButton>(panel, "PreviewButton")->isEnabled());
-    QVERIFY(part<QPushButton>(panel, "PreferencesButton")->isEnabled());
+    const PrintPanelFixture panel;
+    QVERIFY(!panel.part<QPushButton>("PrintButton")->isEnabled());
+    QVERIFY(!panel.part<QPushButton>("PreviewButton")->isEnabled());
+    QVERIFY(panel.part<QPushButton>("PreferencesButton")->isEnabled());
 }
 
 void tst_PrintWidget::buttonsEnabling_data()
@@ -117,12 +116,12 @@ void tst_PrintWidget::buttonsEnabling_data()
     QTest::addColumn<bool>("requests");
     QTest::addColumn<bool>("preferences");
 
-    QTest::newRow("enablePrintButtons leaves preferences disabled") << false << 0 << true << false;
-    QTest::newRow("enableAllButtons") << false << 1 << true << true;
-    QTest::newRow("disablePrintButtons leaves preferences enabled") << true << 2 << false << true;
-    QTest::newRow("disableAllButtons") << true << 3 << false << false;
-    QTest::newRow("enablePrintButtons again") << true << 0 << true << true;
-    QTest::newRow("disableAllButtons again") << false << 3 << false << false;
+    addRow("enablePrintButtons leaves preferences disabled", false, 0, true, false);
+    addRow("enableAllButtons", false, 1, true, true);
+    addRow("disablePrintButtons leaves preferences enabled", true, 2, false, true);
+    addRow("disableAllButtons", true, 3, false, false);
+    addRow("enablePrintButtons again", true, 0, true, true);
+    addRow("disableAllButtons again", false, 3, false, false);
 }
 
 void tst_PrintWidget::buttonsEnabling()
@@ -134,57 +133,57 @@ void tst_PrintWidget::buttonsEnabling()
         &PrintWidgetInterface::enablePrintButtons, &PrintWidgetInterface::enableAllButtons,
         &PrintWidgetInterface::disablePrintButtons, &PrintWidgetInterface::disableAllButtons};
 
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     enabledBefore ? panel.enableAllButtons() : panel.disableAllButtons();
     (panel.*operations[operation])();
-    QTEST(part<QPushButton>(panel, "PrintButton")->isEnabled(), "requests");
-    QTEST(part<QPushButton>(panel, "PreviewButton")->isEnabled(), "requests");
-    QTEST(part<QPushButton>(panel, "PreferencesButton")->isEnabled(), "preferences");
+    QTEST(panel.part<QPushButton>("PrintButton")->isEnabled(), "requests");
+    QTEST(panel.part<QPushButton>("PreviewButton")->isEnabled(), "requests");
+    QTEST(panel.part<QPushButton>("PreferencesButton")->isEnabled(), "preferences");
 }
 
 void tst_PrintWidget::modulesThatChangeNothing_data()
 {
     QTest::addColumn<int>("module");
-    QTest::newRow("Unspecified") << 0;
-    QTest::newRow("JxLabelEditor") << 1;
-    QTest::newRow("GHS") << 2;
-    QTest::newRow("ArcFlashMain") << 3;
-    QTest::newRow("NFPAMain") << 5;
-    QTest::newRow("JxCatalog") << 6;
-    QTest::newRow("QuickPrint") << 7;
-    QTest::newRow("PDFViewer") << 8;
-    QTest::newRow("JavaScript") << 9;
-    QTest::newRow("GraphicsViewer") << 10;
-    QTest::newRow("no module of the host: 11") << 11;
+    addRow("Unspecified", 0);
+    addRow("JxLabelEditor", 1);
+    addRow("GHS", 2);
+    addRow("ArcFlashMain", 3);
+    addRow("NFPAMain", 5);
+    addRow("JxCatalog", 6);
+    addRow("QuickPrint", 7);
+    addRow("PDFViewer", 8);
+    addRow("JavaScript", 9);
+    addRow("GraphicsViewer", 10);
+    addRow("no module of the host: 11", 11);
     // The highest value that the enumeration's bits can hold.
-    QTest::newRow("no module of the host: 15") << 15;
+    addRow("no module of the host: 15", 15);
 }
 
 void tst_PrintWidget::modulesThatChangeNothing()
 {
     QFETCH(const int, module);
-    PrintWidget panel(true, nullptr);
+    PrintPanelFixture panel(true);
     const QStringList before = stateOf(panel);
     panel.setModule(static_cast<JxModuleInfo::JxModuleTypes>(module));
     QCOMPARE(stateOf(panel), before);
-    QVERIFY(!part<QFrame>(panel, "recordsFrame")->isHidden());
-    QCOMPARE(part<QComboBox>(panel, "AmmoniaPrintCombo"), nullptr);
+    QVERIFY(!panel.part<QFrame>("recordsFrame")->isHidden());
+    QCOMPARE(panel.part<QComboBox>("AmmoniaPrintCombo"), nullptr);
 }
 
 void tst_PrintWidget::pipeMarkingHidesTheRecordsAndFillsTheAmmoniaFrame()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setModule(static_cast<JxModuleInfo::JxModuleTypes>(4));
-    QVERIFY(part<QFrame>(panel, "recordsFrame")->isHidden());
-    QVERIFY(part<QFrame>(panel, "ammoniaWidget")->isHidden());
-    QVERIFY(part<QFrame>(panel, "ammoniaSeparator")->isHidden());
-    QVERIFY(part<QFrame>(panel, "ammoniaWidget")
-                ->isAncestorOf(part<QComboBox>(panel, "AmmoniaPrintCombo")));
+    QVERIFY(panel.part<QFrame>("recordsFrame")->isHidden());
+    QVERIFY(panel.part<QFrame>("ammoniaWidget")->isHidden());
+    QVERIFY(panel.part<QFrame>("ammoniaSeparator")->isHidden());
+    QVERIFY(panel.part<QFrame>("ammoniaWidget")
+                ->isAncestorOf(panel.part<QComboBox>("AmmoniaPrintCombo")));
 }
 
 void tst_PrintWidget::pipeMarkingTwiceDoublesNothing()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setModule(JxModuleInfo::PipeMarking);
     const QStringList once = stateOf(panel);
     panel.setModule(JxModuleInfo::PipeMarking);
@@ -199,7 +198,7 @@ void tst_PrintWidget::pipeMarkingTwiceDoublesNothing()
 
 void tst_PrintWidget::anotherModuleAfterPipeMarkingUndoesNothing()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setModule(JxModuleInfo::PipeMarking);
     const QStringList before = stateOf(panel);
     panel.setModule(JxModuleInfo::GHS);
@@ -208,8 +207,8 @@ void tst_PrintWidget::anotherModuleAfterPipeMarkingUndoesNothing()
 
 void tst_PrintWidget::userBackgroundStartsHiddenAndUnchecked()
 {
-    PrintWidget panel(false, nullptr);
-    auto* check = part<QCheckBox>(panel, "userBackgroundCheck");
+    PrintPanelFixture panel;
+    auto* check = panel.part<QCheckBox>("userBackgroundCheck");
     QCOMPARE(check->text(), QStringLiteral("Print User Background"));
     QVERIFY(check->isHidden());
     QVERIFY(!panel.getPrintUserBackground());
@@ -219,8 +218,8 @@ void tst_PrintWidget::userBackgroundStartsHiddenAndUnchecked()
 
 void tst_PrintWidget::userBackgroundIsShownAndHidden()
 {
-    PrintWidget panel(false, nullptr);
-    auto* check = part<QCheckBox>(panel, "userBackgroundCheck");
+    PrintPanelFixture panel;
+    auto* check = panel.part<QCheckBox>("userBackgroundCheck");
     panel.setShowUserBackground(true);
     QVERIFY(!check->isHidden());
     panel.setShowUserBackground(false);
@@ -233,11 +232,11 @@ void tst_PrintWidget::userBackgroundIsShownAndHidden()
 
 void tst_PrintWidget::userBackgroundIsCheckedWhileHidden()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setPrintUserBackground(true);
     QVERIFY(panel.getPrintUserBackground());
-    QVERIFY(part<QCheckBox>(panel, "userBackgroundCheck")->isChecked());
-    QVERIFY(part<QCheckBox>(panel, "userBackgroundCheck")->isHidden());
+    QVERIFY(panel.part<QCheckBox>("userBackgroundCheck")->isChecked());
+    QVERIFY(panel.part<QCheckBox>("userBackgroundCheck")->isHidden());
     panel.setShowUserBackground(true);
     QVERIFY(panel.getPrintUserBackground());
     panel.setPrintUserBackground(false);
@@ -246,18 +245,18 @@ void tst_PrintWidget::userBackgroundIsCheckedWhileHidden()
 
 void tst_PrintWidget::userBackgroundFollowsTheUser()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setShowUserBackground(true);
     QVERIFY(showPanel(panel));
-    clickOn(part<QCheckBox>(panel, "userBackgroundCheck"));
+    clickOn(panel.part<QCheckBox>("userBackgroundCheck"));
     QVERIFY(panel.getPrintUserBackground());
-    clickOn(part<QCheckBox>(panel, "userBackgroundCheck"));
+    clickOn(panel.part<QCheckBox>("userBackgroundCheck"));
     QVERIFY(!panel.getPrintUserBackground());
 }
 
 void tst_PrintWidget::everyShowEmitsTheShowSignalOnce()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     const QSignalSpy shown(&panel, SIGNAL(printWidgetShowSignal()));
     panel.setShowUserBackground(true);
     QCOMPARE(shown.size(), 0);
@@ -286,7 +285,7 @@ void tst_PrintWidget::aHiddenChildPanelEmitsWhenItsHostIsShown()
 
 void tst_PrintWidget::hostOperationsEmitNothing()
 {
-    PrintWidget panel(true, nullptr);
+    PrintPanelFixture panel(true);
     QList<QSharedPointer<QSignalSpy>> spies;
     const QMetaObject* meta = panel.metaObject();
     for (int i = QWidget::staticMetaObject.methodCount(); i < meta->methodCount(); ++i) {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "supplyprobe.h"
+#include "printpanelfixture.h"
 #include "support/stricttest.h"
 
 #include <printpanels/printwidget.h>
@@ -46,17 +46,17 @@ void tst_PrivateSlots::requestSlotsAskForTheRecords_data()
 {
     QTest::addColumn<QByteArray>("slot");
     QTest::addColumn<QByteArray>("signal");
-    QTest::newRow("printSlot") << QByteArray(SLOT(printSlot()))
-                               << QByteArray(SIGNAL(widgetPrintSignal(int, int, QString)));
-    QTest::newRow("printPreviewSlot") << QByteArray(SLOT(printPreviewSlot()))
-                                      << QByteArray(SIGNAL(printPreviewSignal(int, int, QString)));
+    addRow("printSlot", QByteArray(SLOT(printSlot())),
+           QByteArray(SIGNAL(widgetPrintSignal(int, int, QString))));
+    addRow("printPreviewSlot", QByteArray(SLOT(printPreviewSlot())),
+           QByteArray(SIGNAL(printPreviewSignal(int, int, QString))));
 }
 
 void tst_PrivateSlots::requestSlotsAskForTheRecords()
 {
     QFETCH(const QByteArray, slot);
     QFETCH(const QByteArray, signal);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setRangeValues(6, 9, true);
     const QSignalSpy printed(&panel, SIGNAL(widgetPrintSignal(int, int, QString)));
     const QSignalSpy previewed(&panel, SIGNAL(printPreviewSignal(int, int, QString)));
@@ -71,47 +71,47 @@ void tst_PrivateSlots::requestSlotsAskForTheRecords()
 
 void tst_PrivateSlots::recordsRadioChangedSlotEnablesTheListEdit()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     Trigger trigger;
     QVERIFY(connect(&trigger, SIGNAL(pulled()), &panel, SLOT(recordsRadioChangedSlot())));
-    part<QRadioButton>(panel, "recordListRadio")->setChecked(true);
-    QVERIFY(!part<QLineEdit>(panel, "recordListEdit")->isEnabled());
+    panel.part<QRadioButton>("recordListRadio")->setChecked(true);
+    QVERIFY(!panel.part<QLineEdit>("recordListEdit")->isEnabled());
     Q_EMIT trigger.pulled();
-    QVERIFY(part<QLineEdit>(panel, "recordListEdit")->isEnabled());
-    QVERIFY(!part<QFrame>(panel, "nupFrame")->isEnabled());
+    QVERIFY(panel.part<QLineEdit>("recordListEdit")->isEnabled());
+    QVERIFY(!panel.part<QFrame>("nupFrame")->isEnabled());
 }
 
 void tst_PrivateSlots::listRangeChangedParsesTheListAndAppliesTheNupRules()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setRangeValues(0, 9, true);
     Trigger trigger;
     QVERIFY(connect(&trigger, SIGNAL(pulled()), &panel, SLOT(listRangeChanged())));
-    auto* edit = part<QLineEdit>(panel, "recordListEdit");
+    auto* edit = panel.part<QLineEdit>("recordListEdit");
     const QSignalBlocker quiet(edit);
     edit->setText(QStringLiteral("1,4-5"));
-    QVERIFY(!part<QFrame>(panel, "nupFrame")->isEnabled());
+    QVERIFY(!panel.part<QFrame>("nupFrame")->isEnabled());
     Q_EMIT trigger.pulled();
-    QVERIFY(part<QFrame>(panel, "nupFrame")->isEnabled());
-    QCOMPARE(keptRange(panel), qMakePair(1, 10));
+    QVERIFY(panel.part<QFrame>("nupFrame")->isEnabled());
+    QCOMPARE(panel.keptRange(), qMakePair(1, 10));
 }
 
 void tst_PrivateSlots::checkRangeClassifiesWithoutTheNupRules()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setRangeValues(0, 9, true);
     Trigger trigger;
     QVERIFY(connect(&trigger, SIGNAL(pulled()), &panel, SLOT(checkRange())));
-    part<QRadioButton>(panel, "allRecordsRadio")->setChecked(true);
-    QCOMPARE(keptRange(panel), qMakePair(1, 1));
+    panel.part<QRadioButton>("allRecordsRadio")->setChecked(true);
+    QCOMPARE(panel.keptRange(), qMakePair(1, 1));
     Q_EMIT trigger.pulled();
-    QCOMPARE(keptRange(panel), qMakePair(1, 10));
-    QVERIFY(!part<QFrame>(panel, "nupFrame")->isEnabled());
+    QCOMPARE(panel.keptRange(), qMakePair(1, 10));
+    QVERIFY(!panel.part<QFrame>("nupFrame")->isEnabled());
 }
 
 void tst_PrivateSlots::currentPrinterSelectionChangedSlotReportsTheItem()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.updateListOfPrinters({QStringLiteral("Alpha"), QStringLiteral("Beta")}, 0);
     const QSignalSpy changed(&panel, SIGNAL(currentPrinterSelectionChanged(QString)));
     Trigger trigger;
@@ -124,7 +124,7 @@ void tst_PrivateSlots::currentPrinterSelectionChangedSlotReportsTheItem()
 
 void tst_PrivateSlots::ammoniaPrintComboChangedReportsTheTag()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setModule(JxModuleInfo::PipeMarking);
     panel.setVisibleAmmoniaTag(1 | 8);
     const QSignalSpy changed(&panel, SIGNAL(ammoniaPrintTagChanged(int)));
@@ -139,21 +139,19 @@ void tst_PrivateSlots::colorSelectionSlotsReportTheColor_data()
 {
     QTest::addColumn<QByteArray>("slot");
     QTest::addColumn<QStringList>("reported");
-    QTest::newRow("ribbon1ColorSelectionSlot")
-        << QByteArray(SLOT(ribbon1ColorSelectionSlot(QString)))
-        << colors({"#fedb00", "#248d4f", "#ffffff"});
-    QTest::newRow("ribbon2ColorSelectionSlot")
-        << QByteArray(SLOT(ribbon2ColorSelectionSlot(QString)))
-        << colors({"#dc0b0b", "#fedb00", "#ffffff"});
-    QTest::newRow("supplyColorSelectionSlot") << QByteArray(SLOT(supplyColorSelectionSlot(QString)))
-                                              << colors({"#dc0b0b", "#248d4f", "#fedb00"});
+    addRow("ribbon1ColorSelectionSlot", QByteArray(SLOT(ribbon1ColorSelectionSlot(QString))),
+           colors({"#fedb00", "#248d4f", "#ffffff"}));
+    addRow("ribbon2ColorSelectionSlot", QByteArray(SLOT(ribbon2ColorSelectionSlot(QString))),
+           colors({"#dc0b0b", "#fedb00", "#ffffff"}));
+    addRow("supplyColorSelectionSlot", QByteArray(SLOT(supplyColorSelectionSlot(QString))),
+           colors({"#dc0b0b", "#248d4f", "#fedb00"}));
 }
 
 void tst_PrivateSlots::colorSelectionSlotsReportTheColor()
 {
     QFETCH(const QByteArray, slot);
     QFETCH(const QStringList, reported);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.showSupplyInfo(colors({"#dc0b0b", "#248d4f", "#ffffff"}), true, 4.0, 0, false);
     const QSignalSpy changed(&panel, SIGNAL(supplyColorsChangedSignal(QStringList)));
     Trigger trigger;
@@ -161,17 +159,17 @@ void tst_PrivateSlots::colorSelectionSlotsReportTheColor()
     Q_EMIT trigger.named(QStringLiteral("#fedb00"));
     QCOMPARE(changed.size(), 1);
     QCOMPARE(changed.first(), QVariantList{reported});
-    QCOMPARE(tabs(panel).filter(QStringLiteral("#fedb00")).size(), 1);
+    QCOMPARE(panel.tabs().filter(QStringLiteral("#fedb00")).size(), 1);
 }
 
 void tst_PrivateSlots::supplyWidthEditedSlotReportsTheWidth()
 {
-    PrintWidget panel(false, nullptr);
-    showPlainSupply(panel);
+    PrintPanelFixture panel;
+    panel.showPlainSupply();
     const QSignalSpy changed(&panel, SIGNAL(supplyWidthChangedSignal(double)));
     Trigger trigger;
     QVERIFY(connect(&trigger, SIGNAL(pulled()), &panel, SLOT(supplyWidthEditedSlot())));
-    widthEdit(panel)->setText(QStringLiteral("2.25 in"));
+    panel.widthEdit()->setText(QStringLiteral("2.25 in"));
     QCOMPARE(changed.size(), 0);
     Q_EMIT trigger.pulled();
     QCOMPARE(changed.size(), 1);
@@ -180,11 +178,11 @@ void tst_PrivateSlots::supplyWidthEditedSlotReportsTheWidth()
 
 void tst_PrivateSlots::testErrorCodeSlotReportsTheNumber()
 {
-    PrintWidget panel(true, nullptr);
+    PrintPanelFixture panel(true);
     const QSignalSpy asked(&panel, SIGNAL(testPrintError(int)));
     Trigger trigger;
     QVERIFY(connect(&trigger, SIGNAL(pulled()), &panel, SLOT(testErrorCodeSlot())));
-    part<QSpinBox>(panel, "errorNumberSpinBox")->setValue(17);
+    panel.part<QSpinBox>("errorNumberSpinBox")->setValue(17);
     Q_EMIT trigger.pulled();
     QCOMPARE(asked.size(), 1);
     QCOMPARE(asked.first(), QVariantList{17});

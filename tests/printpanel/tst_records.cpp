@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "panelprobe.h"
+#include "printpanelfixture.h"
 #include "support/layoutdescription.h"
 #include "support/stricttest.h"
 
@@ -18,36 +18,7 @@
 
 #include <climits>
 
-namespace {
-
 using Pair = QPair<int, int>;
-
-QLineEdit* listEdit(const PrintWidget& panel)
-{
-    return part<QLineEdit>(panel, "recordListEdit");
-}
-
-QRadioButton* radio(const PrintWidget& panel, const char* name)
-{
-    return part<QRadioButton>(panel, name);
-}
-
-/** The exclusive group of the three radios. */
-QButtonGroup* recordsGroup(const PrintWidget& panel)
-{
-    return radio(panel, "currentRecordRadio")->group();
-}
-
-/** Leaves the group without a checked radio. */
-void uncheckAll(const PrintWidget& panel)
-{
-    recordsGroup(panel)->setExclusive(false);
-    for (const char* name : {"currentRecordRadio", "allRecordsRadio", "recordListRadio"})
-        radio(panel, name)->setChecked(false);
-    recordsGroup(panel)->setExclusive(true);
-}
-
-} // namespace
 
 class tst_Records : public StrictTest
 {
@@ -80,8 +51,8 @@ private Q_SLOTS:
 
 void tst_Records::sectionFromTopToBottom()
 {
-    const PrintWidget panel(false, nullptr);
-    const auto* frame = part<QFrame>(panel, "recordsFrame");
+    const PrintPanelFixture panel;
+    const auto* frame = panel.part<QFrame>("recordsFrame");
     QVERIFY(qobject_cast<QVBoxLayout*>(frame->layout()));
     QCOMPARE(frame->layout()->contentsMargins(), QMargins(0, 0, 0, 0));
     const QStringList expected = {QStringLiteral("separator"),
@@ -98,9 +69,9 @@ void tst_Records::sectionFromTopToBottom()
 
 void tst_Records::caption()
 {
-    const PrintWidget panel(false, nullptr);
+    const PrintPanelFixture panel;
     const auto* label =
-        qobject_cast<QLabel*>(part<QFrame>(panel, "recordsFrame")->layout()->itemAt(2)->widget());
+        qobject_cast<QLabel*>(panel.part<QFrame>("recordsFrame")->layout()->itemAt(2)->widget());
     QCOMPARE(label->text(), QStringLiteral("Records to Print:"));
     QCOMPARE(label->font(), ApplicationFont::getWidgetFont(true));
     QCOMPARE(label->minimumHeight(), 35);
@@ -111,26 +82,26 @@ void tst_Records::radios_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("id");
     QTest::addColumn<bool>("checked");
-    QTest::newRow("currentRecordRadio") << QStringLiteral("Current Record") << 0 << true;
-    QTest::newRow("allRecordsRadio") << QStringLiteral("All Records") << 1 << false;
-    QTest::newRow("recordListRadio") << QStringLiteral("Range or List of Records:") << 2 << false;
+    addRow("currentRecordRadio", "Current Record", 0, true);
+    addRow("allRecordsRadio", "All Records", 1, false);
+    addRow("recordListRadio", "Range or List of Records:", 2, false);
 }
 
 void tst_Records::radios()
 {
-    const PrintWidget panel(false, nullptr);
-    QRadioButton* button = radio(panel, QTest::currentDataTag());
+    const PrintPanelFixture panel;
+    QRadioButton* button = panel.radio(QTest::currentDataTag());
     QTEST(button->text(), "text");
     QCOMPARE(button->minimumHeight(), 35);
     QCOMPARE(button->focusPolicy(), Qt::NoFocus);
     QTEST(button->isChecked(), "checked");
-    QTEST(recordsGroup(panel)->id(button), "id");
+    QTEST(panel.recordsGroup()->id(button), "id");
 }
 
 void tst_Records::group()
 {
-    const PrintWidget panel(false, nullptr);
-    const QButtonGroup* group = recordsGroup(panel);
+    const PrintPanelFixture panel;
+    const QButtonGroup* group = panel.recordsGroup();
     QVERIFY(group);
     QCOMPARE(group->parent(), &panel);
     QVERIFY(group->exclusive());
@@ -140,8 +111,8 @@ void tst_Records::group()
 
 void tst_Records::listEdit()
 {
-    const PrintWidget panel(false, nullptr);
-    const QLineEdit* edit = ::listEdit(panel);
+    const PrintPanelFixture panel;
+    const QLineEdit* edit = panel.listEdit();
     QVERIFY(edit->inherits("JxLineEdit"));
     const auto* validator = qobject_cast<const QRegularExpressionValidator*>(edit->validator());
     QVERIFY(validator);
@@ -163,20 +134,20 @@ void tst_Records::listEdit()
 
 void tst_Records::stateAtConstruction()
 {
-    PrintWidget panel(false, nullptr);
-    QVERIFY(part<QFrame>(panel, "recordsFrame")->isEnabled());
-    QCOMPARE(keptRange(panel), Pair(1, 1));
-    radio(panel, "allRecordsRadio")->click();
-    QCOMPARE(keptRange(panel), Pair(1, 99999));
-    radio(panel, "currentRecordRadio")->click();
-    QCOMPARE(keptRange(panel), Pair(1, 1));
+    PrintPanelFixture panel;
+    QVERIFY(panel.part<QFrame>("recordsFrame")->isEnabled());
+    QCOMPARE(panel.keptRange(), Pair(1, 1));
+    panel.radio("allRecordsRadio")->click();
+    QCOMPARE(panel.keptRange(), Pair(1, 99999));
+    panel.radio("currentRecordRadio")->click();
+    QCOMPARE(panel.keptRange(), Pair(1, 1));
 }
 
 void tst_Records::nupRulesDoNotRunAtConstruction()
 {
-    const PrintWidget panel(false, nullptr);
-    QVERIFY(part<QFrame>(panel, "nupFrame")->isEnabled());
-    QCOMPARE(part<QFrame>(panel, "nupFrame")->toolTip(), QString());
+    const PrintPanelFixture panel;
+    QVERIFY(panel.part<QFrame>("nupFrame")->isEnabled());
+    QCOMPARE(panel.part<QFrame>("nupFrame")->toolTip(), QString());
 }
 
 void tst_Records::setRangeValues_data()
@@ -185,12 +156,12 @@ void tst_Records::setRangeValues_data()
     QTest::addColumn<int>("lastIndex");
     QTest::addColumn<int>("current");
     QTest::addColumn<int>("count");
-    QTest::newRow("one record") << 0 << 0 << 1 << 1;
-    QTest::newRow("third of ten") << 2 << 9 << 3 << 10;
-    QTest::newRow("last of ten") << 9 << 9 << 10 << 10;
-    QTest::newRow("current beyond the last") << 20 << 9 << 21 << 10;
-    QTest::newRow("none") << -1 << -1 << 0 << 0;
-    QTest::newRow("lowest") << INT_MIN << INT_MIN << INT_MIN + 1 << INT_MIN + 1;
+    addRow("one record", 0, 0, 1, 1);
+    addRow("third of ten", 2, 9, 3, 10);
+    addRow("last of ten", 9, 9, 10, 10);
+    addRow("current beyond the last", 20, 9, 21, 10);
+    addRow("none", -1, -1, 0, 0);
+    addRow("lowest", INT_MIN, INT_MIN, INT_MIN + 1, INT_MIN + 1);
 }
 
 void tst_Records::setRangeValues()
@@ -199,85 +170,84 @@ void tst_Records::setRangeValues()
     QFETCH(const int, lastIndex);
     QFETCH(const int, current);
     QFETCH(const int, count);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setRangeValues(currentIndex, lastIndex, true);
-    QCOMPARE(keptRange(panel), Pair(current, current));
-    radio(panel, "allRecordsRadio")->click();
-    QCOMPARE(keptRange(panel), Pair(1, count));
+    QCOMPARE(panel.keptRange(), Pair(current, current));
+    panel.radio("allRecordsRadio")->click();
+    QCOMPARE(panel.keptRange(), Pair(1, count));
 }
 
 void tst_Records::setRangeValuesEnablesAndDisablesTheSection()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setRangeValues(0, 9, false);
-    QVERIFY(!part<QFrame>(panel, "recordsFrame")->isEnabled());
-    QVERIFY(!radio(panel, "allRecordsRadio")->isEnabled());
-    QVERIFY(!part<QFrame>(panel, "nupFrame")->isEnabled());
+    QVERIFY(!panel.part<QFrame>("recordsFrame")->isEnabled());
+    QVERIFY(!panel.radio("allRecordsRadio")->isEnabled());
+    QVERIFY(!panel.part<QFrame>("nupFrame")->isEnabled());
     panel.setRangeValues(0, 9, true);
-    QVERIFY(part<QFrame>(panel, "recordsFrame")->isEnabled());
-    QVERIFY(radio(panel, "allRecordsRadio")->isEnabled());
-    QVERIFY(!::listEdit(panel)->isEnabled());
+    QVERIFY(panel.part<QFrame>("recordsFrame")->isEnabled());
+    QVERIFY(panel.radio("allRecordsRadio")->isEnabled());
+    QVERIFY(!panel.listEdit()->isEnabled());
 }
 
 void tst_Records::updateCurrentRangeIndex_data()
 {
     QTest::addColumn<QByteArray>("checked");
     QTest::addColumn<Pair>("range");
-    QTest::newRow("current record moves both") << QByteArray("currentRecordRadio") << Pair(7, 7);
-    QTest::newRow("all records stay") << QByteArray("allRecordsRadio") << Pair(1, 10);
-    QTest::newRow("empty list is the current record")
-        << QByteArray("recordListRadio") << Pair(7, 7);
+    addRow("current record moves both", QByteArray("currentRecordRadio"), Pair(7, 7));
+    addRow("all records stay", QByteArray("allRecordsRadio"), Pair(1, 10));
+    addRow("empty list is the current record", QByteArray("recordListRadio"), Pair(7, 7));
 }
 
 void tst_Records::updateCurrentRangeIndex()
 {
     QFETCH(const QByteArray, checked);
     QFETCH(const Pair, range);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setRangeValues(0, 9, true);
-    radio(panel, checked.constData())->click();
+    panel.radio(checked.constData())->click();
     panel.updateCurrentRangeIndex(6);
-    QCOMPARE(keptRange(panel), range);
+    QCOMPARE(panel.keptRange(), range);
 }
 
 void tst_Records::updateCurrentRangeIndexLeavesNupAndTheEditAlone()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setRangeValues(0, 9, true);
-    auto* nup = part<QFrame>(panel, "nupFrame");
+    auto* nup = panel.part<QFrame>("nupFrame");
     QVERIFY(!nup->isEnabled());
     const QString toolTip = nup->toolTip();
     nup->setEnabled(true);
-    ::listEdit(panel)->setEnabled(true);
+    panel.listEdit()->setEnabled(true);
     panel.updateCurrentRangeIndex(5);
-    QCOMPARE(keptRange(panel), Pair(6, 6));
+    QCOMPARE(panel.keptRange(), Pair(6, 6));
     QVERIFY(nup->isEnabled());
     QCOMPARE(nup->toolTip(), toolTip);
-    QVERIFY(::listEdit(panel)->isEnabled());
+    QVERIFY(panel.listEdit()->isEnabled());
 }
 
 void tst_Records::listEditIsEnabledByItsRadioOnly()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     QVERIFY(showPanel(panel));
-    QLineEdit* edit = ::listEdit(panel);
-    clickOn(radio(panel, "recordListRadio"));
+    QLineEdit* edit = panel.listEdit();
+    clickOn(panel.radio("recordListRadio"));
     QVERIFY(edit->isEnabled());
-    clickOn(radio(panel, "allRecordsRadio"));
+    clickOn(panel.radio("allRecordsRadio"));
     QVERIFY(!edit->isEnabled());
-    clickOn(radio(panel, "recordListRadio"));
+    clickOn(panel.radio("recordListRadio"));
     QVERIFY(edit->isEnabled());
-    clickOn(radio(panel, "currentRecordRadio"));
+    clickOn(panel.radio("currentRecordRadio"));
     QVERIFY(!edit->isEnabled());
 }
 
 void tst_Records::listEditIsEnabledWhenNoRadioIsChecked()
 {
-    PrintWidget panel(false, nullptr);
-    uncheckAll(panel);
-    QCOMPARE(recordsGroup(panel)->checkedId(), -1);
+    PrintPanelFixture panel;
+    panel.uncheckRecords();
+    QCOMPARE(panel.recordsGroup()->checkedId(), -1);
     QVERIFY(QMetaObject::invokeMethod(&panel, "recordsRadioChangedSlot"));
-    QVERIFY(::listEdit(panel)->isEnabled());
+    QVERIFY(panel.listEdit()->isEnabled());
 }
 
 void tst_Records::typing_data()
@@ -308,25 +278,25 @@ void tst_Records::typing_data()
 void tst_Records::typing()
 {
     QFETCH(const QString, keys);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     QVERIFY(showPanel(panel));
-    clickOn(radio(panel, "recordListRadio"));
-    QTest::keyClicks(::listEdit(panel), keys);
-    QTEST(::listEdit(panel)->text(), "text");
+    clickOn(panel.radio("recordListRadio"));
+    QTest::keyClicks(panel.listEdit(), keys);
+    QTEST(panel.listEdit()->text(), "text");
 }
 
 void tst_Records::textStaysWhenAnotherRadioIsChosen()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     QVERIFY(showPanel(panel));
-    clickOn(radio(panel, "recordListRadio"));
-    QTest::keyClicks(::listEdit(panel), QStringLiteral("1,4-5"));
-    clickOn(radio(panel, "currentRecordRadio"));
-    QCOMPARE(::listEdit(panel)->text(), QStringLiteral("1,4-5"));
-    clickOn(radio(panel, "recordListRadio"));
-    QCOMPARE(::listEdit(panel)->text(), QStringLiteral("1,4-5"));
+    clickOn(panel.radio("recordListRadio"));
+    QTest::keyClicks(panel.listEdit(), QStringLiteral("1,4-5"));
+    clickOn(panel.radio("currentRecordRadio"));
+    QCOMPARE(panel.listEdit()->text(), QStringLiteral("1,4-5"));
+    clickOn(panel.radio("recordListRadio"));
+    QCOMPARE(panel.listEdit()->text(), QStringLiteral("1,4-5"));
     panel.setRangeValues(0, 2, true);
-    QCOMPARE(::listEdit(panel)->text(), QStringLiteral("1,4-5"));
+    QCOMPARE(panel.listEdit()->text(), QStringLiteral("1,4-5"));
 }
 
 QTEST_MAIN(tst_Records)

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "panelprobe.h"
+#include "printpanelfixture.h"
 #include "support/stricttest.h"
 
 #include <printpanels/printwidget.h>
@@ -15,15 +15,16 @@
 namespace {
 
 /** A panel with ten records, the third of which is the current one. */
-void tellTenRecords(PrintWidget& panel)
+void tellTenRecords(PrintPanelFixture& panel)
 {
     panel.setRangeValues(2, 9, true);
 }
 
-QList<QVariantList> pressedRequests(PrintWidget& panel, const char* button, const char* signal)
+QList<QVariantList> pressedRequests(PrintPanelFixture& panel, const char* button,
+                                    const char* signal)
 {
     const QSignalSpy spy(&panel, signal);
-    part<QPushButton>(panel, button)->click();
+    panel.part<QPushButton>(button)->click();
     return spy;
 }
 
@@ -44,7 +45,7 @@ private Q_SLOTS:
 
     void request_data();
     void request();
-    void beforeTheHostTellsTheCurrentRecordItIsOne();
+    void currentRecordIsOneBeforeTheHostSetsIt();
     void requestFollowsTheCurrentRecord();
     void allRecordsFollowsTheHostsCount();
     void allRecordsHandsOutTheKeptPair();
@@ -57,15 +58,15 @@ private Q_SLOTS:
 
 void tst_Requests::buttonsRow()
 {
-    const PrintWidget panel(false, nullptr);
+    const PrintPanelFixture panel;
     auto* grid =
         qobject_cast<QGridLayout*>(panel.layout()->itemAt(panel.layout()->count() - 1)->layout());
     QVERIFY(grid);
     QCOMPARE(grid->count(), 2);
-    QCOMPARE(grid->itemAtPosition(0, 0)->widget(), part<QPushButton>(panel, "PrintButton"));
-    QCOMPARE(grid->itemAtPosition(0, 1)->widget(), part<QPushButton>(panel, "PreviewButton"));
+    QCOMPARE(grid->itemAtPosition(0, 0)->widget(), panel.part<QPushButton>("PrintButton"));
+    QCOMPARE(grid->itemAtPosition(0, 1)->widget(), panel.part<QPushButton>("PreviewButton"));
     for (const char* name : {"PrintButton", "PreviewButton"}) {
-        const auto* button = part<QPushButton>(panel, name);
+        const auto* button = panel.part<QPushButton>(name);
         QVERIFY(button->inherits("DragScrollButton"));
         QCOMPARE(button->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
         QCOMPARE(button->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
@@ -77,14 +78,14 @@ void tst_Requests::buttonsRow()
 
 void tst_Requests::printButton()
 {
-    const PrintWidget panel(false, nullptr);
-    QCOMPARE(part<QPushButton>(panel, "PrintButton")->text(), QStringLiteral(" Print "));
+    const PrintPanelFixture panel;
+    QCOMPARE(panel.part<QPushButton>("PrintButton")->text(), QStringLiteral(" Print "));
 }
 
 void tst_Requests::previewButton()
 {
-    PrintWidget panel(false, nullptr);
-    const auto* button = part<QPushButton>(panel, "PreviewButton");
+    PrintPanelFixture panel;
+    const auto* button = panel.part<QPushButton>("PreviewButton");
     QCOMPARE(button->text(), QStringLiteral("Print Preview"));
     QVERIFY(button->minimumWidth() >= 127);
     QVERIFY(button->testAttribute(Qt::WA_SetStyle));
@@ -100,7 +101,7 @@ void tst_Requests::previewButton()
 
 void tst_Requests::disabledButtonsEmitNothing()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     QCOMPARE(pressedRequests(panel, "PrintButton", printSignal).size(), 0);
     QCOMPARE(pressedRequests(panel, "PreviewButton", previewSignal).size(), 0);
 }
@@ -113,24 +114,16 @@ void tst_Requests::request_data()
     const QByteArray current("currentRecordRadio");
     const QByteArray all("allRecordsRadio");
     const QByteArray list("recordListRadio");
-    QTest::newRow("current record") << current << QString() << Request{3, -1, QString()};
-    QTest::newRow("current record, list typed before")
-        << current << QStringLiteral("1,2") << Request{3, -1, QString()};
-    QTest::newRow("all records") << all << QString() << Request{1, 10, QString()};
-    QTest::newRow("all records, list typed before")
-        << all << QStringLiteral("7") << Request{1, 10, QString()};
-    QTest::newRow("list") << list << QStringLiteral("1,4-5")
-                          << Request{0, 0, QStringLiteral("1,4-5")};
-    QTest::newRow("list of one") << list << QStringLiteral("7")
-                                 << Request{0, 0, QStringLiteral("7")};
-    QTest::newRow("list beyond the last record")
-        << list << QStringLiteral("50") << Request{0, 0, QStringLiteral("50")};
-    QTest::newRow("reversed range")
-        << list << QStringLiteral("9-2") << Request{0, 0, QStringLiteral("9-2")};
-    QTest::newRow("unfinished list")
-        << list << QStringLiteral("4-") << Request{0, 0, QStringLiteral("4-")};
-    QTest::newRow("empty list is the current record")
-        << list << QString() << Request{3, -1, QString()};
+    addRow("current record", current, QString(), Request{3, -1, QString()});
+    addRow("current record, list typed before", current, "1,2", Request{3, -1, QString()});
+    addRow("all records", all, QString(), Request{1, 10, QString()});
+    addRow("all records, list typed before", all, "7", Request{1, 10, QString()});
+    addRow("list", list, "1,4-5", Request{0, 0, QStringLiteral("1,4-5")});
+    addRow("list of one", list, "7", Request{0, 0, QStringLiteral("7")});
+    addRow("list beyond the last record", list, "50", Request{0, 0, QStringLiteral("50")});
+    addRow("reversed range", list, "9-2", Request{0, 0, QStringLiteral("9-2")});
+    addRow("unfinished list", list, "4-", Request{0, 0, QStringLiteral("4-")});
+    addRow("empty list is the current record", list, QString(), Request{3, -1, QString()});
 }
 
 void tst_Requests::request()
@@ -138,12 +131,12 @@ void tst_Requests::request()
     QFETCH(const QByteArray, radio);
     QFETCH(const QString, list);
     QFETCH(const Request, expected);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.enablePrintButtons();
     tellTenRecords(panel);
-    part<QRadioButton>(panel, "recordListRadio")->click();
-    part<QLineEdit>(panel, "recordListEdit")->setText(list);
-    part<QRadioButton>(panel, radio.constData())->click();
+    panel.part<QRadioButton>("recordListRadio")->click();
+    panel.part<QLineEdit>("recordListEdit")->setText(list);
+    panel.part<QRadioButton>(radio.constData())->click();
 
     const QVariantList arguments = {expected.start, expected.end, expected.list};
     QCOMPARE(pressedRequests(panel, "PrintButton", printSignal), QList<QVariantList>{arguments});
@@ -151,23 +144,23 @@ void tst_Requests::request()
              QList<QVariantList>{arguments});
     QCOMPARE(pressedRequests(panel, "PrintButton", previewSignal).size(), 0);
     QCOMPARE(pressedRequests(panel, "PreviewButton", printSignal).size(), 0);
-    QCOMPARE(whatToPrint(panel, {3, -1, QString()}), expected);
+    QCOMPARE(panel.requestFrom({3, -1, QString()}), expected);
 }
 
-void tst_Requests::beforeTheHostTellsTheCurrentRecordItIsOne()
+void tst_Requests::currentRecordIsOneBeforeTheHostSetsIt()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.enablePrintButtons();
     QCOMPARE(pressedRequests(panel, "PrintButton", printSignal),
              QList<QVariantList>{QVariantList({1, -1, QString()})});
-    part<QRadioButton>(panel, "allRecordsRadio")->click();
+    panel.part<QRadioButton>("allRecordsRadio")->click();
     QCOMPARE(pressedRequests(panel, "PrintButton", printSignal),
              QList<QVariantList>{QVariantList({1, 99999, QString()})});
 }
 
 void tst_Requests::requestFollowsTheCurrentRecord()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.enablePrintButtons();
     for (const int index : {0, 6, 41}) {
         panel.updateCurrentRangeIndex(index);
@@ -178,55 +171,55 @@ void tst_Requests::requestFollowsTheCurrentRecord()
 
 void tst_Requests::allRecordsFollowsTheHostsCount()
 {
-    PrintWidget panel(false, nullptr);
-    part<QRadioButton>(panel, "allRecordsRadio")->click();
+    PrintPanelFixture panel;
+    panel.part<QRadioButton>("allRecordsRadio")->click();
     for (const int last : {0, 4, 9998}) {
         panel.setRangeValues(0, last, true);
-        QCOMPARE(whatToPrint(panel, {5, -1, QString()}), (Request{1, last + 1, QString()}));
+        QCOMPARE(panel.requestFrom({5, -1, QString()}), (Request{1, last + 1, QString()}));
     }
 }
 
 // Checked without a click, "All Records" hands out what the last classification kept.
 void tst_Requests::allRecordsHandsOutTheKeptPair()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     tellTenRecords(panel);
-    part<QRadioButton>(panel, "allRecordsRadio")->setChecked(true);
-    QCOMPARE(whatToPrint(panel, {5, -1, QString()}), (Request{3, 3, QString()}));
-    part<QRadioButton>(panel, "allRecordsRadio")->click();
-    QCOMPARE(whatToPrint(panel, {5, -1, QString()}), (Request{1, 10, QString()}));
+    panel.part<QRadioButton>("allRecordsRadio")->setChecked(true);
+    QCOMPARE(panel.requestFrom({5, -1, QString()}), (Request{3, 3, QString()}));
+    panel.part<QRadioButton>("allRecordsRadio")->click();
+    QCOMPARE(panel.requestFrom({5, -1, QString()}), (Request{1, 10, QString()}));
 }
 
 void tst_Requests::whatToPrintLeavesThePresetForTheCurrentRecord()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     tellTenRecords(panel);
     const Request preset{-77, -78, QStringLiteral("preset")};
-    QCOMPARE(whatToPrint(panel, preset), preset);
-    part<QRadioButton>(panel, "recordListRadio")->click();
-    QCOMPARE(whatToPrint(panel, preset), preset);
-    part<QRadioButton>(panel, "allRecordsRadio")->click();
-    QCOMPARE(whatToPrint(panel, preset), (Request{1, 10, QStringLiteral("preset")}));
+    QCOMPARE(panel.requestFrom(preset), preset);
+    panel.part<QRadioButton>("recordListRadio")->click();
+    QCOMPARE(panel.requestFrom(preset), preset);
+    panel.part<QRadioButton>("allRecordsRadio")->click();
+    QCOMPARE(panel.requestFrom(preset), (Request{1, 10, QStringLiteral("preset")}));
 }
 
 void tst_Requests::theListGoesOutAsTyped_data()
 {
     QTest::addColumn<QString>("list");
-    QTest::newRow("repeated") << QStringLiteral("3,3,3");
-    QTest::newRow("unsorted") << QStringLiteral("9,1,4-2");
-    QTest::newRow("only commas") << QStringLiteral(",,");
-    QTest::newRow("set by the host: blanks") << QStringLiteral(" 1 , 2 ");
-    QTest::newRow("set by the host: letters") << QStringLiteral("abc");
-    QTest::newRow("set by the host: long") << QStringLiteral("1,").repeated(10000);
+    addRow("repeated", "3,3,3");
+    addRow("unsorted", "9,1,4-2");
+    addRow("only commas", ",,");
+    addRow("set by the host: blanks", " 1 , 2 ");
+    addRow("set by the host: letters", "abc");
+    addRow("set by the host: long", QStringLiteral("1,").repeated(10000));
 }
 
 void tst_Requests::theListGoesOutAsTyped()
 {
     QFETCH(const QString, list);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.enablePrintButtons();
-    part<QRadioButton>(panel, "recordListRadio")->click();
-    auto* edit = part<QLineEdit>(panel, "recordListEdit");
+    panel.part<QRadioButton>("recordListRadio")->click();
+    auto* edit = panel.part<QLineEdit>("recordListEdit");
     edit->setText(list);
     QCOMPARE(pressedRequests(panel, "PrintButton", printSignal),
              QList<QVariantList>{QVariantList({0, 0, edit->text()})});
@@ -236,15 +229,15 @@ void tst_Requests::theListGoesOutAsTyped()
 
 void tst_Requests::clicksReachTheSlots()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.enablePrintButtons();
     QVERIFY(showPanel(panel));
     const QSignalSpy printed(&panel, printSignal);
     const QSignalSpy previewed(&panel, previewSignal);
-    clickOn(part<QPushButton>(panel, "PrintButton"));
+    clickOn(panel.part<QPushButton>("PrintButton"));
     QCOMPARE(printed.size(), 1);
     QCOMPARE(previewed.size(), 0);
-    clickOn(part<QPushButton>(panel, "PreviewButton"));
+    clickOn(panel.part<QPushButton>("PreviewButton"));
     QCOMPARE(printed.size(), 1);
     QCOMPARE(previewed.size(), 1);
     QCOMPARE(printed.first(), previewed.first());
@@ -252,7 +245,7 @@ void tst_Requests::clicksReachTheSlots()
 
 void tst_Requests::privateSlotsEmitByName()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     const QSignalSpy printed(&panel, printSignal);
     const QSignalSpy previewed(&panel, previewSignal);
     QVERIFY(QMetaObject::invokeMethod(&panel, "printSlot"));

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "supplyprobe.h"
+#include "printpanelfixture.h"
 #include "support/stricttest.h"
 
 #include <colormenu.h>
@@ -15,13 +15,13 @@ class tst_SignalOrder : public StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void tabShowsTheColorWhenTheHostHearsOfIt_data();
-    void tabShowsTheColorWhenTheHostHearsOfIt();
-    void comboToolTipNamesThePrinterWhenTheHostHearsOfIt_data();
-    void comboToolTipNamesThePrinterWhenTheHostHearsOfIt();
+    void tabShowsTheColorWhenTheHostIsNotified_data();
+    void tabShowsTheColorWhenTheHostIsNotified();
+    void comboToolTipNamesThePrinterWhenTheHostIsNotified_data();
+    void comboToolTipNamesThePrinterWhenTheHostIsNotified();
 };
 
-void tst_SignalOrder::tabShowsTheColorWhenTheHostHearsOfIt_data()
+void tst_SignalOrder::tabShowsTheColorWhenTheHostIsNotified_data()
 {
     QTest::addColumn<QStringList>("loaded");
     QTest::addColumn<QByteArray>("menu");
@@ -50,37 +50,37 @@ void tst_SignalOrder::tabShowsTheColorWhenTheHostHearsOfIt_data()
         tabOf(supplyGlyph, "#fedb00", "Supply"));
 }
 
-void tst_SignalOrder::tabShowsTheColorWhenTheHostHearsOfIt()
+void tst_SignalOrder::tabShowsTheColorWhenTheHostIsNotified()
 {
     QFETCH(const QStringList, loaded);
     QFETCH(const QByteArray, menu);
     QFETCH(const QString, color);
     QFETCH(const int, index);
     QFETCH(const QString, expected);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.showSupplyInfo(loaded, loaded.size() == 3, 4.0, 0, false);
-    QVERIFY(tab(panel, index) != expected);
+    QVERIFY(panel.tab(index) != expected);
     QStringList seen;
     connect(&panel, &PrintWidgetInterface::supplyColorsChangedSignal, this,
-            [&] { seen.append(tab(panel, index)); });
-    Q_EMIT colorMenu(panel, menu.constData())->colorSignal(color);
+            [&] { seen.append(panel.tab(index)); });
+    Q_EMIT panel.colorMenu(menu.constData())->colorSignal(color);
     QCOMPARE(seen, QStringList(expected));
 }
 
-void tst_SignalOrder::comboToolTipNamesThePrinterWhenTheHostHearsOfIt_data()
+void tst_SignalOrder::comboToolTipNamesThePrinterWhenTheHostIsNotified_data()
 {
     QTest::addColumn<bool>("bySlot");
-    QTest::newRow("the user moves on") << false;
-    QTest::newRow("the slot is called") << true;
+    addRow("the user moves on", false);
+    addRow("the slot is called", true);
 }
 
-void tst_SignalOrder::comboToolTipNamesThePrinterWhenTheHostHearsOfIt()
+void tst_SignalOrder::comboToolTipNamesThePrinterWhenTheHostIsNotified()
 {
     QFETCH(const bool, bySlot);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.updateListOfPrinters({QStringLiteral("Alpha"), QStringLiteral("Beta")}, 0);
     QVERIFY(showPanel(panel));
-    auto* combo = part<QComboBox>(panel, "PrinterListCombo");
+    auto* combo = panel.part<QComboBox>("PrinterListCombo");
     QStringList seen;
     connect(&panel, &PrintWidgetInterface::currentPrinterSelectionChanged, this,
             [&](const QString& name) {

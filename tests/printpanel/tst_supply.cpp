@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "supplyprobe.h"
+#include "printpanelfixture.h"
 #include "support/layoutdescription.h"
 #include "support/stricttest.h"
 
@@ -19,9 +19,9 @@
 
 namespace {
 
-QFrame* section(const PrintWidget& panel)
+QFrame* section(const PrintPanelFixture& panel)
 {
-    return part<QFrame>(panel, "supplyInfoWidget");
+    return panel.part<QFrame>("supplyInfoWidget");
 }
 
 } // namespace
@@ -59,7 +59,7 @@ private Q_SLOTS:
 
 void tst_Supply::atConstructionTheSectionIsEmptyAndHidden()
 {
-    const PrintWidget panel(false, nullptr);
+    const PrintPanelFixture panel;
     QVERIFY(section(panel)->isHidden());
     QVERIFY(section(panel)->children().isEmpty());
     QVERIFY(!panel.isSupplyInfoVisible());
@@ -68,8 +68,8 @@ void tst_Supply::atConstructionTheSectionIsEmptyAndHidden()
 
 void tst_Supply::sectionFromTopToBottom()
 {
-    PrintWidget panel(false, nullptr);
-    showPlainSupply(panel);
+    PrintPanelFixture panel;
+    panel.showPlainSupply();
     auto* layout = qobject_cast<QVBoxLayout*>(section(panel)->layout());
     QVERIFY(layout);
     QCOMPARE(layout->contentsMargins(), QMargins(0, 0, 0, 0));
@@ -91,37 +91,37 @@ void tst_Supply::sectionFromTopToBottom()
 
 void tst_Supply::tinyLadderCheck()
 {
-    PrintWidget panel(false, nullptr);
-    showPlainSupply(panel);
-    const auto* check = part<QCheckBox>(panel, "tinyLadderCheck");
+    PrintPanelFixture panel;
+    panel.showPlainSupply();
+    const auto* check = panel.part<QCheckBox>("tinyLadderCheck");
     QCOMPARE(check->text(), QStringLiteral("0.2\" Ladder Shrink Tube"));
     QVERIFY(!check->isChecked());
 }
 
 void tst_Supply::tabBarAndStack()
 {
-    PrintWidget panel(false, nullptr);
-    showPlainSupply(panel);
-    const ExpandingTabBar* bar = colorTabs(panel);
+    PrintPanelFixture panel;
+    panel.showPlainSupply();
+    const ExpandingTabBar* bar = panel.colorTabs();
     QCOMPARE(bar->shape(), QTabBar::RoundedNorth);
     QVERIFY(bar->expanding());
     QVERIFY(!bar->usesScrollButtons());
     QCOMPARE(bar->iconSize(), QSize(25, 25));
 
-    auto* group = part<QWidget>(panel, "stackGroup");
+    auto* group = panel.part<QWidget>("stackGroup");
     QVERIFY(group->inherits("DragScrollGroupBox"));
     QCOMPARE(group->toolTip(), QStringLiteral("Select loaded color."));
     QVERIFY(qobject_cast<QVBoxLayout*>(group->layout()));
     QCOMPARE(group->layout()->count(), 1);
-    QCOMPARE(group->layout()->itemAt(0)->widget(), colorStack(panel));
+    QCOMPARE(group->layout()->itemAt(0)->widget(), panel.colorStack());
 }
 
 void tst_Supply::stackGroupPaintsItsSheet()
 {
-    PrintWidget panel(false, nullptr);
-    showPlainSupply(panel);
+    PrintPanelFixture panel;
+    panel.showPlainSupply();
     QVERIFY(showPanel(panel));
-    auto* group = part<QWidget>(panel, "stackGroup");
+    auto* group = panel.part<QWidget>("stackGroup");
     const QImage image = panel.grab().toImage();
     const QPoint inside = group->mapTo(&panel, QPoint(group->width() / 2, group->height() - 4));
     QCOMPARE(image.pixelColor(inside), QColor(0xfa, 0xfa, 0xfa));
@@ -131,38 +131,38 @@ void tst_Supply::stackGroupPaintsItsSheet()
 
 void tst_Supply::createdWithoutShowingItHasTwoRibbons()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.createSupplyInfoLayout();
-    QCOMPARE(::tabs(panel), QStringList({tabOf(ribbonGlyph, "#000000", "Ribbon1"),
-                                         tabOf(ribbonGlyph, "#000000", "Ribbon2"),
-                                         tabOf(supplyGlyph, "#ffffff", "Supply")}));
-    QCOMPARE(stackPages(panel), colors({"ribbon1Menu", "ribbon2Menu", "supplyMenu"}));
+    QCOMPARE(panel.tabs(), QStringList({tabOf(ribbonGlyph, "#000000", "Ribbon1"),
+                                        tabOf(ribbonGlyph, "#000000", "Ribbon2"),
+                                        tabOf(supplyGlyph, "#ffffff", "Supply")}));
+    QCOMPARE(panel.stackPages(), colors({"ribbon1Menu", "ribbon2Menu", "supplyMenu"}));
     QVERIFY(!panel.isSupplyInfoVisible());
     QVERIFY(section(panel)->isHidden());
-    QCOMPARE(::widthEdit(panel)->text(), QString());
-    QCOMPARE(selectedColor(colorMenu(panel, "ribbon1Menu")), QStringLiteral("#000000"));
-    QCOMPARE(selectedColor(colorMenu(panel, "ribbon2Menu")), QStringLiteral("#000000"));
-    QCOMPARE(selectedColor(colorMenu(panel, "supplyMenu")), QStringLiteral("#ffffff"));
+    QCOMPARE(panel.widthEdit()->text(), QString());
+    QCOMPARE(selectedColor(panel.colorMenu("ribbon1Menu")), QStringLiteral("#000000"));
+    QCOMPARE(selectedColor(panel.colorMenu("ribbon2Menu")), QStringLiteral("#000000"));
+    QCOMPARE(selectedColor(panel.colorMenu("supplyMenu")), QStringLiteral("#ffffff"));
 }
 
 void tst_Supply::createSupplyInfoLayoutTwiceBuildsOnce()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.createSupplyInfoLayout();
     const QStringList once = stateOf(panel);
     panel.createSupplyInfoLayout();
     QCOMPARE(stateOf(panel), once);
-    showPlainSupply(panel);
-    QCOMPARE(::tabs(panel).size(), 2);
+    panel.showPlainSupply();
+    QCOMPARE(panel.tabs().size(), 2);
 }
 
 void tst_Supply::visibilityFollowsShowAndHide()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.hideSupplyInfo();
     QVERIFY(!panel.isSupplyInfoVisible());
     for (int i = 0; i < 2; ++i) {
-        showPlainSupply(panel);
+        panel.showPlainSupply();
         QVERIFY(panel.isSupplyInfoVisible());
         QVERIFY(!section(panel)->isHidden());
         panel.hideSupplyInfo();
@@ -170,48 +170,48 @@ void tst_Supply::visibilityFollowsShowAndHide()
         QVERIFY(section(panel)->isHidden());
     }
     // What is told, not what is on the screen.
-    showPlainSupply(panel);
+    panel.showPlainSupply();
     QVERIFY(!panel.isVisible());
     QVERIFY(panel.isSupplyInfoVisible());
 }
 
 void tst_Supply::hideKeepsEverything()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.showSupplyInfo(colors({"#dc0b0b", "#248d4f", "#fffffe"}), true, 2.5, 1, true);
-    part<QCheckBox>(panel, "tinyLadderCheck")->setChecked(true);
-    const QStringList before = ::tabs(panel);
+    panel.part<QCheckBox>("tinyLadderCheck")->setChecked(true);
+    const QStringList before = panel.tabs();
     panel.hideSupplyInfo();
-    QCOMPARE(::tabs(panel), before);
-    QCOMPARE(::widthEdit(panel)->text(), QStringLiteral("2.50"));
+    QCOMPARE(panel.tabs(), before);
+    QCOMPARE(panel.widthEdit()->text(), QStringLiteral("2.50"));
     QVERIFY(panel.isTinySupply());
 }
 
 void tst_Supply::showTinyLadder_data()
 {
     QTest::addColumn<bool>("shown");
-    QTest::newRow("shown") << true;
-    QTest::newRow("hidden") << false;
+    addRow("shown", true);
+    addRow("hidden", false);
 }
 
 void tst_Supply::showTinyLadder()
 {
     QFETCH(const bool, shown);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     for (const bool before : {false, true}) {
         panel.showSupplyInfo(colors({"#000000"}), false, 4.0, 0, before);
         panel.showSupplyInfo(colors({"#000000"}), false, 4.0, 0, shown);
-        QCOMPARE(!part<QCheckBox>(panel, "tinyLadderCheck")->isHidden(), shown);
+        QCOMPARE(!panel.part<QCheckBox>("tinyLadderCheck")->isHidden(), shown);
     }
 }
 
 void tst_Supply::tinySupply()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     QVERIFY(!panel.isTinySupply());
-    showPlainSupply(panel);
+    panel.showPlainSupply();
     QVERIFY(!panel.isTinySupply());
-    auto* check = part<QCheckBox>(panel, "tinyLadderCheck");
+    auto* check = panel.part<QCheckBox>("tinyLadderCheck");
     check->setChecked(true);
     QVERIFY(panel.isTinySupply());
     panel.showSupplyInfo(colors({"#000000"}), false, 4.0, 0, false);
@@ -222,11 +222,11 @@ void tst_Supply::tinySupply()
 
 void tst_Supply::tinyLadderClickIsReported()
 {
-    PrintWidget panel(false, nullptr);
-    showPlainSupply(panel);
+    PrintPanelFixture panel;
+    panel.showPlainSupply();
     QVERIFY(showPanel(panel));
     QSignalSpy changed(&panel, SIGNAL(tinyLadderSupplyChangedSignal(bool)));
-    auto* check = part<QCheckBox>(panel, "tinyLadderCheck");
+    auto* check = panel.part<QCheckBox>("tinyLadderCheck");
     clickOn(check);
     QCOMPARE(changed.size(), 1);
     QCOMPARE(changed.takeFirst(), QVariantList{true});
@@ -286,116 +286,115 @@ void tst_Supply::tabs()
     QFETCH(const QStringList, expected);
     // On a new panel, after one ribbon and after two: the answer is the same.
     for (const int before : {0, 1, 2}) {
-        PrintWidget panel(false, nullptr);
+        PrintPanelFixture panel;
         if (before > 0)
             panel.showSupplyInfo(colors({"#0018a8", "#0018a8", "#0018a8"}), before == 2, 1.0, 0,
                                  false);
         panel.showSupplyInfo(loaded, twoRibbons, 4.0, 0, false);
-        QCOMPARE(::tabs(panel), expected);
-        QCOMPARE(stackPages(panel), twoRibbons
-                                        ? colors({"ribbon1Menu", "ribbon2Menu", "supplyMenu"})
-                                        : colors({"ribbon1Menu", "supplyMenu"}));
+        QCOMPARE(panel.tabs(), expected);
+        QCOMPARE(panel.stackPages(), twoRibbons
+                                         ? colors({"ribbon1Menu", "ribbon2Menu", "supplyMenu"})
+                                         : colors({"ribbon1Menu", "supplyMenu"}));
     }
 }
 
 void tst_Supply::ribbonTransitions_data()
 {
     QTest::addColumn<QList<bool>>("steps");
-    QTest::newRow("first call with one") << QList<bool>{false};
-    QTest::newRow("first call with two") << QList<bool>{true};
-    QTest::newRow("one, two") << QList<bool>{false, true};
-    QTest::newRow("two, one") << QList<bool>{true, false};
-    QTest::newRow("two, one, two") << QList<bool>{true, false, true};
-    QTest::newRow("back and forth")
-        << QList<bool>{false, true, false, true, false, false, true, true};
+    addRow("first call with one", QList<bool>{false});
+    addRow("first call with two", QList<bool>{true});
+    addRow("one, two", QList<bool>{false, true});
+    addRow("two, one", QList<bool>{true, false});
+    addRow("two, one, two", QList<bool>{true, false, true});
+    addRow("back and forth", QList<bool>{false, true, false, true, false, false, true, true});
 }
 
 void tst_Supply::ribbonTransitions()
 {
     QFETCH(const QList<bool>, steps);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     for (const bool two : steps) {
         panel.showSupplyInfo(colors({"#dc0b0b", "#248d4f", "#ffffff"}), two, 4.0, 0, false);
-        QCOMPARE(colorTabs(panel)->count(), two ? 3 : 2);
-        QCOMPARE(colorStack(panel)->count(), two ? 3 : 2);
-        QCOMPARE(tab(panel, two ? 2 : 1), tabOf(supplyGlyph, "#ffffff", "Supply"));
+        QCOMPARE(panel.colorTabs()->count(), two ? 3 : 2);
+        QCOMPARE(panel.colorStack()->count(), two ? 3 : 2);
+        QCOMPARE(panel.tab(two ? 2 : 1), tabOf(supplyGlyph, "#ffffff", "Supply"));
         // A user's choice for the supply lands on the supply's tab.
-        Q_EMIT colorMenu(panel, "supplyMenu")->colorSignal(QStringLiteral("#fedb00"));
-        QCOMPARE(tab(panel, two ? 2 : 1), tabOf(supplyGlyph, "#fedb00", "Supply"));
-        QCOMPARE(tab(panel, 0), tabOf(ribbonGlyph, "#dc0b0b", "Ribbon1"));
+        Q_EMIT panel.colorMenu("supplyMenu")->colorSignal(QStringLiteral("#fedb00"));
+        QCOMPARE(panel.tab(two ? 2 : 1), tabOf(supplyGlyph, "#fedb00", "Supply"));
+        QCOMPARE(panel.tab(0), tabOf(ribbonGlyph, "#dc0b0b", "Ribbon1"));
     }
 }
 
 void tst_Supply::transparentEntryOfRibbonOneFollowsTheSecondRibbon()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     const QString transparent = QStringLiteral("transparent");
     panel.createSupplyInfoLayout();
-    QVERIFY(shownColors(colorMenu(panel, "ribbon1Menu")).contains(transparent));
+    QVERIFY(shownColors(panel.colorMenu("ribbon1Menu")).contains(transparent));
     for (const bool two : {false, true, false, true}) {
         panel.showSupplyInfo(colors({"#000000", "#ffffff"}), two, 4.0, 0, false);
-        QCOMPARE(shownColors(colorMenu(panel, "ribbon1Menu")).contains(transparent), two);
-        QVERIFY(shownColors(colorMenu(panel, "ribbon2Menu")).contains(transparent));
-        QVERIFY(shownColors(colorMenu(panel, "supplyMenu")).contains(transparent));
+        QCOMPARE(shownColors(panel.colorMenu("ribbon1Menu")).contains(transparent), two);
+        QVERIFY(shownColors(panel.colorMenu("ribbon2Menu")).contains(transparent));
+        QVERIFY(shownColors(panel.colorMenu("supplyMenu")).contains(transparent));
     }
 }
 
 void tst_Supply::tabDrivesTheStack()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.showSupplyInfo(colors({"#dc0b0b", "#248d4f", "#ffffff"}), true, 4.0, 0, false);
     QVERIFY(showPanel(panel));
     for (const int index : {1, 2, 0, 2, 1}) {
-        QTest::mouseClick(colorTabs(panel), Qt::LeftButton, Qt::NoModifier,
-                          colorTabs(panel)->tabRect(index).center());
-        QCOMPARE(colorTabs(panel)->currentIndex(), index);
-        QCOMPARE(colorStack(panel)->currentIndex(), index);
+        QTest::mouseClick(panel.colorTabs(), Qt::LeftButton, Qt::NoModifier,
+                          panel.colorTabs()->tabRect(index).center());
+        QCOMPARE(panel.colorTabs()->currentIndex(), index);
+        QCOMPARE(panel.colorStack()->currentIndex(), index);
     }
-    QVERIFY(colorMenu(panel, "ribbon2Menu")->isVisible());
-    QVERIFY(!colorMenu(panel, "supplyMenu")->isVisible());
+    QVERIFY(panel.colorMenu("ribbon2Menu")->isVisible());
+    QVERIFY(!panel.colorMenu("supplyMenu")->isVisible());
 }
 
 void tst_Supply::currentTabAndPageStayTogether_data()
 {
     QTest::addColumn<int>("current");
-    QTest::newRow("ribbon 1") << 0;
-    QTest::newRow("ribbon 2") << 1;
-    QTest::newRow("supply") << 2;
-    QTest::newRow("a menu of the host's") << 3;
+    addRow("ribbon 1", 0);
+    addRow("ribbon 2", 1);
+    addRow("supply", 2);
+    addRow("a menu of the host's", 3);
 }
 
 void tst_Supply::currentTabAndPageStayTogether()
 {
     QFETCH(const int, current);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     const QStringList loaded = colors({"#dc0b0b", "#248d4f", "#ffffff"});
     panel.showSupplyInfo(loaded, true, 4.0, 0, false);
     if (current == 3)
         panel.addMenuToStack(3, loaded.at(0), QStringLiteral("T"), QString(), new ColorMenu);
-    colorTabs(panel)->setCurrentIndex(current);
+    panel.colorTabs()->setCurrentIndex(current);
     for (const bool two : {false, true, false, false, true, true}) {
         panel.showSupplyInfo(loaded, two, 4.0, 0, false);
-        const int index = colorTabs(panel)->currentIndex();
+        const int index = panel.colorTabs()->currentIndex();
         QVERIFY(index >= 0);
-        QCOMPARE(colorStack(panel)->currentIndex(), index);
-        const bool supply = colorTabs(panel)->tabText(index) == supplyGlyph;
-        QCOMPARE(colorStack(panel)->currentWidget()->objectName() == QStringLiteral("supplyMenu"),
+        QCOMPARE(panel.colorStack()->currentIndex(), index);
+        const bool supply = panel.colorTabs()->tabText(index) == supplyGlyph;
+        QCOMPARE(panel.colorStack()->currentWidget()->objectName() == QStringLiteral("supplyMenu"),
                  supply);
     }
 }
 
 void tst_Supply::menusMarkTheColours()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.showSupplyInfo(colors({"#dc0b0b", "#248d4f", "#ffffff"}), true, 4.0, 0, false);
-    QCOMPARE(selectedColor(colorMenu(panel, "ribbon1Menu")), QStringLiteral("#dc0b0b"));
-    QCOMPARE(selectedColor(colorMenu(panel, "ribbon2Menu")), QStringLiteral("#248d4f"));
-    QCOMPARE(selectedColor(colorMenu(panel, "supplyMenu")), QStringLiteral("#ffffff"));
+    QCOMPARE(selectedColor(panel.colorMenu("ribbon1Menu")), QStringLiteral("#dc0b0b"));
+    QCOMPARE(selectedColor(panel.colorMenu("ribbon2Menu")), QStringLiteral("#248d4f"));
+    QCOMPARE(selectedColor(panel.colorMenu("supplyMenu")), QStringLiteral("#ffffff"));
     // "blank" is no entry of a ribbon menu, "transparent" is one of the supply menu.
     panel.showSupplyInfo(colors({"#fffffe", "#fffffe", "#fffffe"}), true, 4.0, 0, false);
-    QCOMPARE(selectedColor(colorMenu(panel, "ribbon1Menu")), QString());
-    QCOMPARE(selectedColor(colorMenu(panel, "ribbon2Menu")), QString());
-    QCOMPARE(selectedColor(colorMenu(panel, "supplyMenu")), QStringLiteral("transparent"));
+    QCOMPARE(selectedColor(panel.colorMenu("ribbon1Menu")), QString());
+    QCOMPARE(selectedColor(panel.colorMenu("ribbon2Menu")), QString());
+    QCOMPARE(selectedColor(panel.colorMenu("supplyMenu")), QStringLiteral("transparent"));
 }
 
 QTEST_MAIN(tst_Supply)

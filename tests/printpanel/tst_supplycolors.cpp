@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "supplyprobe.h"
+#include "printpanelfixture.h"
 #include "support/stricttest.h"
 
 #include <colormenu.h>
@@ -18,16 +18,16 @@ namespace {
 const char* const colorsSignal = SIGNAL(supplyColorsChangedSignal(QStringList));
 
 /** Two ribbons, red and green, and a white supply. */
-void showTwoRibbons(PrintWidget& panel)
+void showTwoRibbons(PrintPanelFixture& panel)
 {
     panel.showSupplyInfo(colors({"#dc0b0b", "#248d4f", "#ffffff"}), true, 4.0, 0, false);
 }
 
 /** The lists that the panel reports when a menu's user picks a colour. */
-QList<QStringList> reportedAfter(PrintWidget& panel, const char* menu, const char* color)
+QList<QStringList> reportedAfter(PrintPanelFixture& panel, const char* menu, const char* color)
 {
     const QSignalSpy spy(&panel, colorsSignal);
-    Q_EMIT colorMenu(panel, menu)->colorSignal(QString::fromLatin1(color));
+    Q_EMIT panel.colorMenu(menu)->colorSignal(QString::fromLatin1(color));
     QList<QStringList> lists;
     for (const QVariantList& arguments : spy)
         lists.append(arguments.first().toStringList());
@@ -83,81 +83,81 @@ private Q_SLOTS:
 
 void tst_SupplyColors::defaultPalettes()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     showTwoRibbons(panel);
-    QCOMPARE(shownColors(colorMenu(panel, "ribbon1Menu")), defaultRibbonPalette);
-    QCOMPARE(shownColors(colorMenu(panel, "ribbon2Menu")), defaultRibbonPalette);
-    QCOMPARE(shownColors(colorMenu(panel, "supplyMenu")), defaultSupplyPalette);
+    QCOMPARE(shownColors(panel.colorMenu("ribbon1Menu")), defaultRibbonPalette);
+    QCOMPARE(shownColors(panel.colorMenu("ribbon2Menu")), defaultRibbonPalette);
+    QCOMPARE(shownColors(panel.colorMenu("supplyMenu")), defaultSupplyPalette);
 }
 
 void tst_SupplyColors::setColorPaletteReplacesThem()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     showTwoRibbons(panel);
     const QStringList ribbons = colors({"#a0a0a0", "#123456", "transparent"});
     const QStringList supplies = colors({"#654321"});
     panel.setColorPalette(ribbons, supplies);
-    QCOMPARE(shownColors(colorMenu(panel, "ribbon1Menu")), ribbons);
-    QCOMPARE(shownColors(colorMenu(panel, "ribbon2Menu")), ribbons);
-    QCOMPARE(shownColors(colorMenu(panel, "supplyMenu")), supplies);
+    QCOMPARE(shownColors(panel.colorMenu("ribbon1Menu")), ribbons);
+    QCOMPARE(shownColors(panel.colorMenu("ribbon2Menu")), ribbons);
+    QCOMPARE(shownColors(panel.colorMenu("supplyMenu")), supplies);
     // The palette stays when the printer reports again.
     showTwoRibbons(panel);
-    QCOMPARE(shownColors(colorMenu(panel, "ribbon1Menu")), ribbons);
+    QCOMPARE(shownColors(panel.colorMenu("ribbon1Menu")), ribbons);
 }
 
 void tst_SupplyColors::setColorPaletteBeforeTheSectionExistsIsKept()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     const QStringList ribbons = colors({"#a0a0a0", "transparent"});
     const QStringList supplies = colors({"#654321", "#ffffff"});
     const QStringList before = stateOf(panel);
     panel.setColorPalette(ribbons, supplies);
     QCOMPARE(stateOf(panel), before);
     showTwoRibbons(panel);
-    QCOMPARE(shownColors(colorMenu(panel, "ribbon1Menu")), ribbons);
-    QCOMPARE(shownColors(colorMenu(panel, "ribbon2Menu")), ribbons);
-    QCOMPARE(shownColors(colorMenu(panel, "supplyMenu")), supplies);
-    QCOMPARE(selectedColor(colorMenu(panel, "supplyMenu")), QStringLiteral("#ffffff"));
+    QCOMPARE(shownColors(panel.colorMenu("ribbon1Menu")), ribbons);
+    QCOMPARE(shownColors(panel.colorMenu("ribbon2Menu")), ribbons);
+    QCOMPARE(shownColors(panel.colorMenu("supplyMenu")), supplies);
+    QCOMPARE(selectedColor(panel.colorMenu("supplyMenu")), QStringLiteral("#ffffff"));
 }
 
 void tst_SupplyColors::theLastKeptPaletteCounts()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setColorPalette(colors({"#111111"}), colors({"#222222"}));
     panel.setColorPalette(colors({"#333333"}), colors({"#444444"}));
     panel.createSupplyInfoLayout();
-    QCOMPARE(shownColors(colorMenu(panel, "ribbon1Menu")), colors({"#333333"}));
-    QCOMPARE(shownColors(colorMenu(panel, "supplyMenu")), colors({"#444444"}));
+    QCOMPARE(shownColors(panel.colorMenu("ribbon1Menu")), colors({"#333333"}));
+    QCOMPARE(shownColors(panel.colorMenu("supplyMenu")), colors({"#444444"}));
 }
 
 void tst_SupplyColors::emptyPalettesOfferNothing()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     showTwoRibbons(panel);
     panel.setColorPalette({}, {});
     for (const char* name : {"ribbon1Menu", "ribbon2Menu", "supplyMenu"})
-        QCOMPARE(shownColors(colorMenu(panel, name)), QStringList());
+        QCOMPARE(shownColors(panel.colorMenu(name)), QStringList());
     QVERIFY(showPanel(panel));
 }
 
 void tst_SupplyColors::emptyPalettesBeforeTheSectionExists()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.setColorPalette({}, colors({"#222222"}));
     showTwoRibbons(panel);
-    QCOMPARE(shownColors(colorMenu(panel, "ribbon1Menu")), QStringList());
-    QCOMPARE(shownColors(colorMenu(panel, "supplyMenu")), colors({"#222222"}));
+    QCOMPARE(shownColors(panel.colorMenu("ribbon1Menu")), QStringList());
+    QCOMPARE(shownColors(panel.colorMenu("supplyMenu")), colors({"#222222"}));
 }
 
 void tst_SupplyColors::setColorPaletteEmitsNothing()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     showTwoRibbons(panel);
     const QSignalSpy spy(&panel, colorsSignal);
     panel.setColorPalette(colors({"#111111"}), colors({"#222222"}));
     panel.setColorPalette({}, {});
     QCOMPARE(spy.size(), 0);
-    QCOMPARE(tabs(panel).first(), tabOf(ribbonGlyph, "#dc0b0b", "Ribbon1"));
+    QCOMPARE(panel.tabs().first(), tabOf(ribbonGlyph, "#dc0b0b", "Ribbon1"));
 }
 
 void tst_SupplyColors::pick_data()
@@ -207,13 +207,13 @@ void tst_SupplyColors::pick()
     QFETCH(const QByteArray, color);
     QFETCH(const QList<QStringList>, reported);
     QFETCH(const int, index);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     showTwoRibbons(panel);
-    QStringList expectedTabs = tabs(panel);
+    QStringList expectedTabs = panel.tabs();
     QCOMPARE(reportedAfter(panel, menu.constData(), color.constData()), reported);
-    QTEST(tab(panel, index), "tabAfter");
-    expectedTabs[index] = tab(panel, index);
-    QCOMPARE(tabs(panel), expectedTabs);
+    QTEST(panel.tab(index), "tabAfter");
+    expectedTabs[index] = panel.tab(index);
+    QCOMPARE(panel.tabs(), expectedTabs);
 }
 
 void tst_SupplyColors::pickingTransparentForABlankRibbonReportsAgain_data()
@@ -221,8 +221,8 @@ void tst_SupplyColors::pickingTransparentForABlankRibbonReportsAgain_data()
     QTest::addColumn<QByteArray>("menu");
     QTest::addColumn<int>("index");
     QTest::addColumn<QString>("toolTip");
-    QTest::newRow("ribbon 1") << QByteArray("ribbon1Menu") << 0 << QStringLiteral("Blank Ribbon1");
-    QTest::newRow("ribbon 2") << QByteArray("ribbon2Menu") << 1 << QStringLiteral("Blank Ribbon2");
+    addRow("ribbon 1", QByteArray("ribbon1Menu"), 0, "Blank Ribbon1");
+    addRow("ribbon 2", QByteArray("ribbon2Menu"), 1, "Blank Ribbon2");
 }
 
 void tst_SupplyColors::pickingTransparentForABlankRibbonReportsAgain()
@@ -230,42 +230,42 @@ void tst_SupplyColors::pickingTransparentForABlankRibbonReportsAgain()
     QFETCH(const QByteArray, menu);
     QFETCH(const int, index);
     QFETCH(const QString, toolTip);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.showSupplyInfo(colors({"#fffffe", "#fffffe", "#ffffff"}), true, 4.0, 0, false);
     const QList<QStringList> expected{colors({"#fffffe", "#fffffe", "#ffffff"})};
     for (int i = 0; i < 2; ++i) {
-        colorTabs(panel)->setTabText(index, QStringLiteral("spoilt"));
+        panel.colorTabs()->setTabText(index, QStringLiteral("spoilt"));
         QCOMPARE(reportedAfter(panel, menu.constData(), "transparent"), expected);
-        QCOMPARE(tab(panel, index), tabOf(blankGlyph, "blank", toolTip.toLatin1().constData()));
+        QCOMPARE(panel.tab(index), tabOf(blankGlyph, "blank", toolTip.toLatin1().constData()));
     }
 }
 
 void tst_SupplyColors::pickingTransparentForAClearSupplyReportsNothing()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.showSupplyInfo(colors({"#dc0b0b", "#fffffe"}), false, 4.0, 0, false);
     QCOMPARE(reportedAfter(panel, "supplyMenu", "transparent"), QList<QStringList>());
     QCOMPARE(reportedAfter(panel, "supplyMenu", "#fffffe"), QList<QStringList>());
-    QCOMPARE(tab(panel, 1), tabOf(supplyGlyph, "transparent", "Supply"));
+    QCOMPARE(panel.tab(1), tabOf(supplyGlyph, "transparent", "Supply"));
 }
 
 void tst_SupplyColors::theOffWhiteCodeItselfCounts()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     showTwoRibbons(panel);
     // Not the word "transparent", so it is a colour like any other on a ribbon's tab.
     QCOMPARE(reportedAfter(panel, "ribbon1Menu", "#fffffe"),
              QList<QStringList>{colors({"#fffffe", "#248d4f", "#ffffff"})});
-    QCOMPARE(tab(panel, 0), tabOf(ribbonGlyph, "#fffffe", "Ribbon1"));
+    QCOMPARE(panel.tab(0), tabOf(ribbonGlyph, "#fffffe", "Ribbon1"));
     QCOMPARE(reportedAfter(panel, "ribbon1Menu", "#fffffe"), QList<QStringList>());
     QCOMPARE(reportedAfter(panel, "supplyMenu", "#fffffe"),
              QList<QStringList>{colors({"#fffffe", "#248d4f", "#fffffe"})});
-    QCOMPARE(tab(panel, 2), tabOf(supplyGlyph, "#fffffe", "Supply"));
+    QCOMPARE(panel.tab(2), tabOf(supplyGlyph, "#fffffe", "Supply"));
 }
 
 void tst_SupplyColors::oneRibbonReportsAnEmptySecondEntry()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.showSupplyInfo(colors({"#dc0b0b", "#ffffff"}), false, 4.0, 0, false);
     QCOMPARE(reportedAfter(panel, "supplyMenu", "#fedb00"),
              QList<QStringList>{colors({"#dc0b0b", "", "#fedb00"})});
@@ -275,12 +275,12 @@ void tst_SupplyColors::oneRibbonReportsAnEmptySecondEntry()
 
 void tst_SupplyColors::theSecondRibbonComesBackWithItsColour()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.showSupplyInfo(colors({"#dc0b0b", "#ffffff"}), false, 4.0, 0, false);
     showTwoRibbons(panel);
     QCOMPARE(reportedAfter(panel, "ribbon2Menu", "#000000"),
              QList<QStringList>{colors({"#dc0b0b", "#000000", "#ffffff"})});
-    QCOMPARE(tab(panel, 1), tabOf(ribbonGlyph, "#000000", "Ribbon2"));
+    QCOMPARE(panel.tab(1), tabOf(ribbonGlyph, "#000000", "Ribbon2"));
     panel.showSupplyInfo(colors({"#dc0b0b", "#fffffe", "#ffffff"}), true, 4.0, 0, false);
     QCOMPARE(reportedAfter(panel, "supplyMenu", "#fedb00"),
              QList<QStringList>{colors({"#dc0b0b", "#fffffe", "#fedb00"})});
@@ -288,34 +288,34 @@ void tst_SupplyColors::theSecondRibbonComesBackWithItsColour()
 
 void tst_SupplyColors::clickOnASwatchReachesTheHost()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     showTwoRibbons(panel);
     QVERIFY(showPanel(panel));
-    colorTabs(panel)->setCurrentIndex(2);
+    panel.colorTabs()->setCurrentIndex(2);
     const QSignalSpy spy(&panel, colorsSignal);
     auto* swatch =
-        colorMenu(panel, "supplyMenu")->findChild<QAbstractButton*>(QStringLiteral("#7238ab"));
+        panel.colorMenu("supplyMenu")->findChild<QAbstractButton*>(QStringLiteral("#7238ab"));
     QVERIFY(swatch && swatch->isVisible());
     QTest::mouseClick(swatch, Qt::LeftButton);
     QCOMPARE(spy.size(), 1);
     QCOMPARE(spy.first().first().toStringList(), colors({"#dc0b0b", "#248d4f", "#7238ab"}));
-    QCOMPARE(tab(panel, 2), tabOf(supplyGlyph, "#7238ab", "Supply"));
-    QCOMPARE(selectedColor(colorMenu(panel, "supplyMenu")), QStringLiteral("#7238ab"));
+    QCOMPARE(panel.tab(2), tabOf(supplyGlyph, "#7238ab", "Supply"));
+    QCOMPARE(selectedColor(panel.colorMenu("supplyMenu")), QStringLiteral("#7238ab"));
 }
 
 void tst_SupplyColors::slotsDoNotTouchTheMenusSelection()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     showTwoRibbons(panel);
     reportedAfter(panel, "ribbon1Menu", "#000000");
     reportedAfter(panel, "supplyMenu", "#000000");
-    QCOMPARE(selectedColor(colorMenu(panel, "ribbon1Menu")), QStringLiteral("#dc0b0b"));
-    QCOMPARE(selectedColor(colorMenu(panel, "supplyMenu")), QStringLiteral("#ffffff"));
+    QCOMPARE(selectedColor(panel.colorMenu("ribbon1Menu")), QStringLiteral("#dc0b0b"));
+    QCOMPARE(selectedColor(panel.colorMenu("supplyMenu")), QStringLiteral("#ffffff"));
 }
 
 void tst_SupplyColors::everyMenuIsConnectedOnce()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     for (const bool two : {true, false, true})
         panel.showSupplyInfo(colors({"#fffffe", "#fffffe", "#ffffff"}), two, 4.0, 0, false);
     // A blank ribbon reports at every "transparent", so that a double connection shows.
@@ -335,73 +335,73 @@ void tst_SupplyColors::slotsBeforeTheSectionExistsDoNothing_data()
 void tst_SupplyColors::slotsBeforeTheSectionExistsDoNothing()
 {
     QFETCH(const QByteArray, slot);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     for (const char* color : {"#000000", "transparent", ""})
         QVERIFY(QMetaObject::invokeMethod(&panel, slot.constData(),
                                           Q_ARG(QString, QString::fromLatin1(color))));
     panel.createSupplyInfoLayout();
-    QCOMPARE(tabs(panel).size(), 3);
+    QCOMPARE(panel.tabs().size(), 3);
     QVERIFY(QMetaObject::invokeMethod(&panel, slot.constData(),
                                       Q_ARG(QString, QStringLiteral("#fedb00"))));
-    QCOMPARE(tabs(panel).filter(QStringLiteral("#fedb00")).size(), 1);
+    QCOMPARE(panel.tabs().filter(QStringLiteral("#fedb00")).size(), 1);
 }
 
 void tst_SupplyColors::addMenuToStack()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     showTwoRibbons(panel);
     auto* menu = new ColorMenu(nullptr);
     menu->setObjectName(QStringLiteral("fourth"));
     menu->setColorPalette(colors({"#111111", "#222222"}), {});
     panel.addMenuToStack(1, QStringLiteral("#222222"), QStringLiteral("T"), QStringLiteral("tip"),
                          menu);
-    QCOMPARE(tab(panel, 1), tabOf(QStringLiteral("T"), "#222222", "tip"));
-    QCOMPARE(stackPages(panel), colors({"ribbon1Menu", "fourth", "ribbon2Menu", "supplyMenu"}));
+    QCOMPARE(panel.tab(1), tabOf(QStringLiteral("T"), "#222222", "tip"));
+    QCOMPARE(panel.stackPages(), colors({"ribbon1Menu", "fourth", "ribbon2Menu", "supplyMenu"}));
     QCOMPARE(selectedColor(menu), QStringLiteral("#222222"));
     QVERIFY(panel.isAncestorOf(menu));
     // The rectangles of the others moved with their tabs.
-    QCOMPARE(tab(panel, 2), tabOf(ribbonGlyph, "#248d4f", "Ribbon2"));
-    QCOMPARE(tab(panel, 3), tabOf(supplyGlyph, "#ffffff", "Supply"));
+    QCOMPARE(panel.tab(2), tabOf(ribbonGlyph, "#248d4f", "Ribbon2"));
+    QCOMPARE(panel.tab(3), tabOf(supplyGlyph, "#ffffff", "Supply"));
 }
 
 void tst_SupplyColors::addMenuToStackWithoutAMenuOrASection()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     const auto menu = std::make_unique<ColorMenu>(nullptr);
     const QString color = QStringLiteral("#000000");
     panel.addMenuToStack(0, color, color, color, menu.get());
     QCOMPARE(menu->parent(), nullptr);
     showTwoRibbons(panel);
-    const QStringList before = tabs(panel);
+    const QStringList before = panel.tabs();
     panel.addMenuToStack(0, color, color, color, nullptr);
-    QCOMPARE(tabs(panel), before);
-    QCOMPARE(colorStack(panel)->count(), 3);
+    QCOMPARE(panel.tabs(), before);
+    QCOMPARE(panel.colorStack()->count(), 3);
 }
 
 void tst_SupplyColors::updateColorSelection()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     showTwoRibbons(panel);
     const QSignalSpy spy(&panel, colorsSignal);
-    panel.updateColorSelection(1, QStringLiteral("#0018a8"), colorMenu(panel, "ribbon2Menu"));
-    QCOMPARE(tab(panel, 1), tabOf(ribbonGlyph, "#0018a8", "Ribbon2"));
-    QCOMPARE(selectedColor(colorMenu(panel, "ribbon2Menu")), QStringLiteral("#0018a8"));
+    panel.updateColorSelection(1, QStringLiteral("#0018a8"), panel.colorMenu("ribbon2Menu"));
+    QCOMPARE(panel.tab(1), tabOf(ribbonGlyph, "#0018a8", "Ribbon2"));
+    QCOMPARE(selectedColor(panel.colorMenu("ribbon2Menu")), QStringLiteral("#0018a8"));
     QCOMPARE(spy.size(), 0);
 }
 
 void tst_SupplyColors::updateColorSelectionWithOddArguments()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     ColorMenu menu(nullptr);
     panel.updateColorSelection(0, QStringLiteral("#000000"), &menu);
     panel.updateColorSelection(0, QStringLiteral("#000000"), nullptr);
     showTwoRibbons(panel);
-    const QStringList before = tabs(panel);
+    const QStringList before = panel.tabs();
     panel.updateColorSelection(7, QStringLiteral("#000000"), &menu);
     panel.updateColorSelection(-1, QStringLiteral("#000000"), &menu);
     panel.updateColorSelection(INT_MAX, QStringLiteral("#000000"), &menu);
     panel.updateColorSelection(INT_MIN, QString(), &menu);
-    QCOMPARE(tabs(panel), before);
+    QCOMPARE(panel.tabs(), before);
 }
 
 QTEST_MAIN(tst_SupplyColors)

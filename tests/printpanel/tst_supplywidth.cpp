@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "supplyprobe.h"
+#include "printpanelfixture.h"
 #include "support/layoutdescription.h"
 #include "support/stricttest.h"
 
@@ -20,17 +20,17 @@ namespace {
 
 const char* const widthSignal = SIGNAL(supplyWidthChangedSignal(double));
 
-QFrame* section(const PrintWidget& panel)
+QFrame* section(const PrintPanelFixture& panel)
 {
-    return part<QFrame>(panel, "supplyInfoWidget");
+    return panel.part<QFrame>("supplyInfoWidget");
 }
 
 /** Tells the section that the user is done with a text, typed or not. */
-QList<QVariantList> widthsAfter(PrintWidget& panel, const QString& text)
+QList<QVariantList> widthsAfter(PrintPanelFixture& panel, const QString& text)
 {
     const QSignalSpy spy(&panel, widthSignal);
-    widthEdit(panel)->setText(text);
-    Q_EMIT widthEdit(panel)->editingFinished();
+    panel.widthEdit()->setText(text);
+    Q_EMIT panel.widthEdit()->editingFinished();
     return spy;
 }
 
@@ -61,8 +61,8 @@ private Q_SLOTS:
 
 void tst_SupplyWidth::widthRow()
 {
-    PrintWidget panel(false, nullptr);
-    showPlainSupply(panel);
+    PrintPanelFixture panel;
+    panel.showPlainSupply();
     const QLayout* row = section(panel)->layout()->itemAt(1)->layout();
     QCOMPARE(row->contentsMargins(), QMargins(5, 5, 5, 5));
     QCOMPARE(row->count(), 5);
@@ -71,14 +71,14 @@ void tst_SupplyWidth::widthRow()
         QVERIFY2(spacer.startsWith(QStringLiteral("spacer 20x10 Fixed/")), qPrintable(spacer));
     }
     QCOMPARE(row->itemAt(1)->widget(), labelWithText(panel, QStringLiteral("Tape Width:")));
-    QCOMPARE(row->itemAt(3)->widget(), ::widthEdit(panel));
+    QCOMPARE(row->itemAt(3)->widget(), panel.widthEdit());
 }
 
 void tst_SupplyWidth::widthEdit()
 {
-    PrintWidget panel(false, nullptr);
-    showPlainSupply(panel);
-    const QLineEdit* edit = ::widthEdit(panel);
+    PrintPanelFixture panel;
+    panel.showPlainSupply();
+    const QLineEdit* edit = panel.widthEdit();
     QVERIFY(edit->inherits("JxLineEdit"));
     QCOMPARE(edit->minimumSize(), QSize(80, 35));
     QCOMPARE(edit->maximumSize(), QSize(80, 35));
@@ -89,11 +89,11 @@ void tst_SupplyWidth::widthEdit()
 
 void tst_SupplyWidth::widthValidator()
 {
-    PrintWidget panel(false, nullptr);
-    showPlainSupply(panel);
+    PrintPanelFixture panel;
+    panel.showPlainSupply();
     const auto acceptable = [&panel](const char* text) {
-        ::widthEdit(panel)->setText(QString::fromLatin1(text));
-        return ::widthEdit(panel)->hasAcceptableInput();
+        panel.widthEdit()->setText(QString::fromLatin1(text));
+        return panel.widthEdit()->hasAcceptableInput();
     };
     QVERIFY(acceptable("0"));
     QVERIFY(acceptable("999999"));
@@ -111,30 +111,29 @@ void tst_SupplyWidth::width_data()
     QTest::addColumn<double>("width");
     QTest::addColumn<int>("metric");
     QTest::addColumn<QString>("text");
-    QTest::newRow("12 mm") << 12.0 << 1 << QStringLiteral("12.00");
-    QTest::newRow("4 in") << 4.0 << 0 << QStringLiteral("4.00");
-    QTest::newRow("rounded down") << 4.124 << 0 << QStringLiteral("4.12");
-    QTest::newRow("rounded up") << 4.126 << 0 << QStringLiteral("4.13");
-    QTest::newRow("zero") << 0.0 << 0 << QStringLiteral("0.00");
-    QTest::newRow("large") << 123456.5 << 1 << QStringLiteral("123456.50");
-    QTest::newRow("no exponent") << 1e7 << 1 << QStringLiteral("10000000.00");
-    QTest::newRow("negative") << -1.5 << 0 << QStringLiteral("-1.50");
-    QTest::newRow("not a number") << std::nan("") << 0 << QStringLiteral("nan");
-    QTest::newRow("infinite") << std::numeric_limits<double>::infinity() << 0
-                              << QStringLiteral("inf");
+    addRow("12 mm", 12.0, 1, "12.00");
+    addRow("4 in", 4.0, 0, "4.00");
+    addRow("rounded down", 4.124, 0, "4.12");
+    addRow("rounded up", 4.126, 0, "4.13");
+    addRow("zero", 0.0, 0, "0.00");
+    addRow("large", 123456.5, 1, "123456.50");
+    addRow("no exponent", 1e7, 1, "10000000.00");
+    addRow("negative", -1.5, 0, "-1.50");
+    addRow("not a number", std::nan(""), 0, "nan");
+    addRow("infinite", std::numeric_limits<double>::infinity(), 0, "inf");
 }
 
 void tst_SupplyWidth::width()
 {
     QFETCH(const double, width);
     QFETCH(const int, metric);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.showSupplyInfo(colors({"#000000"}), false, width, static_cast<unsigned char>(metric),
                          false);
-    QTEST(::widthEdit(panel)->text(), "text");
+    QTEST(panel.widthEdit()->text(), "text");
     // What showSupplyInfo() wrote is no edit.
     const QSignalSpy spy(&panel, widthSignal);
-    Q_EMIT::widthEdit(panel)->editingFinished();
+    Q_EMIT panel.widthEdit()->editingFinished();
     QCOMPARE(spy.size(), 0);
 }
 
@@ -142,23 +141,23 @@ void tst_SupplyWidth::widthSuffix_data()
 {
     QTest::addColumn<int>("metric");
     QTest::addColumn<QString>("suffix");
-    QTest::newRow("0 is inches") << 0 << QStringLiteral(" in");
-    QTest::newRow("1 is millimetres") << 1 << QStringLiteral(" mm");
-    QTest::newRow("any other is millimetres") << 255 << QStringLiteral(" mm");
+    addRow("0 is inches", 0, " in");
+    addRow("1 is millimetres", 1, " mm");
+    addRow("any other is millimetres", 255, " mm");
 }
 
 void tst_SupplyWidth::widthSuffix()
 {
     QFETCH(const int, metric);
     QFETCH(const QString, suffix);
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     for (const int before : {0, 1}) {
         panel.showSupplyInfo(colors({"#000000"}), false, 1.0, static_cast<unsigned char>(before),
                              false);
         panel.showSupplyInfo(colors({"#000000"}), false, 1.0, static_cast<unsigned char>(metric),
                              false);
         const auto* validator =
-            qobject_cast<const SuffixDoubleValidator*>(::widthEdit(panel)->validator());
+            qobject_cast<const SuffixDoubleValidator*>(panel.widthEdit()->validator());
         QCOMPARE(validator->suffix(), suffix);
     }
 }
@@ -201,16 +200,16 @@ void tst_SupplyWidth::editedWidth()
 {
     QFETCH(const QString, text);
     QFETCH(const QList<QVariantList>, emitted);
-    PrintWidget panel(false, nullptr);
-    showPlainSupply(panel);
+    PrintPanelFixture panel;
+    panel.showPlainSupply();
     QCOMPARE(widthsAfter(panel, text), emitted);
-    QCOMPARE(::widthEdit(panel)->text(), text);
+    QCOMPARE(panel.widthEdit()->text(), text);
 }
 
 void tst_SupplyWidth::reportedWidthIsNoEdit()
 {
-    PrintWidget panel(false, nullptr);
-    showPlainSupply(panel);
+    PrintPanelFixture panel;
+    panel.showPlainSupply();
     QCOMPARE(widthsAfter(panel, QStringLiteral("2.5")).size(), 1);
     // Going back to what the printer reported tells nothing.
     QCOMPARE(widthsAfter(panel, QStringLiteral("4.00")).size(), 0);
@@ -221,8 +220,8 @@ void tst_SupplyWidth::reportedWidthIsNoEdit()
 
 void tst_SupplyWidth::theSameNewWidthIsReportedTwice()
 {
-    PrintWidget panel(false, nullptr);
-    showPlainSupply(panel);
+    PrintPanelFixture panel;
+    panel.showPlainSupply();
     const QList<QVariantList> emitted{QVariantList{2.5}};
     QCOMPARE(widthsAfter(panel, QStringLiteral("2.5")), emitted);
     QCOMPARE(widthsAfter(panel, QStringLiteral("2.5")), emitted);
@@ -230,26 +229,26 @@ void tst_SupplyWidth::theSameNewWidthIsReportedTwice()
 
 void tst_SupplyWidth::typedWidthIsReported()
 {
-    PrintWidget panel(false, nullptr);
-    showPlainSupply(panel);
+    PrintPanelFixture panel;
+    panel.showPlainSupply();
     QVERIFY(showPanel(panel));
     const QSignalSpy changed(&panel, widthSignal);
-    ::widthEdit(panel)->setFocus();
-    ::widthEdit(panel)->selectAll();
-    QTest::keyClicks(::widthEdit(panel), QStringLiteral("2.50 in"));
+    panel.widthEdit()->setFocus();
+    panel.widthEdit()->selectAll();
+    QTest::keyClicks(panel.widthEdit(), QStringLiteral("2.50 in"));
     QCOMPARE(changed.size(), 0);
-    QTest::keyClick(::widthEdit(panel), Qt::Key_Return);
+    QTest::keyClick(panel.widthEdit(), Qt::Key_Return);
     QCOMPARE(changed.size(), 1);
     QCOMPARE(changed.first(), QVariantList{2.5});
     // More decimals than three cannot be typed.
-    ::widthEdit(panel)->selectAll();
-    QTest::keyClicks(::widthEdit(panel), QStringLiteral("1.23456"));
-    QCOMPARE(::widthEdit(panel)->text(), QStringLiteral("1.234"));
+    panel.widthEdit()->selectAll();
+    QTest::keyClicks(panel.widthEdit(), QStringLiteral("1.23456"));
+    QCOMPARE(panel.widthEdit()->text(), QStringLiteral("1.234"));
 }
 
 void tst_SupplyWidth::suffixInForceIsRemoved()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     panel.showSupplyInfo(colors({"#000000"}), false, 12.0, 1, false);
     QCOMPARE(widthsAfter(panel, QStringLiteral("24 mm")), QList<QVariantList>{QVariantList{24.0}});
     QCOMPARE(widthsAfter(panel, QStringLiteral("24 in")), QList<QVariantList>());
@@ -260,7 +259,7 @@ void tst_SupplyWidth::suffixInForceIsRemoved()
 
 void tst_SupplyWidth::slotBeforeTheSectionExistsDoesNothing()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     const QSignalSpy changed(&panel, widthSignal);
     QVERIFY(QMetaObject::invokeMethod(&panel, "supplyWidthEditedSlot"));
     QCOMPARE(changed.size(), 0);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "panelprobe.h"
+#include "printpanelfixture.h"
 #include "support/layoutdescription.h"
 #include "support/stricttest.h"
 
@@ -18,9 +18,9 @@
 
 namespace {
 
-QSpinBox* errorNumber(const PrintWidget& panel)
+QSpinBox* errorNumber(const PrintPanelFixture& panel)
 {
-    return part<QSpinBox>(panel, "errorNumberSpinBox");
+    return panel.part<QSpinBox>("errorNumberSpinBox");
 }
 
 const char* const errorSignal = SIGNAL(testPrintError(int));
@@ -50,10 +50,10 @@ private Q_SLOTS:
 
 void tst_TestControls::withoutTheFlagThereIsNoBlock()
 {
-    PrintWidget panel(false, nullptr);
-    QCOMPARE(part<QWidget>(panel, "printToFileCheck"), nullptr);
-    QCOMPARE(part<QWidget>(panel, "errorNumberSpinBox"), nullptr);
-    QCOMPARE(part<QWidget>(panel, "showErrorButton"), nullptr);
+    PrintPanelFixture panel;
+    QCOMPARE(panel.part<QWidget>("printToFileCheck"), nullptr);
+    QCOMPARE(panel.part<QWidget>("errorNumberSpinBox"), nullptr);
+    QCOMPARE(panel.part<QWidget>("showErrorButton"), nullptr);
     QCOMPARE(labelWithText(panel, QStringLiteral("Error number: ")), nullptr);
     QCOMPARE(panel.getPrintToFileEnabled(), false);
     QVERIFY(showPanel(panel));
@@ -62,7 +62,7 @@ void tst_TestControls::withoutTheFlagThereIsNoBlock()
 
 void tst_TestControls::blockStandsAboveThePrintButtons()
 {
-    const PrintWidget panel(true, nullptr);
+    const PrintPanelFixture panel(true);
     const QStringList rows = layoutDescription(panel.layout());
     const qsizetype count = rows.size();
     QCOMPARE(
@@ -73,14 +73,14 @@ void tst_TestControls::blockStandsAboveThePrintButtons()
                      QStringLiteral("spacer 1x15 Minimum/Minimum"), QStringLiteral("QHBoxLayout"),
                      QStringLiteral("separator"), QStringLiteral("QGridLayout")}));
     QCOMPARE(panel.layout()->itemAt(int(count) - 9)->widget(),
-             part<QWidget>(panel, "bottomSeparator"));
-    QVERIFY(itemHolds(panel.layout()->itemAt(int(count) - 1), part<QWidget>(panel, "PrintButton")));
+             panel.part<QWidget>("bottomSeparator"));
+    QVERIFY(itemHolds(panel.layout()->itemAt(int(count) - 1), panel.part<QWidget>("PrintButton")));
 }
 
 void tst_TestControls::printToFileCheck()
 {
-    const PrintWidget panel(true, nullptr);
-    const auto* check = part<QCheckBox>(panel, "printToFileCheck");
+    const PrintPanelFixture panel(true);
+    const auto* check = panel.part<QCheckBox>("printToFileCheck");
     QCOMPARE(check->parentWidget(), &panel);
     QCOMPARE(check->text(),
              QStringLiteral("Print to file:\n\" guest / logs / printTest_iii . prn \""));
@@ -93,17 +93,17 @@ void tst_TestControls::printToFileCheck()
 
 void tst_TestControls::errorRow()
 {
-    const PrintWidget panel(true, nullptr);
+    const PrintPanelFixture panel(true);
     QLayout* row = layoutHolding(panel.layout(), errorNumber(panel));
     QVERIFY(qobject_cast<QHBoxLayout*>(row));
     QCOMPARE(row->itemAt(0)->widget(), labelWithText(panel, QStringLiteral("Error number: ")));
     QCOMPARE(indexOfWidget(row, errorNumber(panel)), 1);
-    QCOMPARE(indexOfWidget(row, part<QPushButton>(panel, "showErrorButton")), 2);
+    QCOMPARE(indexOfWidget(row, panel.part<QPushButton>("showErrorButton")), 2);
 }
 
 void tst_TestControls::errorNumberSpinBox()
 {
-    const PrintWidget panel(true, nullptr);
+    const PrintPanelFixture panel(true);
     const QSpinBox* box = errorNumber(panel);
     QVERIFY(box->inherits("JxSpinBox"));
     QCOMPARE(box->minimum(), 0);
@@ -116,8 +116,8 @@ void tst_TestControls::errorNumberSpinBox()
 
 void tst_TestControls::showButton()
 {
-    const PrintWidget panel(true, nullptr);
-    const auto* button = part<QPushButton>(panel, "showErrorButton");
+    const PrintPanelFixture panel(true);
+    const auto* button = panel.part<QPushButton>("showErrorButton");
     QVERIFY(button->inherits("DragScrollButton"));
     QCOMPARE(button->text(), QStringLiteral("Show"));
     QVERIFY(button->isEnabled());
@@ -127,15 +127,15 @@ void tst_TestControls::showButton()
 
 void tst_TestControls::printToFileFollowsTheUser()
 {
-    PrintWidget panel(true, nullptr);
+    PrintPanelFixture panel(true);
     QVERIFY(showPanel(panel));
     QCOMPARE(panel.getPrintToFileEnabled(), false);
-    clickOn(part<QCheckBox>(panel, "printToFileCheck"));
+    clickOn(panel.part<QCheckBox>("printToFileCheck"));
     QCOMPARE(panel.getPrintToFileEnabled(), true);
     panel.hide();
     QCOMPARE(panel.getPrintToFileEnabled(), true);
     QVERIFY(showPanel(panel));
-    clickOn(part<QCheckBox>(panel, "printToFileCheck"));
+    clickOn(panel.part<QCheckBox>("printToFileCheck"));
     QCOMPARE(panel.getPrintToFileEnabled(), false);
 }
 
@@ -149,12 +149,12 @@ void tst_TestControls::showEmitsTheNumber_data()
 void tst_TestControls::showEmitsTheNumber()
 {
     QFETCH(const int, number);
-    PrintWidget panel(true, nullptr);
+    PrintPanelFixture panel(true);
     QVERIFY(showPanel(panel));
     QSignalSpy errors(&panel, errorSignal);
     errorNumber(panel)->setValue(number);
     QCOMPARE(errors.size(), 0);
-    clickOn(part<QPushButton>(panel, "showErrorButton"));
+    clickOn(panel.part<QPushButton>("showErrorButton"));
     QCOMPARE(errors.size(), 1);
     QCOMPARE(errors.takeFirst(), QVariantList{number});
     QVERIFY(QMetaObject::invokeMethod(&panel, "testErrorCodeSlot"));
@@ -165,23 +165,23 @@ void tst_TestControls::numberStaysInItsRange_data()
 {
     QTest::addColumn<int>("asked");
     QTest::addColumn<int>("number");
-    QTest::newRow("26") << 26 << 25;
-    QTest::newRow("-1") << -1 << 0;
-    QTest::newRow("highest") << INT_MAX << 25;
-    QTest::newRow("lowest") << INT_MIN << 0;
+    addRow("26", 26, 25);
+    addRow("-1", -1, 0);
+    addRow("highest", INT_MAX, 25);
+    addRow("lowest", INT_MIN, 0);
 }
 
 void tst_TestControls::numberStaysInItsRange()
 {
     QFETCH(const int, asked);
-    PrintWidget panel(true, nullptr);
+    PrintPanelFixture panel(true);
     errorNumber(panel)->setValue(asked);
     QTEST(errorNumber(panel)->value(), "number");
 }
 
 void tst_TestControls::numberIsSteppedByKeys()
 {
-    PrintWidget panel(true, nullptr);
+    PrintPanelFixture panel(true);
     QVERIFY(showPanel(panel));
     QTest::keyClick(errorNumber(panel), Qt::Key_Up);
     QTest::keyClick(errorNumber(panel), Qt::Key_Up);
@@ -196,7 +196,7 @@ void tst_TestControls::numberIsSteppedByKeys()
 
 void tst_TestControls::slotWithoutTheBlockEmitsNothing()
 {
-    PrintWidget panel(false, nullptr);
+    PrintPanelFixture panel;
     const QSignalSpy errors(&panel, errorSignal);
     QVERIFY(QMetaObject::invokeMethod(&panel, "testErrorCodeSlot"));
     QCOMPARE(errors.size(), 0);

@@ -3,7 +3,8 @@
 
 // What hosts do to the panel from inside its own signals, and with what they should not hand it.
 #include "preview/referencecanvas.h"
-#include "quickpanel.h"
+#include "quickprintfixture.h"
+#include "support/deleter.h"
 #include "support/stricttest.h"
 
 #include <jxlineedit.h>
@@ -18,20 +19,6 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
-
-/** Deletes its target as soon as it hears of anything. */
-class Deleter : public QObject
-{
-    Q_OBJECT
-
-public:
-    explicit Deleter(QObject* doomed) : target(doomed) {}
-
-    QPointer<QObject> target;
-
-public Q_SLOTS:
-    void strike() { delete target; }
-};
 
 class tst_QuickPrintHost : public StrictTest
 {
@@ -57,30 +44,29 @@ void tst_QuickPrintHost::hostMayDeleteThePanelInItsSignals_data()
 {
     QTest::addColumn<QByteArray>("signal");
     QTest::addColumn<QByteArray>("button");
-    QTest::newRow("print") << QByteArray(SIGNAL(widgetPrintSignal(int, int, QString)))
-                           << QByteArray("printButton");
-    QTest::newRow("resize") << QByteArray(SIGNAL(resizeSignal(QSizeF)))
-                            << QByteArray("resizeButton");
-    QTest::newRow("open in editor")
-        << QByteArray(SIGNAL(openModuleSignal())) << QByteArray("openInEditorButton");
+    addRow("print", QByteArray(SIGNAL(widgetPrintSignal(int, int, QString))),
+           QByteArray("printButton"));
+    addRow("resize", QByteArray(SIGNAL(resizeSignal(QSizeF))), QByteArray("resizeButton"));
+    addRow("open in editor", QByteArray(SIGNAL(openModuleSignal())),
+           QByteArray("openInEditorButton"));
 }
 
 void tst_QuickPrintHost::hostMayDeleteThePanelInItsSignals()
 {
     QFETCH(const QByteArray, signal);
     QFETCH(const QByteArray, button);
-    QPointer<QuickPanel> panel = new QuickPanel;
+    QPointer<QuickPrintFixture> panel = new QuickPrintFixture;
     panel->enableAllButtons();
     panel->show();
     Deleter deleter(panel);
-    QVERIFY(connect(panel, signal.constData(), &deleter, SLOT(strike())));
+    QVERIFY(connect(panel, signal.constData(), &deleter, Deleter::slot(Deleter::AtOnce)));
     QTest::mouseClick(panel->button(button.constData()), Qt::LeftButton);
     QVERIFY(panel.isNull());
 }
 
 void tst_QuickPrintHost::hostMayAnswerInsideTheSignals()
 {
-    QuickPanel panel;
+    QuickPrintFixture panel;
     panel.show();
     connect(&panel, &QuickPrintWidget::resizeSignal, this, [&panel](const QSizeF& size) {
         const bool good = size.width() > 0 && size.height() > 0;
@@ -98,7 +84,7 @@ void tst_QuickPrintHost::hostMayAnswerInsideTheSignals()
 void tst_QuickPrintHost::returnInAHostsDialogPressesNothing()
 {
     QDialog dialog;
-    auto* panel = new QuickPanel(true, &dialog);
+    auto* panel = new QuickPrintFixture(true, &dialog);
     (new QVBoxLayout(&dialog))->addWidget(panel);
     panel->enableAllButtons();
     int clicks = 0;
@@ -122,22 +108,21 @@ void tst_QuickPrintHost::returnInAHostsDialogPressesNothing()
 void tst_QuickPrintHost::longNamesDoNotWidenThePanel_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::newRow("unbroken") << QString(500, u'W');
-    QTest::newRow("megabyte unbroken") << QString(1 << 20, u'W');
+    addRow("unbroken", QString(500, u'W'));
+    addRow("megabyte unbroken", QString(1 << 20, u'W'));
     QString words;
     while (words.size() < 1 << 20)
         words += QStringLiteral("printer ");
-    QTest::newRow("megabyte of words") << words;
-    QTest::newRow("megabyte of lines") << QString(1 << 20, u'\n');
-    QTest::newRow("network path") << QStringLiteral(
-        "\\\\a-print-server-with-a-long-name.example.com\\a-queue-with-a-name");
+    addRow("megabyte of words", words);
+    addRow("megabyte of lines", QString(1 << 20, u'\n'));
+    addRow("network path", "\\\\a-print-server-with-a-long-name.example.com\\a-queue-with-a-name");
 }
 
 void tst_QuickPrintHost::longNamesDoNotWidenThePanel()
 {
     QFETCH(const QString, name);
     QWidget window;
-    auto* panel = new QuickPanel(true, &window);
+    auto* panel = new QuickPrintFixture(true, &window);
     (new QVBoxLayout(&window))->addWidget(panel);
     panel->setCurrentPrinterName(QStringLiteral("Printer"));
     window.show();
@@ -159,7 +144,7 @@ void tst_QuickPrintHost::longNamesDoNotWidenThePanel()
 void tst_QuickPrintHost::nameTakesTheLinesThatItNeeds()
 {
     QWidget window;
-    auto* panel = new QuickPanel(true, &window);
+    auto* panel = new QuickPrintFixture(true, &window);
     (new QVBoxLayout(&window))->addWidget(panel);
     panel->setCurrentPrinterName(QStringLiteral("First second third fourth fifth sixth seventh"));
     window.show();
@@ -172,7 +157,7 @@ void tst_QuickPrintHost::nameTakesTheLinesThatItNeeds()
 
 void tst_QuickPrintHost::nameStaysUnderItsCaptionInATallPanel()
 {
-    QuickPanel panel;
+    QuickPrintFixture panel;
     panel.setCurrentPrinterName(QStringLiteral("Printer"));
     panel.show();
     const QWidget* caption = panel.grid()->itemAtPosition(0, 0)->widget();
@@ -187,18 +172,18 @@ void tst_QuickPrintHost::nameStaysUnderItsCaptionInATallPanel()
 void tst_QuickPrintHost::hostileImages_data()
 {
     QTest::addColumn<QImage>("image");
-    QTest::newRow("null") << QImage();
-    QTest::newRow("1x1") << speckledImage(QSize(1, 1));
+    addRow("null", QImage());
+    addRow("1x1", speckledImage(QSize(1, 1)));
     QImage wide(30000, 3, QImage::Format_Grayscale8);
     wide.fill(128);
-    QTest::newRow("30000x3") << wide;
-    QTest::newRow("3x30000") << wide.transformed(QTransform().rotate(90));
+    addRow("30000x3", wide);
+    addRow("3x30000", wide.transformed(QTransform().rotate(90)));
 }
 
 void tst_QuickPrintHost::hostileImages()
 {
     QFETCH(const QImage, image);
-    QuickPanel panel;
+    QuickPrintFixture panel;
     panel.updateQuickPrint(image);
     panel.show();
     panel.updateQuickPrint(image);
@@ -211,7 +196,7 @@ void tst_QuickPrintHost::hostileImages()
 void tst_QuickPrintHost::panelMayBeSqueezed()
 {
     QWidget window;
-    auto* panel = new QuickPanel(true, &window);
+    auto* panel = new QuickPrintFixture(true, &window);
     auto* layout = new QVBoxLayout(&window);
     layout->setSizeConstraint(QLayout::SetNoConstraint);
     layout->addWidget(panel);
@@ -220,21 +205,16 @@ void tst_QuickPrintHost::panelMayBeSqueezed()
     for (const QSize& size : {QSize(1, 1), QSize(40, 600), QSize(600, 40), QSize(300, 550)}) {
         window.resize(size);
         panel->updateQuickPrint(speckledImage(QSize(30, 20)));
-        sendMouse(*panel->view(), QEvent::MouseButtonPress, QPointF(1, 1), Qt::LeftButton,
-                  Qt::LeftButton);
-        sendMouse(*panel->view(), QEvent::MouseMove, QPointF(5, 5), Qt::NoButton, Qt::LeftButton);
-        sendMouse(*panel->view(), QEvent::MouseButtonRelease, QPointF(5, 5), Qt::LeftButton,
-                  Qt::NoButton);
+        dragMouse(*panel->view(), QPointF(1, 1), QPointF(5, 5));
         QVERIFY(!window.grab().isNull());
     }
 }
 
 void tst_QuickPrintHost::deletingInADragLeavesNoCursorBehind()
 {
-    auto* panel = new QuickPanel;
+    auto* panel = new QuickPrintFixture;
     panel->show();
-    sendMouse(*panel->view(), QEvent::MouseButtonPress, QPointF(9, 9), Qt::LeftButton,
-              Qt::LeftButton);
+    pressMouse(*panel->view(), QPointF(9, 9));
     QVERIFY(QGuiApplication::overrideCursor());
     delete panel;
     QVERIFY(!QGuiApplication::overrideCursor());
@@ -242,10 +222,9 @@ void tst_QuickPrintHost::deletingInADragLeavesNoCursorBehind()
 
 void tst_QuickPrintHost::leavingThePageInADragLeavesNoCursorBehind()
 {
-    QuickPanel panel;
+    QuickPrintFixture panel;
     panel.show();
-    sendMouse(*panel.view(), QEvent::MouseButtonPress, QPointF(9, 9), Qt::LeftButton,
-              Qt::LeftButton);
+    pressMouse(*panel.view(), QPointF(9, 9));
     QVERIFY(QGuiApplication::overrideCursor());
     panel.hide();
     QVERIFY(!QGuiApplication::overrideCursor());

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "quickpanel.h"
+#include "quickprintfixture.h"
+#include "support/expectedsheet.h"
 #include "support/layoutdescription.h"
 #include "support/stricttest.h"
 #include "support/translationrecorder.h"
@@ -10,7 +11,6 @@
 #include <jxlineedit.h>
 #include <jxspinbox.h>
 
-#include <QtCore/QFile>
 #include <QtWidgets/QFrame>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
@@ -19,12 +19,6 @@
 #include <algorithm>
 
 namespace {
-
-QString expectedSheet(const char* role)
-{
-    QFile file(QStringLiteral(EXPECTED_SHEETS "/%1.qss").arg(QLatin1String(role)));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
 
 QString alignmentName(Qt::Alignment alignment)
 {
@@ -60,7 +54,7 @@ QStringList cells(const QGridLayout* grid)
     return lines;
 }
 
-QHBoxLayout* copiesRow(const QuickPanel& panel)
+QHBoxLayout* copiesRow(const QuickPrintFixture& panel)
 {
     return qobject_cast<QHBoxLayout*>(panel.grid()->itemAtPosition(6, 0)->widget()->layout());
 }
@@ -98,7 +92,7 @@ private Q_SLOTS:
 
 void tst_QuickPrintLook::styleSheets()
 {
-    const QuickPanel panel;
+    const QuickPrintFixture panel;
     const QString sheet = expectedSheet("panel");
     QCOMPARE(sheet.size(), 2537);
     QCOMPARE(panel.styleSheet(), sheet);
@@ -110,7 +104,7 @@ void tst_QuickPrintLook::styleSheets()
 
 void tst_QuickPrintLook::cellsOfThePanel()
 {
-    const QuickPanel panel;
+    const QuickPrintFixture panel;
     QCOMPARE(cells(panel.grid()),
              QStringList({QStringLiteral("0, 0, 1, 1, none: QLabel"),
                           QStringLiteral("1, 0, 1, 1, none: QLabel printerNameLabel"),
@@ -124,7 +118,7 @@ void tst_QuickPrintLook::cellsOfThePanel()
 
 void tst_QuickPrintLook::cellsOfTheResizeFrame()
 {
-    const QuickPanel panel;
+    const QuickPrintFixture panel;
     QCOMPARE(panel.resizeFrame()->frameShape(), QFrame::NoFrame);
     const auto* grid = qobject_cast<QGridLayout*>(panel.resizeFrame()->layout());
     QCOMPARE(cells(grid),
@@ -139,7 +133,7 @@ void tst_QuickPrintLook::cellsOfTheResizeFrame()
 
 void tst_QuickPrintLook::copiesRowInOrder()
 {
-    const QuickPanel panel;
+    const QuickPrintFixture panel;
     const QHBoxLayout* row = copiesRow(panel);
     QCOMPARE(layoutDescription(row),
              QStringList({QStringLiteral("QLabel"), QStringLiteral("spacer 5x10 Expanding/Minimum"),
@@ -156,7 +150,7 @@ void tst_QuickPrintLook::copiesRowInOrder()
 
 void tst_QuickPrintLook::buttonRowInOrder()
 {
-    const QuickPanel panel;
+    const QuickPrintFixture panel;
     QCOMPARE(layoutDescription(panel.grid()->itemAtPosition(10, 0)->layout()),
              QStringList({QStringLiteral("QPushButton printButton"),
                           QStringLiteral("QPushButton openInEditorButton")}));
@@ -164,7 +158,7 @@ void tst_QuickPrintLook::buttonRowInOrder()
 
 void tst_QuickPrintLook::texts()
 {
-    const QuickPanel panel;
+    const QuickPrintFixture panel;
     QCOMPARE(captionIn(panel.grid()->itemAtPosition(0, 0))->text(),
              QStringLiteral("Current printer:"));
     QCOMPARE(panel.button("resizeButton")->text(), QStringLiteral("       Resize       "));
@@ -176,7 +170,7 @@ void tst_QuickPrintLook::texts()
 
 void tst_QuickPrintLook::classesOfTheParts()
 {
-    const QuickPanel panel;
+    const QuickPrintFixture panel;
     const QList<QPushButton*> buttons = panel.findChildren<QPushButton*>();
     QCOMPARE(buttons.size(), 5);
     for (const QPushButton* button : buttons)
@@ -189,7 +183,7 @@ void tst_QuickPrintLook::classesOfTheParts()
 
 void tst_QuickPrintLook::fixedSizes()
 {
-    QuickPanel panel;
+    QuickPrintFixture panel;
     panel.show();
     for (const QWidget* edit : {panel.lengthEdit(), panel.widthEdit()})
         QCOMPARE(edit->size(), QSize(135, 35));
@@ -205,15 +199,15 @@ void tst_QuickPrintLook::fixedSizes()
 void tst_QuickPrintLook::sizePolicies_data()
 {
     QTest::addColumn<QByteArray>("button");
-    QTest::newRow("resize") << QByteArray("resizeButton");
-    QTest::newRow("print") << QByteArray("printButton");
-    QTest::newRow("open") << QByteArray("openInEditorButton");
+    addRow("resize", QByteArray("resizeButton"));
+    addRow("print", QByteArray("printButton"));
+    addRow("open", QByteArray("openInEditorButton"));
 }
 
 void tst_QuickPrintLook::sizePolicies()
 {
     QFETCH(const QByteArray, button);
-    const QuickPanel panel;
+    const QuickPrintFixture panel;
     const QSizePolicy policy = panel.button(button)->sizePolicy();
     QCOMPARE(policy.horizontalPolicy(), QSizePolicy::Expanding);
     QCOMPARE(policy.verticalPolicy(), QSizePolicy::Fixed);
@@ -221,7 +215,7 @@ void tst_QuickPrintLook::sizePolicies()
 
 void tst_QuickPrintLook::copiesSpinBox()
 {
-    const QuickPanel panel;
+    const QuickPrintFixture panel;
     QCOMPARE(panel.copies()->minimum(), 1);
     QCOMPARE(panel.copies()->maximum(), 999);
     QCOMPARE(panel.copies()->value(), 1);
@@ -232,7 +226,7 @@ void tst_QuickPrintLook::copiesSpinBox()
 
 void tst_QuickPrintLook::sizeFieldsTakeAnyText()
 {
-    const QuickPanel panel;
+    const QuickPrintFixture panel;
     QCOMPARE(panel.lengthEdit()->validator(), nullptr);
     QCOMPARE(panel.widthEdit()->validator(), nullptr);
     QCOMPARE(panel.lengthEdit()->inputMask(), QString());
@@ -240,7 +234,7 @@ void tst_QuickPrintLook::sizeFieldsTakeAnyText()
 
 void tst_QuickPrintLook::fonts()
 {
-    QuickPanel panel;
+    QuickPrintFixture panel;
     panel.show();
     const QFont expected = ApplicationFont::getWidgetFont(true);
     const QList<QLabel*> labels = panel.findChildren<QLabel*>();
@@ -261,7 +255,7 @@ void tst_QuickPrintLook::textsAreTranslatedInThePanelsContext()
 {
     const QString context = QStringLiteral("QuickPrintWidget");
     const TranslationRecorder recorder(context);
-    const QuickPanel panel;
+    const QuickPrintFixture panel;
     const QList<TranslationKey> expected = {
         {context, QStringLiteral("Current printer:"),
          QStringLiteral("The label next to the current printer name")},
@@ -287,7 +281,7 @@ void tst_QuickPrintLook::textsAreTranslatedInThePanelsContext()
 
 void tst_QuickPrintLook::focusGoesFromTopToBottom()
 {
-    QuickPanel panel;
+    QuickPrintFixture panel;
     panel.enableAllButtons();
     panel.show();
     QVERIFY(QTest::qWaitForWindowActive(&panel));
@@ -308,16 +302,16 @@ void tst_QuickPrintLook::controlsDoNotOverlapAndAreNotCut_data()
 {
     QTest::addColumn<int>("module");
     QTest::addColumn<QString>("printer");
-    QTest::newRow("with resize") << 6 << QStringLiteral("Label Printer 3");
-    QTest::newRow("without resize") << 7 << QStringLiteral("Label Printer 3");
-    QTest::newRow("long name") << 6 << QString(50, u'W') + u' ' + QString(50, u'i');
+    addRow("with resize", 6, "Label Printer 3");
+    addRow("without resize", 7, "Label Printer 3");
+    addRow("long name", 6, QString(50, u'W') + u' ' + QString(50, u'i'));
 }
 
 void tst_QuickPrintLook::controlsDoNotOverlapAndAreNotCut()
 {
     QFETCH(const int, module);
     QFETCH(const QString, printer);
-    QuickPanel panel;
+    QuickPrintFixture panel;
     panel.setModule(JxModuleInfo::JxModuleTypes(module));
     panel.setCurrentPrinterName(printer);
     panel.setNumberOfCopies(999);

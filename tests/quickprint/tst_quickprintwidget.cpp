@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "preview/referencecanvas.h"
-#include "quickpanel.h"
+#include "quickprintfixture.h"
 #include "support/metamethods.h"
 #include "support/stricttest.h"
 
@@ -21,11 +21,11 @@
 
 namespace {
 
-/** Counts whatever a panel says. */
-class Listener
+/** Counts the signals of a panel. */
+class SignalCounter
 {
 public:
-    explicit Listener(QuickPrintWidget& panel)
+    explicit SignalCounter(QuickPrintWidget& panel)
         : printed(&panel, &PrintWidgetInterface::widgetPrintSignal),
           previewed(&panel, &PrintWidgetInterface::printPreviewSignal),
           moduleOpened(&panel, &PrintWidgetInterface::openModuleSignal),
@@ -33,7 +33,7 @@ public:
     {
     }
 
-    qsizetype heard() const
+    qsizetype total() const
     {
         return printed.size() + previewed.size() + moduleOpened.size() + resized.size();
     }
@@ -77,8 +77,8 @@ private Q_SLOTS:
     void canvasSizeIsShownWithTwoDecimals();
     void canvasSizeIsReadFromTheFields_data();
     void canvasSizeIsReadFromTheFields();
-    void resizeTellsWhatWasTyped();
-    void resizeTellsOfBadSizesToo();
+    void resizeReportsWhatWasTyped();
+    void resizeReportsBadSizesToo();
     void printAsksForTheShownLabel_data();
     void printAsksForTheShownLabel();
     void openInEditorAsksForTheModule();
@@ -86,7 +86,7 @@ private Q_SLOTS:
     void printerNameIsShownAsGiven();
     void currentRecordChangesNothing();
     void operationsOfOtherPanelsDoNothing();
-    void hostsChangesAreNotToldBack();
+    void changesByTheHostAreNotReported();
     void placeholderIsWhite();
     void newImageIsFitted();
     void slotsCanBeCalledByName();
@@ -117,21 +117,21 @@ void tst_QuickPrintWidget::metaObjectTable()
 void tst_QuickPrintWidget::neverTakesTheParentItIsGiven_data()
 {
     QTest::addColumn<bool>("quickPrint");
-    QTest::newRow("false") << false;
-    QTest::newRow("true") << true;
+    addRow("false", false);
+    addRow("true", true);
 }
 
 void tst_QuickPrintWidget::neverTakesTheParentItIsGiven()
 {
     QFETCH(const bool, quickPrint);
     QWidget host;
-    const QuickPanel panel(quickPrint, &host);
+    const QuickPrintFixture panel(quickPrint, &host);
     QCOMPARE(panel.parent(), nullptr);
     QVERIFY(host.children().isEmpty());
     QVERIFY(panel.isWindow());
     QCOMPARE(panel.windowFlags(), QWidget().windowFlags());
     // The bool is the host's own: the panel looks the same either way.
-    const QuickPanel other(!quickPrint, nullptr);
+    const QuickPrintFixture other(!quickPrint, nullptr);
     QCOMPARE(other.parent(), nullptr);
     QCOMPARE(stateOf(other), stateOf(panel));
 }
@@ -139,7 +139,7 @@ void tst_QuickPrintWidget::neverTakesTheParentItIsGiven()
 void tst_QuickPrintWidget::layoutOfTheHostBecomesTheParent()
 {
     auto* host = new QWidget;
-    const QPointer<QuickPanel> panel = new QuickPanel(true, host);
+    const QPointer<QuickPrintFixture> panel = new QuickPrintFixture(true, host);
     (new QVBoxLayout(host))->addWidget(panel);
     QCOMPARE(panel->parentWidget(), host);
     host->show();
@@ -150,7 +150,7 @@ void tst_QuickPrintWidget::layoutOfTheHostBecomesTheParent()
 
 void tst_QuickPrintWidget::stateAtTheStart()
 {
-    QuickPanel panel;
+    QuickPrintFixture panel;
     QCOMPARE(panel.objectName(), QStringLiteral("QuickPrintWidget"));
     QVERIFY(!panel.button("printButton")->isEnabled());
     QVERIFY(panel.button("openInEditorButton")->isEnabled());
@@ -174,15 +174,15 @@ void tst_QuickPrintWidget::resizeFrameIsForTwoModules_data()
                                  "PDFViewer",   "JavaScript",    "GraphicsViewer"};
     for (int module = 0; module < 11; ++module)
         QTest::newRow(names[module]) << module << (module == 6 || module == 9);
-    QTest::newRow("beyond the last") << 11 << false;
-    QTest::newRow("the highest that the type holds") << 15 << false;
+    addRow("beyond the last", 11, false);
+    addRow("the highest that the type holds", 15, false);
 }
 
 void tst_QuickPrintWidget::resizeFrameIsForTwoModules()
 {
     QFETCH(const int, module);
     QFETCH(const bool, visible);
-    QuickPanel panel;
+    QuickPrintFixture panel;
     panel.setModule(JxModuleInfo::JxModuleTypes(module));
     QCOMPARE(panel.resizeFrame()->isHidden(), !visible);
     panel.show();
@@ -194,7 +194,7 @@ void tst_QuickPrintWidget::resizeFrameIsForTwoModules()
 
 void tst_QuickPrintWidget::resizeFrameComesAndGoesWithTheModule()
 {
-    QuickPanel panel;
+    QuickPrintFixture panel;
     panel.show();
     panel.setModule(JxModuleInfo::JxCatalog);
     QVERIFY(panel.resizeFrame()->isVisible());
@@ -212,12 +212,10 @@ void tst_QuickPrintWidget::buttonsAreEnabledAndDisabled_data()
     QTest::addColumn<bool>("print");
     QTest::addColumn<bool>("open");
     using Panel = PrintWidgetInterface;
-    QTest::newRow("enable print") << Operation(&Panel::enablePrintButtons) << false << true
-                                  << false;
-    QTest::newRow("enable all") << Operation(&Panel::enableAllButtons) << false << true << true;
-    QTest::newRow("disable print")
-        << Operation(&Panel::disablePrintButtons) << true << false << true;
-    QTest::newRow("disable all") << Operation(&Panel::disableAllButtons) << true << false << false;
+    addRow("enable print", Operation(&Panel::enablePrintButtons), false, true, false);
+    addRow("enable all", Operation(&Panel::enableAllButtons), false, true, true);
+    addRow("disable print", Operation(&Panel::disablePrintButtons), true, false, true);
+    addRow("disable all", Operation(&Panel::disableAllButtons), true, false, false);
 }
 
 void tst_QuickPrintWidget::buttonsAreEnabledAndDisabled()
@@ -225,7 +223,7 @@ void tst_QuickPrintWidget::buttonsAreEnabledAndDisabled()
     using Operation = void (PrintWidgetInterface::*)();
     QFETCH(const Operation, operation);
     QFETCH(const bool, before);
-    QuickPanel panel;
+    QuickPrintFixture panel;
     panel.button("printButton")->setEnabled(before);
     panel.button("openInEditorButton")->setEnabled(before);
     for (int round = 0; round < 2; ++round) {
@@ -240,21 +238,21 @@ void tst_QuickPrintWidget::copiesAreClamped_data()
 {
     QTest::addColumn<int>("given");
     QTest::addColumn<int>("shown");
-    QTest::newRow("0") << 0 << 1;
-    QTest::newRow("1") << 1 << 1;
-    QTest::newRow("17") << 17 << 17;
-    QTest::newRow("999") << 999 << 999;
-    QTest::newRow("1000") << 1000 << 999;
-    QTest::newRow("1500") << 1500 << 999;
-    QTest::newRow("-3") << -3 << 1;
-    QTest::newRow("lowest") << std::numeric_limits<int>::min() << 1;
-    QTest::newRow("highest") << std::numeric_limits<int>::max() << 999;
+    addRow("0", 0, 1);
+    addRow("1", 1, 1);
+    addRow("17", 17, 17);
+    addRow("999", 999, 999);
+    addRow("1000", 1000, 999);
+    addRow("1500", 1500, 999);
+    addRow("-3", -3, 1);
+    addRow("lowest", std::numeric_limits<int>::min(), 1);
+    addRow("highest", std::numeric_limits<int>::max(), 999);
 }
 
 void tst_QuickPrintWidget::copiesAreClamped()
 {
     QFETCH(const int, given);
-    QuickPanel panel;
+    QuickPrintFixture panel;
     panel.setNumberOfCopies(given);
     QTEST(panel.getNumberOfCopies(), "shown");
     QTEST(panel.copies()->value(), "shown");
@@ -262,7 +260,7 @@ void tst_QuickPrintWidget::copiesAreClamped()
 
 void tst_QuickPrintWidget::stepButtonsCountCopies()
 {
-    QuickPanel panel;
+    QuickPrintFixture panel;
     panel.show();
     click(panel.button("minusButton"));
     QCOMPARE(panel.getNumberOfCopies(), 1);
@@ -279,7 +277,7 @@ void tst_QuickPrintWidget::stepButtonsCountCopies()
 
 void tst_QuickPrintWidget::heldStepButtonRepeats()
 {
-    QuickPanel panel;
+    QuickPrintFixture panel;
     panel.show();
     QPushButton* plus = panel.button("plusButton");
     plus->setAutoRepeatDelay(1);
@@ -295,16 +293,14 @@ void tst_QuickPrintWidget::canvasSizeIsShownWithTwoDecimals_data()
     QTest::addColumn<QSizeF>("size");
     QTest::addColumn<QString>("length");
     QTest::addColumn<QString>("width");
-    QTest::newRow("rounded") << QSizeF(3.14159, 2) << QStringLiteral("3.14")
-                             << QStringLiteral("2.00");
-    QTest::newRow("rounded up") << QSizeF(9.996, 0.005001) << QStringLiteral("10.00")
-                                << QStringLiteral("0.01");
-    QTest::newRow("no thousands separator")
-        << QSizeF(12345.6, 1e6) << QStringLiteral("12345.60") << QStringLiteral("1000000.00");
-    QTest::newRow("invalid") << QSizeF() << QStringLiteral("-1.00") << QStringLiteral("-1.00");
-    QTest::newRow("no numbers") << QSizeF(std::numeric_limits<double>::quiet_NaN(),
-                                          std::numeric_limits<double>::infinity())
-                                << QStringLiteral("nan") << QStringLiteral("inf");
+    addRow("rounded", QSizeF(3.14159, 2), "3.14", "2.00");
+    addRow("rounded up", QSizeF(9.996, 0.005001), "10.00", "0.01");
+    addRow("no thousands separator", QSizeF(12345.6, 1e6), "12345.60", "1000000.00");
+    addRow("invalid", QSizeF(), "-1.00", "-1.00");
+    addRow(
+        "no numbers",
+        QSizeF(std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity()),
+        "nan", "inf");
 }
 
 void tst_QuickPrintWidget::canvasSizeIsShownWithTwoDecimals()
@@ -312,7 +308,7 @@ void tst_QuickPrintWidget::canvasSizeIsShownWithTwoDecimals()
     QFETCH(const QSizeF, size);
     const QLocale before;
     QLocale::setDefault(QLocale(QLocale::German));
-    QuickPanel panel;
+    QuickPrintFixture panel;
     panel.setCanvasSize(size);
     QLocale::setDefault(before);
     QTEST(panel.lengthEdit()->text(), "length");
@@ -323,27 +319,27 @@ void tst_QuickPrintWidget::canvasSizeIsReadFromTheFields_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<double>("expected");
-    QTest::newRow("number") << QStringLiteral("2.5") << 2.5;
-    QTest::newRow("whole number") << QStringLiteral("7") << 7.0;
-    QTest::newRow("blanks around") << QStringLiteral(" 3.25 ") << 3.25;
-    QTest::newRow("exponent") << QStringLiteral("1e2") << 100.0;
-    QTest::newRow("zero") << QStringLiteral("0") << 0.0;
-    QTest::newRow("negative") << QStringLiteral("-4.5") << -4.5;
-    QTest::newRow("empty") << QString() << -1.0;
-    QTest::newRow("letters") << QStringLiteral("abc") << -1.0;
-    QTest::newRow("comma") << QStringLiteral("1,5") << -1.0;
-    QTest::newRow("thousands separator") << QStringLiteral("1,000") << -1.0;
-    QTest::newRow("unit") << QStringLiteral("4 in") << -1.0;
-    QTest::newRow("two numbers") << QStringLiteral("1 2") << -1.0;
-    QTest::newRow("too large for a number") << QStringLiteral("1e999") << -1.0;
-    QTest::newRow("long nonsense") << QString(30000, u'x') << -1.0;
+    addRow("number", "2.5", 2.5);
+    addRow("whole number", "7", 7.0);
+    addRow("blanks around", " 3.25 ", 3.25);
+    addRow("exponent", "1e2", 100.0);
+    addRow("zero", "0", 0.0);
+    addRow("negative", "-4.5", -4.5);
+    addRow("empty", QString(), -1.0);
+    addRow("letters", "abc", -1.0);
+    addRow("comma", "1,5", -1.0);
+    addRow("thousands separator", "1,000", -1.0);
+    addRow("unit", "4 in", -1.0);
+    addRow("two numbers", "1 2", -1.0);
+    addRow("too large for a number", "1e999", -1.0);
+    addRow("long nonsense", QString(30000, u'x'), -1.0);
 }
 
 void tst_QuickPrintWidget::canvasSizeIsReadFromTheFields()
 {
     QFETCH(const QString, text);
     QFETCH(const double, expected);
-    QuickPanel panel;
+    QuickPrintFixture panel;
     panel.setCanvasSize(QSizeF(6, 3));
     panel.lengthEdit()->setText(text);
     QCOMPARE(panel.getCanvasSize(), QSizeF(expected, 3.0));
@@ -352,35 +348,35 @@ void tst_QuickPrintWidget::canvasSizeIsReadFromTheFields()
     QCOMPARE(panel.getCanvasSize(), QSizeF(6.0, expected));
 }
 
-void tst_QuickPrintWidget::resizeTellsWhatWasTyped()
+void tst_QuickPrintWidget::resizeReportsWhatWasTyped()
 {
-    QuickPanel panel;
-    Listener listener(panel);
+    QuickPrintFixture panel;
+    SignalCounter counter(panel);
     panel.show();
     QTest::keyClicks(panel.lengthEdit(), QStringLiteral("4.25"));
     QTest::keyClicks(panel.widthEdit(), QStringLiteral("1.5"));
-    QCOMPARE(listener.heard(), 0);
+    QCOMPARE(counter.total(), 0);
     click(panel.button("resizeButton"));
-    QCOMPARE(listener.heard(), 1);
-    QCOMPARE(listener.resized.size(), 1);
-    QCOMPARE(listener.resized.last().first().toSizeF(), QSizeF(4.25, 1.5));
+    QCOMPARE(counter.total(), 1);
+    QCOMPARE(counter.resized.size(), 1);
+    QCOMPARE(counter.resized.last().first().toSizeF(), QSizeF(4.25, 1.5));
 }
 
-void tst_QuickPrintWidget::resizeTellsOfBadSizesToo()
+void tst_QuickPrintWidget::resizeReportsBadSizesToo()
 {
-    QuickPanel panel;
-    Listener listener(panel);
+    QuickPrintFixture panel;
+    SignalCounter counter(panel);
     panel.show();
     panel.setCanvasSize(QSizeF(3, 2));
     panel.lengthEdit()->clear();
     QTest::keyClicks(panel.lengthEdit(), QStringLiteral("abc"));
     QCOMPARE(panel.lengthEdit()->text(), QStringLiteral("abc"));
     click(panel.button("resizeButton"));
-    QCOMPARE(listener.resized.last().first().toSizeF(), QSizeF(-1.0, 2.0));
+    QCOMPARE(counter.resized.last().first().toSizeF(), QSizeF(-1.0, 2.0));
     panel.widthEdit()->clear();
     panel.resizeSlot();
-    QCOMPARE(listener.resized.size(), 2);
-    QCOMPARE(listener.resized.last().first().toSizeF(), QSizeF(-1.0, -1.0));
+    QCOMPARE(counter.resized.size(), 2);
+    QCOMPARE(counter.resized.last().first().toSizeF(), QSizeF(-1.0, -1.0));
 }
 
 void tst_QuickPrintWidget::printAsksForTheShownLabel_data()
@@ -393,52 +389,52 @@ void tst_QuickPrintWidget::printAsksForTheShownLabel_data()
 void tst_QuickPrintWidget::printAsksForTheShownLabel()
 {
     QFETCH(const int, copies);
-    QuickPanel panel;
-    Listener listener(panel);
+    QuickPrintFixture panel;
+    SignalCounter counter(panel);
     panel.show();
     panel.setNumberOfCopies(copies);
     panel.updateCurrentRangeIndex(4);
     click(panel.button("printButton"));
-    QCOMPARE(listener.heard(), 0);
+    QCOMPARE(counter.total(), 0);
     panel.enablePrintButtons();
     click(panel.button("printButton"));
-    QCOMPARE(listener.heard(), 1);
-    QCOMPARE(listener.printed.size(), 1);
-    QCOMPARE(listener.printed.last(), QVariantList({-1, -1, QString()}));
+    QCOMPARE(counter.total(), 1);
+    QCOMPARE(counter.printed.size(), 1);
+    QCOMPARE(counter.printed.last(), QVariantList({-1, -1, QString()}));
     panel.disableAllButtons();
     panel.printSlot();
-    QCOMPARE(listener.printed.size(), 2);
-    QCOMPARE(listener.printed.last(), QVariantList({-1, -1, QString()}));
+    QCOMPARE(counter.printed.size(), 2);
+    QCOMPARE(counter.printed.last(), QVariantList({-1, -1, QString()}));
 }
 
 void tst_QuickPrintWidget::openInEditorAsksForTheModule()
 {
-    QuickPanel panel;
-    Listener listener(panel);
+    QuickPrintFixture panel;
+    SignalCounter counter(panel);
     panel.show();
     click(panel.button("openInEditorButton"));
-    QCOMPARE(listener.moduleOpened.size(), 1);
-    QCOMPARE(listener.heard(), 1);
+    QCOMPARE(counter.moduleOpened.size(), 1);
+    QCOMPARE(counter.total(), 1);
     panel.disableAllButtons();
     click(panel.button("openInEditorButton"));
-    QCOMPARE(listener.heard(), 1);
+    QCOMPARE(counter.total(), 1);
 }
 
 void tst_QuickPrintWidget::printerNameIsShownAsGiven_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::newRow("plain") << QStringLiteral("Label Printer 3");
-    QTest::newRow("empty") << QString();
-    QTest::newRow("markup") << QStringLiteral("<b>Printer</b> <img src='x'>");
-    QTest::newRow("ampersand") << QStringLiteral("Salt & Pepper");
-    QTest::newRow("lines") << QStringLiteral("one\ntwo\nthree");
-    QTest::newRow("place marker") << QStringLiteral("%1 %2");
+    addRow("plain", "Label Printer 3");
+    addRow("empty", QString());
+    addRow("markup", "<b>Printer</b> <img src='x'>");
+    addRow("ampersand", "Salt & Pepper");
+    addRow("lines", "one\ntwo\nthree");
+    addRow("place marker", "%1 %2");
 }
 
 void tst_QuickPrintWidget::printerNameIsShownAsGiven()
 {
     QFETCH(const QString, name);
-    QuickPanel panel;
+    QuickPrintFixture panel;
     panel.setCurrentPrinterName(QStringLiteral("another"));
     panel.setCurrentPrinterName(name);
     QCOMPARE(panel.nameLabel()->text(), name);
@@ -448,18 +444,18 @@ void tst_QuickPrintWidget::printerNameIsShownAsGiven()
 
 void tst_QuickPrintWidget::currentRecordChangesNothing()
 {
-    QuickPanel panel;
-    Listener listener(panel);
+    QuickPrintFixture panel;
+    SignalCounter counter(panel);
     const QStringList before = stateOf(panel);
     for (const int index : {0, 5, -1, std::numeric_limits<int>::max()})
         panel.updateCurrentRangeIndex(index);
     QCOMPARE(stateOf(panel), before);
-    QCOMPARE(listener.heard(), 0);
+    QCOMPARE(counter.total(), 0);
 }
 
 void tst_QuickPrintWidget::operationsOfOtherPanelsDoNothing()
 {
-    QuickPanel quick;
+    QuickPrintFixture quick;
     PrintWidgetInterface& panel = quick;
     const QStringList before = stateOf(quick);
     const QStringList names = {QStringLiteral("one"), QStringLiteral("two")};
@@ -481,10 +477,10 @@ void tst_QuickPrintWidget::operationsOfOtherPanelsDoNothing()
     QCOMPARE(stateOf(quick), before);
 }
 
-void tst_QuickPrintWidget::hostsChangesAreNotToldBack()
+void tst_QuickPrintWidget::changesByTheHostAreNotReported()
 {
-    QuickPanel panel;
-    Listener listener(panel);
+    QuickPrintFixture panel;
+    SignalCounter counter(panel);
     panel.setModule(JxModuleInfo::JxCatalog);
     panel.setNumberOfCopies(7);
     panel.setCurrentPrinterName(QStringLiteral("Printer"));
@@ -493,12 +489,12 @@ void tst_QuickPrintWidget::hostsChangesAreNotToldBack()
     panel.enableAllButtons();
     panel.show();
     panel.hide();
-    QCOMPARE(listener.heard(), 0);
+    QCOMPARE(counter.total(), 0);
 }
 
 void tst_QuickPrintWidget::placeholderIsWhite()
 {
-    QuickPanel panel;
+    QuickPrintFixture panel;
     panel.view()->setFixedSize(200, 200);
     panel.show();
     QImage placeholder(30, 20, QImage::Format_ARGB32_Premultiplied);
@@ -515,7 +511,7 @@ void tst_QuickPrintWidget::placeholderIsWhite()
 
 void tst_QuickPrintWidget::newImageIsFitted()
 {
-    QuickPanel panel;
+    QuickPrintFixture panel;
     panel.show();
     const QImage image = speckledImage(QSize(64, 30));
     panel.updateQuickPrint(image);
@@ -533,16 +529,16 @@ void tst_QuickPrintWidget::newImageIsFitted()
 
 void tst_QuickPrintWidget::slotsCanBeCalledByName()
 {
-    QuickPanel panel;
-    Listener listener(panel);
+    QuickPrintFixture panel;
+    SignalCounter counter(panel);
     QSignalSpy resized(&panel, SIGNAL(resizeSignal(QSizeF)));
     QVERIFY(resized.isValid());
     QVERIFY(QMetaObject::invokeMethod(&panel, "printSlot"));
-    QCOMPARE(listener.printed.size(), 1);
+    QCOMPARE(counter.printed.size(), 1);
     QVERIFY(QMetaObject::invokeMethod(&panel, "resizeSlot"));
     QCOMPARE(resized.size(), 1);
     QVERIFY(QMetaObject::invokeMethod(&panel, "updateCurrentRangeIndex", Q_ARG(int, 3)));
-    QCOMPARE(listener.heard(), 2);
+    QCOMPARE(counter.total(), 2);
 }
 
 QTEST_MAIN(tst_QuickPrintWidget)

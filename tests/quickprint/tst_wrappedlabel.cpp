@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 
 #include "quickprint/wrappedlabel.h"
+#include "support/inputevents.h"
 #include "support/stricttest.h"
 
 #include <QtCore/QElapsedTimer>
-#include <QtGui/QHelpEvent>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QToolTip>
 
@@ -35,9 +35,7 @@ int inkedLines(WrappedLabel& label, int width)
 /** The tool tip that the label shows when it is asked for one. */
 QString toolTipOf(WrappedLabel& label)
 {
-    QToolTip::hideText();
-    QHelpEvent event(QEvent::ToolTip, QPoint(1, 1), label.mapToGlobal(QPoint(1, 1)));
-    QApplication::sendEvent(&label, &event);
+    askForToolTip(&label, QPoint(1, 1));
     return QToolTip::isVisible() ? QToolTip::text() : QString();
 }
 
@@ -79,14 +77,14 @@ void tst_WrappedLabel::takesTheLinesThatTheTextNeeds_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("lines");
     QTest::addColumn<int>("inked");
-    QTest::newRow("empty") << QString() << 1 << 0;
-    QTest::newRow("one word") << QStringLiteral("MMMM") << 1 << 1;
-    QTest::newRow("two words on two lines") << QStringLiteral("MMMMMM MMMMMM") << 2 << 2;
-    QTest::newRow("typed lines") << QStringLiteral("M\nM\nM") << 3 << 3;
-    QTest::newRow("an empty line") << QStringLiteral("M\n\nM") << 3 << 2;
-    QTest::newRow("word that no line holds") << QString(12, u'M') << 2 << 2;
-    QTest::newRow("more than four lines") << QString(200, u'M') << 4 << 4;
-    QTest::newRow("many typed lines") << QString(2000, u'\n') << 4 << 0;
+    addRow("empty", QString(), 1, 0);
+    addRow("one word", "MMMM", 1, 1);
+    addRow("two words on two lines", "MMMMMM MMMMMM", 2, 2);
+    addRow("typed lines", "M\nM\nM", 3, 3);
+    addRow("an empty line", "M\n\nM", 3, 2);
+    addRow("word that no line holds", QString(12, u'M'), 2, 2);
+    addRow("more than four lines", QString(200, u'M'), 4, 4);
+    addRow("many typed lines", QString(2000, u'\n'), 4, 0);
 }
 
 void tst_WrappedLabel::takesTheLinesThatTheTextNeeds()

@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#ifndef POPUP_H
-#define POPUP_H
+#ifndef PREVIEWFIXTURE_H
+#define PREVIEWFIXTURE_H
+
+#include "support/panelfixture.h"
 
 #include <QtCore/QSizeF>
 #include <QtCore/QString>
@@ -12,7 +14,6 @@
 
 class ContainerTitleBar;
 class QAbstractButton;
-class QPushButton;
 
 /** What a host hands to the popup, with values that suit most tests. */
 struct PopupContent
@@ -28,20 +29,18 @@ struct PopupContent
     QString recordList;
 };
 
-/** A popup with this content. */
-class Popup : public PrintPreviewDialog
+/** A popup with this content, and its parts by name. */
+class PreviewFixture : public PanelFixture<PrintPreviewDialog>
 {
 public:
-    explicit Popup(const PopupContent& content = PopupContent(), QWidget* parent = nullptr,
-                   Qt::WindowFlags flags = Qt::FramelessWindowHint);
+    explicit PreviewFixture(const PopupContent& content = PopupContent(), QWidget* parent = nullptr,
+                            Qt::WindowFlags flags = Qt::FramelessWindowHint);
 
     /** updatePreview() with this content. */
     void update(const PopupContent& content);
     /** setUpTitleBar() with this content. */
     void title(const PopupContent& content);
 
-    QPushButton* button(const char* name) const;
-    QWidget* view() const;
     ContainerTitleBar* bar() const;
     /** The title bar's own close button. */
     QAbstractButton* cross() const;
