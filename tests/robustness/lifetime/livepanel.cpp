@@ -13,7 +13,6 @@
 #include <QtCore/QPointer>
 #include <QtCore/QSizeF>
 #include <QtGui/QImage>
-#include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QVBoxLayout>
 
@@ -124,11 +123,4 @@ void deleteWidgetsLeft()
     // One may be the child of another, as the list of a combo box is.
     for (const QPointer<QWidget>& window : left)
         delete window.data();
-}
-
-bool showActive(QWidget& window)
-{
-    window.show();
-    window.activateWindow();
-    return QTest::qWaitForWindowActive(&window);
 }

@@ -4,15 +4,10 @@
 #ifndef LIVEPANEL_H
 #define LIVEPANEL_H
 
+#include "support/panelfixture.h"
+
 #include <QtCore/QStringList>
 #include <QtWidgets/QWidget>
-
-/** The part of @p window with this object name, or null when there is none of this kind. */
-template <typename Part>
-Part* part(const QWidget& window, const char* name)
-{
-    return window.findChild<Part*>(QLatin1String(name));
-}
 
 // Panels on which everything can be done, on the heap because their host may delete them at any
 // time. They are not shown yet.
@@ -41,8 +36,5 @@ QStringList widgetsLeft();
 
 /** Deletes whatever a failed test left, so that it does not make others fail. */
 void deleteWidgetsLeft();
-
-/** Shows @p window, activates it and waits until it has the keyboard. */
-bool showActive(QWidget& window);
 
 #endif

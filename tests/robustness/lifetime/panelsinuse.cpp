@@ -3,8 +3,8 @@
 
 #include "panelsinuse.h"
 
-#include "hostkit/inputevents.h"
 #include "livepanel.h"
+#include "support/inputevents.h"
 
 #include <colormenu.h>
 #include <containertitlebar.h>

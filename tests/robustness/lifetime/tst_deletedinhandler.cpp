@@ -1,10 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "executioner.h"
-#include "livepanel.h"
-#include "support/stricttest.h"
-#include "useractions.h"
+#include "lifetimetest.h"
 
 #include <printpanels/multipageprintwidget.h>
 #include <printpanels/printpreviewdialog.h>
@@ -16,7 +13,6 @@
 
 #include <memory>
 
-Q_DECLARE_METATYPE(UserAction)
 using HostAct = void (*)(QWidget&);
 Q_DECLARE_METATYPE(HostAct)
 
@@ -24,12 +20,11 @@ Q_DECLARE_METATYPE(HostAct)
  * Hosts that delete a panel, or the window around it, in a handler of the panel's own signals: at
  * once where a button was clicked, later everywhere.
  */
-class tst_DeletedInHandler : public StrictTest
+class tst_DeletedInHandler : public LifetimeTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
     void everySignalHasARow();
     void panelDeletedAtOnce_data();
     void panelDeletedAtOnce();
@@ -47,21 +42,15 @@ private Q_SLOTS:
     void panelDeletedSoonWhileTheHostActs();
     void windowDeletedSoonWhileTheHostActs_data();
     void windowDeletedSoonWhileTheHostActs();
+
+private:
+    void deletePanel(Deleter::When when);
+    void deletePanelInAWindow(Deleter::When when);
+    void deleteWindow(Deleter::When when);
+    void deleteWhileTheHostActs(bool inAWindow);
 };
 
 namespace {
-
-enum class Rows { Clicks, All };
-
-void addRows(Rows rows)
-{
-    QTest::addColumn<UserAction>("action");
-    const QList<UserAction> actions = userActions();
-    for (const UserAction& action : actions) {
-        if (rows == Rows::All || action.clicksAButton)
-            QTest::newRow(action.name) << action;
-    }
-}
 
 void addHostRows()
 {
@@ -69,13 +58,22 @@ void addHostRows()
     QTest::addColumn<QByteArray>("signal");
     const QByteArray shown = SIGNAL(printWidgetShowSignal());
     const QByteArray left = SIGNAL(focusLost());
-    QTest::newRow("shows") << HostAct([](QWidget& panel) {
-        panel.hide();
-        panel.show();
-    }) << shown;
-    QTest::newRow("hides") << HostAct([](QWidget& panel) { panel.hide(); }) << left;
-    QTest::newRow("disables") << HostAct([](QWidget& panel) { panel.setEnabled(false); }) << left;
-    QTest::newRow("closes") << HostAct([](QWidget& panel) { panel.close(); }) << left;
+    const auto row = [](const char* name, HostAct act, const QByteArray& signal) {
+        addRow(name, act, signal);
+    };
+    row(
+        "shows",
+        [](QWidget& panel) {
+            panel.hide();
+            panel.show();
+        },
+        shown);
+    row(
+        "hides", [](QWidget& panel) { panel.hide(); }, left);
+    row(
+        "disables", [](QWidget& panel) { panel.setEnabled(false); }, left);
+    row(
+        "closes", [](QWidget& panel) { panel.close(); }, left);
 }
 
 /** The signals that @p meta declares and inherits from the panels' interface, as SIGNAL() texts. */
@@ -90,11 +88,6 @@ QByteArrayList signalsOf(const QMetaObject& meta)
 }
 
 } // namespace
-
-void tst_DeletedInHandler::cleanup()
-{
-    deleteWidgetsLeft();
-}
 
 void tst_DeletedInHandler::everySignalHasARow()
 {
@@ -115,113 +108,87 @@ void tst_DeletedInHandler::everySignalHasARow()
 
 void tst_DeletedInHandler::panelDeletedAtOnce_data()
 {
-    addRows(Rows::Clicks);
+    addActionRows(Deleter::AtOnce);
 }
 
 void tst_DeletedInHandler::panelDeletedAtOnce()
 {
+    deletePanel(Deleter::AtOnce);
+}
+
+void tst_DeletedInHandler::panelDeletedSoon_data()
+{
+    addActionRows(Deleter::Soon);
+}
+
+void tst_DeletedInHandler::panelDeletedSoon()
+{
+    deletePanel(Deleter::Soon);
+}
+
+void tst_DeletedInHandler::deletePanel(Deleter::When when)
+{
     QFETCH(const UserAction, action);
-    Executioner host;
-    host.victim = action.create();
-    QVERIFY(showActive(*host.victim));
-    QVERIFY(connect(emitterOf(action, *host.victim), action.signal, &host, SLOT(deleteNow())));
-    action.act(host.victim);
-    QVERIFY(host.victim.isNull());
-    QCOMPARE(host.calls, 1);
+    Deleter host(action.create());
+    actAndDelete(action, host.target, host, when);
     QCOMPARE(widgetsLeft(), QStringList());
 }
 
 void tst_DeletedInHandler::panelInAWindowDeletedAtOnce_data()
 {
-    addRows(Rows::Clicks);
+    addActionRows(Deleter::AtOnce);
 }
 
 void tst_DeletedInHandler::panelInAWindowDeletedAtOnce()
 {
+    deletePanelInAWindow(Deleter::AtOnce);
+}
+
+void tst_DeletedInHandler::panelInAWindowDeletedSoon_data()
+{
+    addActionRows(Deleter::Soon);
+}
+
+void tst_DeletedInHandler::panelInAWindowDeletedSoon()
+{
+    deletePanelInAWindow(Deleter::Soon);
+}
+
+void tst_DeletedInHandler::deletePanelInAWindow(Deleter::When when)
+{
     QFETCH(const UserAction, action);
-    Executioner host;
-    host.victim = action.create();
-    const std::unique_ptr<QWidget> window(newWindowAround(host.victim));
-    QVERIFY(showActive(*window));
-    QVERIFY(connect(emitterOf(action, *host.victim), action.signal, &host, SLOT(deleteNow())));
-    action.act(host.victim);
-    QVERIFY(host.victim.isNull());
-    QCOMPARE(host.calls, 1);
+    Deleter host(action.create());
+    const std::unique_ptr<QWidget> window(newWindowAround(host.target));
+    actAndDelete(action, host.target, host, when);
     QCOMPARE(widgetsLeft().size(), 2); // the window and what is in it
 }
 
 void tst_DeletedInHandler::windowDeletedAtOnce_data()
 {
-    addRows(Rows::Clicks);
+    addActionRows(Deleter::AtOnce);
 }
 
 void tst_DeletedInHandler::windowDeletedAtOnce()
 {
-    QFETCH(const UserAction, action);
-    Executioner host;
-    const QPointer<QWidget> panel(action.create());
-    host.victim = newWindowAround(panel);
-    QVERIFY(showActive(*host.victim));
-    QVERIFY(connect(emitterOf(action, *panel), action.signal, &host, SLOT(deleteNow())));
-    action.act(panel);
-    QVERIFY(host.victim.isNull());
-    QCOMPARE(host.calls, 1);
-    QCOMPARE(widgetsLeft(), QStringList());
-}
-
-void tst_DeletedInHandler::panelDeletedSoon_data()
-{
-    addRows(Rows::All);
-}
-
-void tst_DeletedInHandler::panelDeletedSoon()
-{
-    QFETCH(const UserAction, action);
-    Executioner host;
-    host.victim = action.create();
-    QVERIFY(showActive(*host.victim));
-    QVERIFY(connect(emitterOf(action, *host.victim), action.signal, &host, SLOT(deleteSoon())));
-    action.act(host.victim);
-    QTRY_VERIFY(host.victim.isNull());
-    QVERIFY(host.calls > 0);
-    QCOMPARE(widgetsLeft(), QStringList());
-}
-
-void tst_DeletedInHandler::panelInAWindowDeletedSoon_data()
-{
-    addRows(Rows::All);
-}
-
-void tst_DeletedInHandler::panelInAWindowDeletedSoon()
-{
-    QFETCH(const UserAction, action);
-    Executioner host;
-    host.victim = action.create();
-    const std::unique_ptr<QWidget> window(newWindowAround(host.victim));
-    QVERIFY(showActive(*window));
-    QVERIFY(connect(emitterOf(action, *host.victim), action.signal, &host, SLOT(deleteSoon())));
-    action.act(host.victim);
-    QTRY_VERIFY(host.victim.isNull());
-    QVERIFY(host.calls > 0);
-    QCOMPARE(widgetsLeft().size(), 2); // the window and what is in it
+    deleteWindow(Deleter::AtOnce);
 }
 
 void tst_DeletedInHandler::windowDeletedSoon_data()
 {
-    addRows(Rows::All);
+    addActionRows(Deleter::Soon);
 }
 
 void tst_DeletedInHandler::windowDeletedSoon()
 {
+    deleteWindow(Deleter::Soon);
+}
+
+void tst_DeletedInHandler::deleteWindow(Deleter::When when)
+{
     QFETCH(const UserAction, action);
-    Executioner host;
     const QPointer<QWidget> panel(action.create());
-    host.victim = newWindowAround(panel);
-    QVERIFY(showActive(*host.victim));
-    QVERIFY(connect(emitterOf(action, *panel), action.signal, &host, SLOT(deleteSoon())));
-    action.act(panel);
-    QTRY_VERIFY(host.victim.isNull());
-    QVERIFY(host.calls > 0);
+    Deleter host(newWindowAround(panel));
+    actAndDelete(action, panel, host, when);
     QCOMPARE(widgetsLeft(), QStringList());
 }
 
@@ -232,18 +199,7 @@ void tst_DeletedInHandler::panelDeletedSoonWhileTheHostActs_data()
 
 void tst_DeletedInHandler::panelDeletedSoonWhileTheHostActs()
 {
-    QFETCH(const HostAct, act);
-    QFETCH(const QByteArray, signal);
-    Executioner host;
-    host.victim = newMultiPagePanel();
-    QVERIFY(showActive(*host.victim));
-    part<QWidget>(*host.victim, "copiesEdit")->setFocus();
-    QVERIFY(connect(host.victim, signal, &host, SLOT(deleteSoon())));
-    act(*host.victim);
-    QVERIFY(host.calls > 0);
-    QVERIFY(host.victim);
-    QTRY_VERIFY(host.victim.isNull());
-    QCOMPARE(widgetsLeft(), QStringList());
+    deleteWhileTheHostActs(false);
 }
 
 void tst_DeletedInHandler::windowDeletedSoonWhileTheHostActs_data()
@@ -253,18 +209,22 @@ void tst_DeletedInHandler::windowDeletedSoonWhileTheHostActs_data()
 
 void tst_DeletedInHandler::windowDeletedSoonWhileTheHostActs()
 {
+    deleteWhileTheHostActs(true);
+}
+
+void tst_DeletedInHandler::deleteWhileTheHostActs(bool inAWindow)
+{
     QFETCH(const HostAct, act);
     QFETCH(const QByteArray, signal);
-    Executioner host;
     QWidget* const panel = newMultiPagePanel();
-    host.victim = newWindowAround(panel);
-    QVERIFY(showActive(*host.victim));
+    Deleter host(inAWindow ? newWindowAround(panel) : panel);
+    QVERIFY(showActive(*host.target));
     part<QWidget>(*panel, "copiesEdit")->setFocus();
     QVERIFY(connect(panel, signal, &host, SLOT(deleteSoon())));
-    act(*host.victim);
+    act(*host.target);
     QVERIFY(host.calls > 0);
-    QVERIFY(host.victim);
-    QTRY_VERIFY(host.victim.isNull());
+    QVERIFY(host.target);
+    QTRY_VERIFY(host.target.isNull());
     QCOMPARE(widgetsLeft(), QStringList());
 }
 

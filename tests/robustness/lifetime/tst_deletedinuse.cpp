@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "hostkit/inputevents.h"
 #include "livepanel.h"
 #include "panelsinuse.h"
+#include "support/inputevents.h"
 #include "support/stricttest.h"
 
 #include <QtCore/QPointer>
@@ -20,7 +20,7 @@ class tst_DeletedInUse : public StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
+    void cleanup() override;
     void deletedAtOnce_data();
     void deletedAtOnce();
     void deletedInAWindow_data();

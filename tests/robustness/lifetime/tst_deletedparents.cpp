@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "livepanel.h"
-#include "support/stricttest.h"
+#include "lifetimetest.h"
 
 #include <colormenu.h>
 #include <printpanels/multipageprintdialog.h>
@@ -15,19 +14,14 @@
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QTabBar>
 
-#include <algorithm>
 #include <memory>
 
-using Create = QWidget* (*)();
-Q_DECLARE_METATYPE(Create)
-
 /** Hosts that delete what is around a panel before the panel, or a part of it. */
-class tst_DeletedParents : public StrictTest
+class tst_DeletedParents : public LifetimeTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
     void windowFirst_data();
     void windowFirst();
     void parentBetweenFirst_data();
@@ -42,30 +36,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-void addKindRows()
-{
-    QTest::addColumn<Create>("create");
-    const QList<PanelKind> kinds = panelKinds();
-    for (const PanelKind& kind : kinds)
-        QTest::newRow(kind.name) << kind.create;
-}
-
-/** The panel, or window around one, and all that it consists of. */
-QList<QPointer<QObject>> partsOf(QWidget* panel)
-{
-    QList<QPointer<QObject>> parts = {panel};
-    const QObjectList children = panel->findChildren<QObject*>();
-    for (QObject* child : children)
-        parts.append(child);
-    return parts;
-}
-
-bool areGone(const QList<QPointer<QObject>>& parts)
-{
-    return std::all_of(parts.begin(), parts.end(),
-                       [](const QPointer<QObject>& part) { return part.isNull(); });
-}
 
 bool isOfQtsOwn(const QWidget& child)
 {
@@ -100,11 +70,6 @@ void disturb(QWidget& panel)
 }
 
 } // namespace
-
-void tst_DeletedParents::cleanup()
-{
-    deleteWidgetsLeft();
-}
 
 void tst_DeletedParents::windowFirst_data()
 {
@@ -206,10 +171,10 @@ void tst_DeletedParents::partFirst()
     QWidget* panel = create();
     const std::unique_ptr<QWidget> window(newWindowAround(panel));
     QVERIFY(showActive(*window));
-    const QPointer<QWidget> victim(panel->findChild<QWidget*>(name));
-    QVERIFY(victim);
-    victim->setFocus();
-    delete victim.data();
+    const QPointer<QWidget> child(panel->findChild<QWidget*>(name));
+    QVERIFY(child);
+    child->setFocus();
+    delete child.data();
     disturb(*window);
     const QList<QPointer<QObject>> parts = partsOf(panel);
     delete panel;

@@ -1,10 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "executioner.h"
-#include "livepanel.h"
-#include "support/stricttest.h"
-#include "useractions.h"
+#include "lifetimetest.h"
 
 #include <printpanels/multipageprintdialog.h>
 #include <printpanels/multipageprintwidget.h>
@@ -12,7 +9,6 @@
 #include <QtCore/QTimer>
 #include <QtWidgets/QAbstractButton>
 
-Q_DECLARE_METATYPE(UserAction)
 using End = void (*)(QDialog&);
 Q_DECLARE_METATYPE(End)
 
@@ -21,12 +17,11 @@ Q_DECLARE_METATYPE(End)
  * where a button of the panel was clicked, later everywhere. QDialog does not guard its own
  * signals.
  */
-class tst_DialogDeletedInHandler : public StrictTest
+class tst_DialogDeletedInHandler : public LifetimeTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
     void dialogDeletedAtOnceByItsPanel_data();
     void dialogDeletedAtOnceByItsPanel();
     void dialogDeletedAtOnceWhileItExecutes_data();
@@ -39,11 +34,15 @@ private Q_SLOTS:
     void dialogDeletedSoonWhenItEnds();
     void dialogDeletedSoonWhenItsExecutionEnds_data();
     void dialogDeletedSoonWhenItsExecutionEnds();
+
+private:
+    void deleteByItsPanel(Deleter::When when);
+    void deleteWhileItExecutes(Deleter::When when);
 };
 
 namespace {
 
-QWidget* panelIn(const QDialog& dialog)
+QWidget* panelIn(const QWidget& dialog)
 {
     return dialog.findChild<MultiPagePrintWidget*>();
 }
@@ -51,18 +50,6 @@ QWidget* panelIn(const QDialog& dialog)
 QDialog* newDialog()
 {
     return qobject_cast<QDialog*>(newMultiPageDialog());
-}
-
-enum class Rows { Clicks, All };
-
-void addActionRows(Rows rows)
-{
-    QTest::addColumn<UserAction>("action");
-    const QList<UserAction> actions = userActions();
-    for (const UserAction& action : actions) {
-        if (action.create == newMultiPagePanel && (rows == Rows::All || action.clicksAButton))
-            QTest::newRow(action.name) << action;
-    }
 }
 
 void addEndRows()
@@ -96,95 +83,71 @@ void addEndRows()
 
 } // namespace
 
-void tst_DialogDeletedInHandler::cleanup()
-{
-    deleteWidgetsLeft();
-}
-
 void tst_DialogDeletedInHandler::dialogDeletedAtOnceByItsPanel_data()
 {
-    addActionRows(Rows::Clicks);
+    addActionRows(Deleter::AtOnce, newMultiPagePanel);
 }
 
 void tst_DialogDeletedInHandler::dialogDeletedAtOnceByItsPanel()
 {
-    QFETCH(const UserAction, action);
-    Executioner host;
-    QDialog* dialog = newDialog();
-    host.victim = dialog;
-    QVERIFY(showActive(*dialog));
-    const QPointer<QWidget> panel(panelIn(*dialog));
-    QVERIFY(connect(emitterOf(action, *panel), action.signal, &host, SLOT(deleteNow())));
-    action.act(panel);
-    QVERIFY(host.victim.isNull());
-    QVERIFY(panel.isNull());
-    QCOMPARE(host.calls, 1);
-    QCOMPARE(widgetsLeft(), QStringList());
+    deleteByItsPanel(Deleter::AtOnce);
 }
 
 void tst_DialogDeletedInHandler::dialogDeletedAtOnceWhileItExecutes_data()
 {
-    addActionRows(Rows::Clicks);
+    addActionRows(Deleter::AtOnce, newMultiPagePanel);
 }
 
 void tst_DialogDeletedInHandler::dialogDeletedAtOnceWhileItExecutes()
 {
-    QFETCH(const UserAction, action);
-    Executioner host;
-    QDialog* dialog = newDialog();
-    host.victim = dialog;
-    const QPointer<QWidget> panel(panelIn(*dialog));
-    QVERIFY(connect(emitterOf(action, *panel), action.signal, &host, SLOT(deleteNow())));
-    QTimer::singleShot(0, this, [&] {
-        QVERIFY(QTest::qWaitForWindowActive(dialog));
-        action.act(panel);
-    });
-    QCOMPARE(dialog->exec(), int(QDialog::Rejected));
-    QVERIFY(host.victim.isNull());
-    QCOMPARE(host.calls, 1);
-    QCOMPARE(widgetsLeft(), QStringList());
+    deleteWhileItExecutes(Deleter::AtOnce);
 }
 
 void tst_DialogDeletedInHandler::dialogDeletedSoonByItsPanel_data()
 {
-    addActionRows(Rows::All);
+    addActionRows(Deleter::Soon, newMultiPagePanel);
 }
 
 void tst_DialogDeletedInHandler::dialogDeletedSoonByItsPanel()
 {
-    QFETCH(const UserAction, action);
-    Executioner host;
-    QDialog* dialog = newDialog();
-    host.victim = dialog;
-    QVERIFY(showActive(*dialog));
-    const QPointer<QWidget> panel(panelIn(*dialog));
-    QVERIFY(connect(emitterOf(action, *panel), action.signal, &host, SLOT(deleteSoon())));
-    action.act(panel);
-    QTRY_VERIFY(host.victim.isNull());
-    QVERIFY(panel.isNull());
-    QVERIFY(host.calls > 0);
-    QCOMPARE(widgetsLeft(), QStringList());
+    deleteByItsPanel(Deleter::Soon);
 }
 
 void tst_DialogDeletedInHandler::dialogDeletedSoonWhileItExecutes_data()
 {
-    addActionRows(Rows::All);
+    addActionRows(Deleter::Soon, newMultiPagePanel);
 }
 
 void tst_DialogDeletedInHandler::dialogDeletedSoonWhileItExecutes()
 {
+    deleteWhileItExecutes(Deleter::Soon);
+}
+
+void tst_DialogDeletedInHandler::deleteByItsPanel(Deleter::When when)
+{
     QFETCH(const UserAction, action);
-    Executioner host;
+    Deleter host(newMultiPageDialog());
+    const QPointer<QWidget> panel(panelIn(*host.target));
+    actAndDelete(action, panel, host, when);
+    QVERIFY(panel.isNull());
+    QCOMPARE(widgetsLeft(), QStringList());
+}
+
+void tst_DialogDeletedInHandler::deleteWhileItExecutes(Deleter::When when)
+{
+    QFETCH(const UserAction, action);
     QDialog* dialog = newDialog();
-    host.victim = dialog;
+    Deleter host(dialog);
     const QPointer<QWidget> panel(panelIn(*dialog));
-    QVERIFY(connect(emitterOf(action, *panel), action.signal, &host, SLOT(deleteSoon())));
+    QVERIFY(connect(emitterOf(action, *panel), action.signal, &host, Deleter::slot(when)));
     QTimer::singleShot(0, this, [&] {
         QVERIFY(QTest::qWaitForWindowActive(dialog));
         action.act(panel);
     });
     QCOMPARE(dialog->exec(), int(QDialog::Rejected));
-    QVERIFY(host.victim.isNull());
+    QVERIFY(host.target.isNull());
+    if (when == Deleter::AtOnce)
+        QCOMPARE(host.calls, 1);
     QVERIFY(host.calls > 0);
     QCOMPARE(widgetsLeft(), QStringList());
 }
@@ -198,14 +161,13 @@ void tst_DialogDeletedInHandler::dialogDeletedSoonWhenItEnds()
 {
     QFETCH(const End, end);
     QFETCH(const QByteArray, signal);
-    Executioner host;
     QDialog* dialog = newDialog();
-    host.victim = dialog;
+    Deleter host(dialog);
     QVERIFY(connect(dialog, signal, &host, SLOT(deleteSoon())));
     QVERIFY(showActive(*dialog));
     part<QWidget>(*dialog, "copiesEdit")->setFocus();
     end(*dialog);
-    QTRY_VERIFY(host.victim.isNull());
+    QTRY_VERIFY(host.target.isNull());
     QCOMPARE(host.calls, 1);
     QCOMPARE(widgetsLeft(), QStringList());
 }
@@ -219,9 +181,8 @@ void tst_DialogDeletedInHandler::dialogDeletedSoonWhenItsExecutionEnds()
 {
     QFETCH(const End, end);
     QFETCH(const QByteArray, signal);
-    Executioner host;
     QDialog* dialog = newDialog();
-    host.victim = dialog;
+    Deleter host(dialog);
     QVERIFY(connect(dialog, signal, &host, SLOT(deleteSoon())));
     bool accepted = false;
     connect(dialog, &QDialog::accepted, this, [&accepted] { accepted = true; });
@@ -231,7 +192,7 @@ void tst_DialogDeletedInHandler::dialogDeletedSoonWhenItsExecutionEnds()
     });
     const int result = dialog->exec();
     QCOMPARE(result, int(accepted ? QDialog::Accepted : QDialog::Rejected));
-    QTRY_VERIFY(host.victim.isNull());
+    QTRY_VERIFY(host.target.isNull());
     QCOMPARE(host.calls, 1);
     QCOMPARE(widgetsLeft(), QStringList());
 }

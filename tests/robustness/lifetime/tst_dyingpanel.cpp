@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "livepanel.h"
-#include "support/stricttest.h"
+#include "lifetimetest.h"
 
 #include <printpanels/printwidget.h>
 
@@ -15,38 +14,29 @@
 
 #include <memory>
 
-using Create = QWidget* (*)();
-Q_DECLARE_METATYPE(Create)
-
 /** What happens while a panel is destroyed: it emits nothing, and its children go with it. */
-class tst_DyingPanel : public StrictTest
+class tst_DyingPanel : public LifetimeTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
     void emitsNothing_data();
     void emitsNothing();
     void takesItsChildrenAlong_data();
     void takesItsChildrenAlong();
 };
 
-void tst_DyingPanel::cleanup()
-{
-    deleteWidgetsLeft();
-}
-
 void tst_DyingPanel::emitsNothing_data()
 {
     QTest::addColumn<Create>("create");
     QTest::addColumn<QByteArray>("edit");
     QTest::addColumn<QByteArray>("signal");
-    QTest::newRow("print panel") << Create(newPrintPanel) << QByteArray("supplyWidthEdit")
-                                 << QByteArray(SIGNAL(supplyWidthChangedSignal(double)));
-    QTest::newRow("multi-page panel")
-        << Create(newMultiPagePanel) << QByteArray("copiesEdit") << QByteArray(SIGNAL(focusLost()));
-    QTest::newRow("multi-page dialog") << Create(newMultiPageDialog) << QByteArray("copiesEdit")
-                                       << QByteArray(SIGNAL(focusLost()));
+    addRow("print panel", Create(newPrintPanel), QByteArray("supplyWidthEdit"),
+           QByteArray(SIGNAL(supplyWidthChangedSignal(double))));
+    addRow("multi-page panel", Create(newMultiPagePanel), QByteArray("copiesEdit"),
+           QByteArray(SIGNAL(focusLost())));
+    addRow("multi-page dialog", Create(newMultiPageDialog), QByteArray("copiesEdit"),
+           QByteArray(SIGNAL(focusLost())));
 }
 
 // A window that is taken apart loses the keyboard before its edits are gone.
@@ -60,21 +50,21 @@ void tst_DyingPanel::emitsNothing()
     auto* panel = window->findChild<PrintWidgetInterface*>();
     if (!panel)
         panel = qobject_cast<PrintWidgetInterface*>(window.get());
-    QSignalSpy told(panel, signal.constData());
+    QSignalSpy emitted(panel, signal.constData());
     auto* typed = part<QLineEdit>(*window, edit.constData());
     typed->setFocus();
     QTest::keyClick(typed, Qt::Key_9);
     QVERIFY(typed->hasFocus());
-    QVERIFY(told.isEmpty());
+    QVERIFY(emitted.isEmpty());
     window.reset();
-    QCOMPARE(told.size(), 0);
+    QCOMPARE(emitted.size(), 0);
 }
 
 void tst_DyingPanel::takesItsChildrenAlong_data()
 {
     QTest::addColumn<bool>("inAHandler");
-    QTest::newRow("outside of its signals") << false;
-    QTest::newRow("in a handler") << true;
+    addRow("outside of its signals", false);
+    addRow("in a handler", true);
 }
 
 void tst_DyingPanel::takesItsChildrenAlong()

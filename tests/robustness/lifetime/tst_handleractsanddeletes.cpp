@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "livepanel.h"
-#include "support/stricttest.h"
+#include "lifetimetest.h"
 
 #include <printpanels/printwidget.h>
 
@@ -13,24 +12,6 @@
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
 
-/** Hosts that do more in a handler than delete the panel later. */
-class tst_HandlerActsAndDeletes : public StrictTest
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void cleanup();
-    void takesTheTagsAway_data();
-    void takesTheTagsAway();
-    void buildsTheTagsAgain();
-    void replacesThePrinters();
-    void hidesTheSupplyWhoseWidthIsEdited();
-    void runsALoopAfterwards();
-    void deletesInALoopOfAButtonsHandler();
-};
-
-namespace {
-
 struct LivePrintPanel
 {
     QPointer<PrintWidget> panel{static_cast<PrintWidget*>(newPrintPanel())};
@@ -38,58 +19,62 @@ struct LivePrintPanel
     QPointer<QComboBox> tags{part<QComboBox>(*panel, "AmmoniaPrintCombo")};
 };
 
-} // namespace
-
-void tst_HandlerActsAndDeletes::cleanup()
+/** Hosts that do more in a handler than delete the panel later. */
+class tst_HandlerActsAndDeletes : public LifetimeTest
 {
-    deleteWidgetsLeft();
-}
+    Q_OBJECT
+
+private Q_SLOTS:
+    void takesTheTagsAway_data();
+    void takesTheTagsAway();
+    void buildsTheTagsAgain();
+    void replacesThePrinters();
+    void hidesTheSupplyWhoseWidthIsEdited();
+    void runsALoopAfterwards();
+    void deletesInALoopOfAButtonsHandler();
+
+private:
+    /** The user chooses in @p combo, and the handler of @p signal acts and deletes the panel later.
+     */
+    template <typename Signal, typename Act>
+    void deletedAfter(Signal signal, QPointer<QComboBox> LivePrintPanel::*combo, Act act)
+    {
+        const LivePrintPanel live;
+        QVERIFY(showActive(*live.panel));
+        connect(live.panel, signal, this, [&] {
+            act(*live.panel);
+            live.panel->deleteLater();
+        });
+        QTest::keyClick(live.*combo, Qt::Key_Down);
+        QTRY_VERIFY(live.panel.isNull());
+        QCOMPARE(widgetsLeft(), QStringList());
+    }
+};
 
 void tst_HandlerActsAndDeletes::takesTheTagsAway_data()
 {
     QTest::addColumn<int>("tags");
-    QTest::newRow("none left") << 0;
-    QTest::newRow("others") << 3;
+    addRow("none left", 0);
+    addRow("others", 3);
 }
 
 void tst_HandlerActsAndDeletes::takesTheTagsAway()
 {
     QFETCH(const int, tags);
-    const LivePrintPanel live;
-    QVERIFY(showActive(*live.panel));
-    connect(live.panel, &PrintWidget::ammoniaPrintTagChanged, this, [&] {
-        live.panel->setVisibleAmmoniaTag(tags);
-        live.panel->deleteLater();
-    });
-    QTest::keyClick(live.tags, Qt::Key_Down);
-    QTRY_VERIFY(live.panel.isNull());
-    QCOMPARE(widgetsLeft(), QStringList());
+    deletedAfter(&PrintWidget::ammoniaPrintTagChanged, &LivePrintPanel::tags,
+                 [tags](PrintWidget& panel) { panel.setVisibleAmmoniaTag(tags); });
 }
 
 void tst_HandlerActsAndDeletes::buildsTheTagsAgain()
 {
-    const LivePrintPanel live;
-    QVERIFY(showActive(*live.panel));
-    connect(live.panel, &PrintWidget::ammoniaPrintTagChanged, this, [&] {
-        live.panel->setModule(JxModuleInfo::PipeMarking);
-        live.panel->deleteLater();
-    });
-    QTest::keyClick(live.tags, Qt::Key_Down);
-    QTRY_VERIFY(live.panel.isNull());
-    QCOMPARE(widgetsLeft(), QStringList());
+    deletedAfter(&PrintWidget::ammoniaPrintTagChanged, &LivePrintPanel::tags,
+                 [](PrintWidget& panel) { panel.setModule(JxModuleInfo::PipeMarking); });
 }
 
 void tst_HandlerActsAndDeletes::replacesThePrinters()
 {
-    const LivePrintPanel live;
-    QVERIFY(showActive(*live.panel));
-    connect(live.panel, &PrintWidget::currentPrinterSelectionChanged, this, [&] {
-        live.panel->updateListOfPrinters({}, 0);
-        live.panel->deleteLater();
-    });
-    QTest::keyClick(live.printers, Qt::Key_Down);
-    QTRY_VERIFY(live.panel.isNull());
-    QCOMPARE(widgetsLeft(), QStringList());
+    deletedAfter(&PrintWidget::currentPrinterSelectionChanged, &LivePrintPanel::printers,
+                 [](PrintWidget& panel) { panel.updateListOfPrinters({}, 0); });
 }
 
 void tst_HandlerActsAndDeletes::hidesTheSupplyWhoseWidthIsEdited()

@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "livepanel.h"
-#include "support/stricttest.h"
+#include "lifetimetest.h"
 
 #include <colormenu.h>
 #include <containertitlebar.h>
@@ -25,34 +24,26 @@
 #include <algorithm>
 #include <memory>
 
-using Create = QWidget* (*)();
-Q_DECLARE_METATYPE(Create)
 using Parts = QList<QPointer<QObject>>;
 
 /** That nothing of the kit, in a panel or alone, outlives its owner or needs its neighbours. */
-class tst_KitLifetime : public StrictTest
+class tst_KitLifetime : public LifetimeTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
-    void everythingInAPanelDiesWithIt_data();
-    void everythingInAPanelDiesWithIt();
+    void everythingInAPanelIsDeletedWithIt_data();
+    void everythingInAPanelIsDeletedWithIt();
     void inAnyOrder_data();
     void inAnyOrder();
-    void openListDiesWithItsBox();
-    void openMenuDiesWithItsEdit();
-    void baseStyleDiesWithItsProxy();
+    void openListIsDeletedWithItsBox();
+    void openMenuIsDeletedWithItsEdit();
+    void baseStyleIsDeletedWithItsProxy();
     void proxyBeforeItsButton();
     void validatorBeforeItsEdit();
 };
 
 namespace {
-
-bool isGone(const QPointer<QObject>& part)
-{
-    return part.isNull();
-}
 
 void addHelpers(Parts& parts, const QWidget& widget)
 {
@@ -66,15 +57,12 @@ void addHelpers(Parts& parts, const QWidget& widget)
 }
 
 /** What a panel consists of: its children, and what these hold without being its parent. */
-Parts partsOf(QWidget* panel)
+Parts partsAndHelpersOf(QWidget* panel)
 {
-    Parts parts = {panel};
-    const QObjectList children = panel->findChildren<QObject*>();
-    for (QObject* child : children) {
-        parts.append(child);
-        if (const auto* widget = qobject_cast<const QWidget*>(child))
-            addHelpers(parts, *widget);
-    }
+    Parts parts = partsOf(panel);
+    const QList<QWidget*> children = panel->findChildren<QWidget*>();
+    for (const QWidget* child : children)
+        addHelpers(parts, *child);
     parts.removeAll(QPointer<QObject>());
     return parts;
 }
@@ -126,27 +114,14 @@ Kit::Kit()
                   area->findChild<DragScrollButton*>(), area->findChild<DragScrollGroupBox*>()});
 }
 
-void addKindRows()
-{
-    QTest::addColumn<Create>("create");
-    const QList<PanelKind> kinds = panelKinds();
-    for (const PanelKind& kind : kinds)
-        QTest::newRow(kind.name) << kind.create;
-}
-
 } // namespace
 
-void tst_KitLifetime::cleanup()
-{
-    deleteWidgetsLeft();
-}
-
-void tst_KitLifetime::everythingInAPanelDiesWithIt_data()
+void tst_KitLifetime::everythingInAPanelIsDeletedWithIt_data()
 {
     addKindRows();
 }
 
-void tst_KitLifetime::everythingInAPanelDiesWithIt()
+void tst_KitLifetime::everythingInAPanelIsDeletedWithIt()
 {
     QFETCH(const Create, create);
     std::unique_ptr<QWidget> panel(create());
@@ -156,7 +131,7 @@ void tst_KitLifetime::everythingInAPanelDiesWithIt()
         combo->showPopup();
         combo->hidePopup();
     }
-    const Parts parts = partsOf(panel.get());
+    const Parts parts = partsAndHelpersOf(panel.get());
     QVERIFY(parts.size() > 10);
     panel.reset();
     QStringList left;
@@ -190,17 +165,17 @@ void tst_KitLifetime::inAnyOrder()
     std::rotate(order.begin(), order.begin() + first, order.end());
     if (backwards)
         std::reverse(order.begin() + 1, order.end());
-    for (const QPointer<QObject>& victim : std::as_const(order)) {
-        delete victim.data();
+    for (const QPointer<QObject>& object : std::as_const(order)) {
+        delete object.data();
         kit.window->grab();
         QCoreApplication::processEvents();
     }
     kit.window.reset();
-    QVERIFY(std::all_of(order.begin(), order.end(), isGone));
+    QVERIFY(areGone(order));
     QCOMPARE(QApplication::allWidgets(), QWidgetList());
 }
 
-void tst_KitLifetime::openListDiesWithItsBox()
+void tst_KitLifetime::openListIsDeletedWithItsBox()
 {
     Kit kit;
     QVERIFY(showActive(*kit.window));
@@ -213,7 +188,7 @@ void tst_KitLifetime::openListDiesWithItsBox()
     QCOMPARE(QApplication::activePopupWidget(), nullptr);
 }
 
-void tst_KitLifetime::openMenuDiesWithItsEdit()
+void tst_KitLifetime::openMenuIsDeletedWithItsEdit()
 {
     Kit kit;
     QVERIFY(showActive(*kit.window));
@@ -227,7 +202,7 @@ void tst_KitLifetime::openMenuDiesWithItsEdit()
     QCOMPARE(QApplication::activePopupWidget(), nullptr);
 }
 
-void tst_KitLifetime::baseStyleDiesWithItsProxy()
+void tst_KitLifetime::baseStyleIsDeletedWithItsProxy()
 {
     const QPointer<QStyle> base(QStyleFactory::create(QStringLiteral("fusion")));
     QVERIFY(base);

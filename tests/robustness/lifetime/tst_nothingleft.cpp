@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "livepanel.h"
-#include "support/stricttest.h"
+#include "lifetimetest.h"
 
 #include <colormenu.h>
 #include <printpanels/multipageprintdialog.h>
@@ -31,12 +30,11 @@ struct UsedPanel
 Q_DECLARE_METATYPE(UsedPanel)
 
 /** That nothing outlives a panel, however it was used, not even until the next event is handled. */
-class tst_NothingLeft : public StrictTest
+class tst_NothingLeft : public LifetimeTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
     void panelAlone_data();
     void panelAlone();
     void panelInAWindow_data();
@@ -225,11 +223,6 @@ QList<UsedPanel> usedPanels()
 }
 
 } // namespace
-
-void tst_NothingLeft::cleanup()
-{
-    deleteWidgetsLeft();
-}
 
 void tst_NothingLeft::addRows()
 {

@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "livepanel.h"
+#include "lifetimetest.h"
 #include "panelcycles.h"
-#include "support/stricttest.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -11,12 +10,11 @@
 #include <limits>
 
 /** That panels which come and go leave nothing behind, neither objects nor memory. */
-class tst_PanelCycles : public StrictTest
+class tst_PanelCycles : public LifetimeTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
     void noObjectIsLeft_data();
     void noObjectIsLeft();
     void memoryStaysFlat_data();
@@ -25,11 +23,6 @@ private Q_SLOTS:
 private:
     void addRows();
 };
-
-void tst_PanelCycles::cleanup()
-{
-    deleteWidgetsLeft();
-}
 
 void tst_PanelCycles::addRows()
 {

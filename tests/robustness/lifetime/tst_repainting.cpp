@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "livepanel.h"
+#include "lifetimetest.h"
 #include "panelcycles.h"
-#include "support/stricttest.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -11,24 +10,15 @@
 #include <limits>
 #include <memory>
 
-using Create = QWidget* (*)();
-Q_DECLARE_METATYPE(Create)
-
 /** That a panel which only stays on the screen takes no more memory the longer it does. */
-class tst_Repainting : public StrictTest
+class tst_Repainting : public LifetimeTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
     void memoryStaysFlat_data();
     void memoryStaysFlat();
 };
-
-void tst_Repainting::cleanup()
-{
-    deleteWidgetsLeft();
-}
 
 void tst_Repainting::memoryStaysFlat_data()
 {

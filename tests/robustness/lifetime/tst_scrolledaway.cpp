@@ -1,10 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "executioner.h"
-#include "hostkit/inputevents.h"
-#include "livepanel.h"
-#include "support/stricttest.h"
+#include "lifetimetest.h"
+#include "support/inputevents.h"
 
 #include <QtCore/QPointer>
 #include <QtWidgets/QApplication>
@@ -17,12 +15,11 @@
  * Hosts that delete a panel in a scroll area when it is scrolled, as by a drag on the panel. The
  * signal is that of the area's bar, so the panel may go at once.
  */
-class tst_ScrolledAway : public StrictTest
+class tst_ScrolledAway : public LifetimeTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
     void byADragOnThePanel_data();
     void byADragOnThePanel();
     void byTheAreasOwnBar();
@@ -48,11 +45,6 @@ struct Scrolled
 };
 
 } // namespace
-
-void tst_ScrolledAway::cleanup()
-{
-    deleteWidgetsLeft();
-}
 
 void tst_ScrolledAway::byADragOnThePanel_data()
 {
@@ -87,10 +79,9 @@ void tst_ScrolledAway::byADragOnThePanel()
         sideways ? scrolled.area->horizontalScrollBar() : scrolled.area->verticalScrollBar();
     bar->setValue(qMax(bar->value(), 1));
     const QPointer<QWidget> gripThen(grip);
-    Executioner host;
-    host.victim = wholeArea ? scrolled.area.data() : scrolled.panel.data();
-    const char* const slot = atOnce ? SLOT(deleteNow()) : SLOT(deleteSoon());
-    QVERIFY(connect(bar, SIGNAL(valueChanged(int)), &host, slot));
+    Deleter host(wholeArea ? scrolled.area.data() : scrolled.panel.data());
+    const Deleter::When when = atOnce ? Deleter::AtOnce : Deleter::Soon;
+    QVERIFY(connect(bar, SIGNAL(valueChanged(int)), &host, Deleter::slot(when)));
     const QPoint step = sideways ? QPoint(15, 0) : QPoint(0, 15);
     MouseDrag drag(grip, QPoint(4, 4));
     for (int i = 1; i < 4; ++i)
@@ -108,10 +99,9 @@ void tst_ScrolledAway::byTheAreasOwnBar()
 {
     const Scrolled scrolled(newPrintPanel());
     QVERIFY(showActive(*scrolled.window));
-    Executioner host;
-    host.victim = scrolled.panel;
+    Deleter host(scrolled.panel);
     QScrollBar* bar = scrolled.area->verticalScrollBar();
-    QVERIFY(connect(bar, SIGNAL(valueChanged(int)), &host, SLOT(deleteNow())));
+    QVERIFY(connect(bar, SIGNAL(valueChanged(int)), &host, Deleter::slot(Deleter::AtOnce)));
     MouseDrag press(bar, QPoint(bar->width() / 2, bar->height() - 3));
     QVERIFY(scrolled.panel.isNull());
     QTest::qWait(700); // as long as it takes until the bar's button repeats
@@ -126,10 +116,9 @@ void tst_ScrolledAway::whileTheCanvasIsDragged()
     QVERIFY(showActive(*scrolled.window));
     auto* canvas = part<QWidget>(*scrolled.panel, "PreviewView");
     scrolled.area->ensureWidgetVisible(canvas);
-    Executioner host;
-    host.victim = scrolled.panel;
+    Deleter host(scrolled.panel);
     QScrollBar* bar = scrolled.area->verticalScrollBar();
-    QVERIFY(connect(bar, SIGNAL(valueChanged(int)), &host, SLOT(deleteNow())));
+    QVERIFY(connect(bar, SIGNAL(valueChanged(int)), &host, Deleter::slot(Deleter::AtOnce)));
     MouseDrag drag(canvas, QPoint(50, 50));
     drag.moveBy(5, 5);
     QVERIFY(QApplication::overrideCursor() != nullptr);

@@ -4,6 +4,7 @@
 #include "useractions.h"
 
 #include "livepanel.h"
+#include "support/inputevents.h"
 #include "userinput.h"
 
 #include <QtCore/QCoreApplication>
@@ -33,7 +34,7 @@ void addComboRows(QList<UserAction>& rows, const UserAction& row, const char* co
         },
         [box](const Panel& panel) {
             box(panel)->setFocus();
-            turnWheel(box(panel));
+            turnWheelOver(box(panel), -120);
         },
         [box](const Panel& panel) { clickRow(box(panel), 1); },
         [box](const Panel& panel) { pickByKeys(box(panel), Qt::Key_Down); },

@@ -4,9 +4,7 @@
 #include "userinput.h"
 
 #include <QtCore/QPointer>
-#include <QtGui/QWheelEvent>
 #include <QtTest/QTest>
-#include <QtTest/qtestspontaneevent.h>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
@@ -23,16 +21,6 @@ void pressSpace(QWidget* widget)
 {
     widget->setFocus();
     QTest::keyClick(widget, Qt::Key_Space);
-}
-
-void turnWheel(QWidget* widget)
-{
-    const QPointF middle = QRectF(widget->rect()).center();
-    QWheelEvent event(middle, widget->mapToGlobal(middle), QPoint(), QPoint(0, -120), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    // Only an event from a device moves the focus and goes on to the parents.
-    QSpontaneKeyEvent::setSpontaneous(&event);
-    qApp->notify(widget, &event);
 }
 
 void clickRow(QComboBox* combo, int row)

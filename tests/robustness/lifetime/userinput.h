@@ -14,9 +14,6 @@ void click(QWidget* widget);
 
 void pressSpace(QWidget* widget);
 
-/** Turns the wheel over @p widget by one notch towards the user. */
-void turnWheel(QWidget* widget);
-
 /** Opens the list of @p combo and clicks an item. */
 void clickRow(QComboBox* combo, int row);
 

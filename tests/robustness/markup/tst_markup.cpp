@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "hostilepanels.h"
-#include "hostkit/inputevents.h"
+#include "support/inputevents.h"
 #include "support/stricttest.h"
 
 #include <colormenu.h>
