@@ -3,7 +3,7 @@
 
 #include "runner.h"
 
-#include "subject.h"
+#include "subjects/subject.h"
 
 #include <QtCore/QAbstractEventDispatcher>
 #include <QtCore/QCoreApplication>

@@ -4,7 +4,7 @@
 #ifndef MONKEY_RUNNER_H
 #define MONKEY_RUNNER_H
 
-#include "user.h"
+#include "user/user.h"
 #include "world.h"
 
 #include <functional>

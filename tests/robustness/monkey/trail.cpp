@@ -26,7 +26,7 @@ char lines[lineCount][lineLength];
 int written = 0;
 char repeatCommand[400];
 // To read a whole run.
-const bool tells = qEnvironmentVariableIsSet("PRINTPANELS_MONKEY_TRACE");
+const bool traces = qEnvironmentVariableIsSet("PRINTPANELS_MONKEY_TRACE");
 
 void store(char* place, int room, const QByteArray& text)
 {
@@ -111,7 +111,7 @@ void Trail::note(const QString& line)
     const QByteArray text = QByteArray::number(m_step) + ": " + line.toUtf8();
     store(lines[written % lineCount], lineLength, text);
     ++written;
-    if (tells)
+    if (traces)
         std::fprintf(stderr, "%s\n", text.constData());
     for (const char byte : text)
         m_fingerprint = (m_fingerprint ^ quint8(byte)) * 0x100000001b3ULL;
@@ -128,7 +128,7 @@ QString Trail::text() const
 
 } // namespace Monkey
 
-// Faults that the sanitizers find end in SIGABRT, so that the trail is told after their report.
+// Faults that the sanitizers find end in SIGABRT, so that the trail is printed after their report.
 #if defined(__SANITIZE_ADDRESS__) && defined(Q_OS_UNIX)
 extern "C" {
 Q_DECL_EXPORT const char* __asan_default_options();

@@ -12,15 +12,15 @@ namespace Monkey {
 /**
  * The last things that happened in a run, in words, and how to repeat it.
  *
- * They lie in plain memory, so that they can be told when the process dies: by a handler of the
- * fatal signals, for which the sanitizers are told to abort. There is one trail at a time.
+ * They lie in plain memory, so that they can be printed when the process dies: by a handler of the
+ * fatal signals, for which the sanitizers are set to abort. There is one trail at a time.
  */
 class Trail
 {
     Q_DISABLE_COPY_MOVE(Trail)
 
 public:
-    /** @p command is what repeats the run; told with everything else. */
+    /** @p command is what repeats the run; printed with everything else. */
     explicit Trail(const QByteArray& command);
     ~Trail();
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "runner.h"
-#include "subject.h"
+#include "subjects/subject.h"
 #include "support/stricttest.h"
 
 #include <QtWidgets/QApplication>
@@ -106,7 +106,7 @@ void tst_Monkey::walks()
     runner.run(testIsFine);
     const Monkey::World::Tally tally = runner.tally();
     std::printf("monkey: %d steps, %d panels, %d host calls, %d signals\n", tally.steps,
-                tally.panels, tally.hostCalls, tally.signalsHeard);
+                tally.panels, tally.hostCalls, tally.signalsReceived);
     QVERIFY(isSound(runner));
 }
 

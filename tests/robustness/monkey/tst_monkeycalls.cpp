@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "hostcall.h"
+#include "calls/hostcall.h"
 #include "preview/previewview.h"
 #include "support/stricttest.h"
 
@@ -38,25 +38,19 @@ void addPanels()
     QTest::addColumn<QByteArrayList>("headers");
     QTest::addColumn<Monkey::HostCalls>("calls");
     const QByteArray base = "foundation/printwidgetinterface.h";
-    QTest::newRow("PrintWidget") << &PrintWidget::staticMetaObject
-                                 << QByteArrayList{base, "printpanel/printwidget.h"}
-                                 << Monkey::printWidgetCalls();
-    QTest::newRow("QuickPrintWidget")
-        << &QuickPrintWidget::staticMetaObject
-        << QByteArrayList{base, "quickprint/quickprintwidget.h"} << Monkey::quickPrintWidgetCalls();
-    QTest::newRow("MultiPagePrintWidget")
-        << &MultiPagePrintWidget::staticMetaObject
-        << QByteArrayList{base, "multipage/multipageprintwidget.h"}
-        << Monkey::multiPagePrintWidgetCalls();
-    QTest::newRow("MultiPagePrintDialog") << &MultiPagePrintDialog::staticMetaObject
-                                          << QByteArrayList{"multipage/multipageprintdialog.h"}
-                                          << Monkey::multiPagePrintDialogCalls();
-    QTest::newRow("PrintPreviewDialog")
-        << &PrintPreviewDialog::staticMetaObject << QByteArrayList{"preview/printpreviewdialog.h"}
-        << Monkey::printPreviewDialogCalls();
-    QTest::newRow("PreviewView") << &QWidget::staticMetaObject
-                                 << QByteArrayList{"preview/previewview.h"}
-                                 << Monkey::previewViewCalls();
+    addRow("PrintWidget", &PrintWidget::staticMetaObject,
+           QByteArrayList{base, "printpanel/printwidget.h"}, Monkey::printWidgetCalls());
+    addRow("QuickPrintWidget", &QuickPrintWidget::staticMetaObject,
+           QByteArrayList{base, "quickprint/quickprintwidget.h"}, Monkey::quickPrintWidgetCalls());
+    addRow("MultiPagePrintWidget", &MultiPagePrintWidget::staticMetaObject,
+           QByteArrayList{base, "multipage/multipageprintwidget.h"},
+           Monkey::multiPagePrintWidgetCalls());
+    addRow("MultiPagePrintDialog", &MultiPagePrintDialog::staticMetaObject,
+           QByteArrayList{"multipage/multipageprintdialog.h"}, Monkey::multiPagePrintDialogCalls());
+    addRow("PrintPreviewDialog", &PrintPreviewDialog::staticMetaObject,
+           QByteArrayList{"preview/printpreviewdialog.h"}, Monkey::printPreviewDialogCalls());
+    addRow("PreviewView", &QWidget::staticMetaObject, QByteArrayList{"preview/previewview.h"},
+           Monkey::previewViewCalls());
 }
 
 QByteArrayList sorted(QByteArrayList list)

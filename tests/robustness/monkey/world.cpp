@@ -3,7 +3,7 @@
 
 #include "world.h"
 
-#include "subject.h"
+#include "subjects/subject.h"
 
 namespace Monkey {
 
@@ -18,16 +18,16 @@ void World::fail(const QString& check, const QString& detail)
 void World::call(Subject& subject, QWidget& widget, const HostCall& hostCall)
 {
     QVariantList arguments;
-    const HostCall::Thunk thunk = hostCall.prepare(random, arguments);
+    const HostCall::Invocation invocation = hostCall.prepare(random, arguments);
     const QString who =
         m_depth > 0 ? QStringLiteral("  host, in its handler: ") : QStringLiteral("host: ");
     trail.note(who + QString::fromLatin1(hostCall.name()) + u'(' + describe(arguments) + u')');
     ++tally.hostCalls;
-    subject.told(hostCall.name(), arguments);
+    subject.aboutToCall(hostCall.name(), arguments);
     const HostCall* const outer = m_underWay;
     m_underWay = &hostCall;
     ++m_depth;
-    thunk(widget);
+    invocation(widget);
     --m_depth;
     m_underWay = outer;
 }

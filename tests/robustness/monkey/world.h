@@ -4,7 +4,7 @@
 #ifndef MONKEY_WORLD_H
 #define MONKEY_WORLD_H
 
-#include "hostcall.h"
+#include "calls/hostcall.h"
 #include "randomsource.h"
 #include "trail.h"
 
@@ -36,7 +36,7 @@ public:
         int steps = 0;
         int panels = 0;
         int hostCalls = 0;
-        int signalsHeard = 0;
+        int signalsReceived = 0;
     };
     Tally tally;
 

@@ -20,11 +20,11 @@ class MultiPageSubject : public Subject
 public:
     using Subject::Subject;
 
-    void told(const QByteArray& name, const QVariantList& arguments) override;
+    void aboutToCall(const QByteArray& name, const QVariantList& arguments) override;
     void check() override;
 
 protected:
-    void heard(const QByteArray& signal, const QVariantList& arguments) override;
+    void received(const QByteArray& signal, const QVariantList& arguments) override;
 
     MultiPagePrintWidget* createPanel();
     static QByteArrayList clickSignals() { return {"widgetPrintSignal", "openPreferencesSignal"}; }
@@ -39,30 +39,30 @@ MultiPagePrintWidget* MultiPageSubject::createPanel()
 {
     auto* panel = new MultiPagePrintWidget(world.random.coin(), world.random.coin(), nullptr);
     m_checks.emplace(panel);
-    watchTyping(part<QLineEdit>(panel, "pageListEdit"), {});
-    watchTyping(part<QLineEdit>(panel, "copiesEdit"),
+    watchTyping(part<QLineEdit>(*panel, "pageListEdit"), {});
+    watchTyping(part<QLineEdit>(*panel, "copiesEdit"),
                 {"setNumberOfCopies", "increaseCopyCount", "decreaseCopyCount", "plusButton",
                  "minusButton"});
     if (!world.random.oneIn(4)) {
         panel->updateListOfPrinters({QStringLiteral("Alpha"), QStringLiteral("Beta")}, 1);
         panel->setPageInfo(2, 12, true);
-        m_checks->told("setPageInfo", {2, 12, true});
+        m_checks->aboutToCall("setPageInfo", {2, 12, true});
         panel->enableAllButtons();
     }
     return panel;
 }
 
-void MultiPageSubject::told(const QByteArray& name, const QVariantList& arguments)
+void MultiPageSubject::aboutToCall(const QByteArray& name, const QVariantList& arguments)
 {
     if (m_checks)
-        m_checks->told(name, arguments);
+        m_checks->aboutToCall(name, arguments);
 }
 
-void MultiPageSubject::heard(const QByteArray& signal, const QVariantList& arguments)
+void MultiPageSubject::received(const QByteArray& signal, const QVariantList& arguments)
 {
     const HostCall* cause = world.underWay();
     if (m_checks)
-        report(m_checks->heard(signal, arguments, cause ? cause->name() : QByteArray()));
+        report(m_checks->received(signal, arguments, cause ? cause->name() : QByteArray()));
 }
 
 void MultiPageSubject::check()
@@ -101,9 +101,9 @@ public:
             addPort(panel, multiPagePrintWidgetCalls());
     }
 
-    void told(const QByteArray& name, const QVariantList& arguments) override
+    void aboutToCall(const QByteArray& name, const QVariantList& arguments) override
     {
-        MultiPageSubject::told(name, arguments);
+        MultiPageSubject::aboutToCall(name, arguments);
         if (name == "setTitle")
             m_title = arguments.at(0).toString();
     }

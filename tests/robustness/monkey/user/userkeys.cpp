@@ -109,7 +109,7 @@ void User::paste(QWidget* panel)
 
 void User::answerMenu()
 {
-    // One whose window the host has disabled hears no keys, but a click beside it ends it.
+    // One whose window the host has disabled gets no keys, but a click beside it ends it.
     const QWidget* const menu = QApplication::activePopupWidget();
     if (menu && !menu->isEnabled()) {
         clickAway();

@@ -18,10 +18,21 @@ using namespace Hostile;
 
 namespace {
 
-HostCall namedSlot(const char* signature)
+/** The call by its name of a slot with one argument. */
+template <typename Value>
+HostCall slotWithArgument(const char* signature, Value (*generator)(RandomSource&))
 {
     HostCall call;
     call.signature = signature;
+    call.prepare = [name = call.name(), generator](
+                       RandomSource& random, QVariantList& arguments) -> HostCall::Invocation {
+        const Value value = generator(random);
+        arguments = {value};
+        return [name, value](QWidget& panel) {
+            QMetaObject::invokeMethod(&panel, name.constData(),
+                                      QArgument<Value>(QMetaType::fromType<Value>().name(), value));
+        };
+    };
     return call;
 }
 
@@ -65,8 +76,9 @@ HostCalls interfaceCalls()
 
 HostCall slotByName(const char* signature)
 {
-    HostCall call = namedSlot(signature);
-    call.prepare = [name = call.name()](RandomSource&, QVariantList&) -> HostCall::Thunk {
+    HostCall call;
+    call.signature = signature;
+    call.prepare = [name = call.name()](RandomSource&, QVariantList&) -> HostCall::Invocation {
         return [name](QWidget& panel) { QMetaObject::invokeMethod(&panel, name.constData()); };
     };
     return call;
@@ -74,30 +86,12 @@ HostCall slotByName(const char* signature)
 
 HostCall slotByName(const char* signature, int (*generator)(RandomSource&))
 {
-    HostCall call = namedSlot(signature);
-    call.prepare = [name = call.name(), generator](RandomSource& random,
-                                                   QVariantList& told) -> HostCall::Thunk {
-        const int value = generator(random);
-        told = {value};
-        return [name, value](QWidget& panel) {
-            QMetaObject::invokeMethod(&panel, name.constData(), Q_ARG(int, value));
-        };
-    };
-    return call;
+    return slotWithArgument(signature, generator);
 }
 
 HostCall slotByName(const char* signature, QString (*generator)(RandomSource&))
 {
-    HostCall call = namedSlot(signature);
-    call.prepare = [name = call.name(), generator](RandomSource& random,
-                                                   QVariantList& told) -> HostCall::Thunk {
-        const QString value = generator(random);
-        told = {value};
-        return [name, value](QWidget& panel) {
-            QMetaObject::invokeMethod(&panel, name.constData(), Q_ARG(QString, value));
-        };
-    };
-    return call;
+    return slotWithArgument(signature, generator);
 }
 
 HostCalls quickPrintWidgetCalls()

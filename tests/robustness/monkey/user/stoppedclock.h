@@ -12,7 +12,7 @@ namespace Monkey {
 
 /**
  * Holds the timers of the application, so that a slow machine sees the same as a fast one: they
- * fire when they are told to, and only those without an interval by themselves.
+ * fire only on request, and only those without an interval by themselves.
  */
 class StoppedClock : public QObject
 {

@@ -93,11 +93,11 @@ int Subject::qt_metacall(QMetaObject::Call call, int id, void** arguments)
         values.append(QVariant(method.parameterMetaType(i), arguments[i + 1]));
     world.trail.note(QStringLiteral("  signal %1(%2)")
                          .arg(QString::fromLatin1(method.name()), describe(values)));
-    ++world.tally.signalsHeard;
+    ++world.tally.signalsReceived;
     const HostCall* cause = world.underWay();
     require(!cause || mayComeNow(method.name()), "a host hears nothing of its own changes",
             QString::fromLatin1(method.name()));
-    heard(method.name(), values);
+    received(method.name(), values);
     react(method.name());
     return -1;
 }
@@ -158,7 +158,7 @@ void Subject::hostActs()
     world.call(*this, *widget, calls.at(index));
 }
 
-void Subject::told(const QByteArray&, const QVariantList&) {}
+void Subject::aboutToCall(const QByteArray&, const QVariantList&) {}
 
 void Subject::watchTyping(QLineEdit* edit, const QByteArrayList& changers)
 {

@@ -25,8 +25,8 @@ public:
         if (!world.random.oneIn(3))
             m_panel->setModule(module);
         world.trail.note(QStringLiteral("NEW QuickPrintWidget, module %1").arg(module));
-        watchTyping(part<QLineEdit>(m_panel, "lengthEdit"), {"setCanvasSize"});
-        watchTyping(part<QLineEdit>(m_panel, "widthEdit"), {"setCanvasSize"});
+        watchTyping(part<QLineEdit>(*m_panel, "lengthEdit"), {"setCanvasSize"});
+        watchTyping(part<QLineEdit>(*m_panel, "widthEdit"), {"setCanvasSize"});
         if (world.random.coin())
             m_panel->enableAllButtons();
         adopt(m_panel, quickPrintWidgetCalls(),
@@ -36,7 +36,7 @@ public:
     void check() override;
 
 protected:
-    void heard(const QByteArray& signal, const QVariantList& arguments) override;
+    void received(const QByteArray& signal, const QVariantList& arguments) override;
 
 private:
     double shownNumber(const char* edit) const;
@@ -47,11 +47,11 @@ private:
 double QuickPrintSubject::shownNumber(const char* edit) const
 {
     bool converts = false;
-    const double number = part<QLineEdit>(m_panel, edit)->text().toDouble(&converts);
+    const double number = part<QLineEdit>(*m_panel, edit)->text().toDouble(&converts);
     return converts ? number : -1.0;
 }
 
-void QuickPrintSubject::heard(const QByteArray& signal, const QVariantList& arguments)
+void QuickPrintSubject::received(const QByteArray& signal, const QVariantList& arguments)
 {
     if (signal == "widgetPrintSignal") {
         require(arguments == QVariantList({-1, -1, QString()}), "the request is the label shown",
@@ -68,7 +68,7 @@ void QuickPrintSubject::heard(const QByteArray& signal, const QVariantList& argu
 
 void QuickPrintSubject::check()
 {
-    const auto* copies = part<QSpinBox>(m_panel, "copiesSpinBox");
+    const auto* copies = part<QSpinBox>(*m_panel, "copiesSpinBox");
     require(m_panel->getNumberOfCopies() == copies->value() && copies->value() >= 1 &&
                 copies->value() <= 999,
             "the copies are in range", QString::number(m_panel->getNumberOfCopies()));

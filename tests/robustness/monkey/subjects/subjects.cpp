@@ -47,7 +47,7 @@ int countChecked(const QWidget* panel, const QByteArrayList& names)
 {
     int count = 0;
     for (const QByteArray& name : names) {
-        const auto* button = part<QAbstractButton>(panel, name.constData());
+        const auto* button = part<QAbstractButton>(*panel, name.constData());
         count += button && button->isChecked() ? 1 : 0;
     }
     return count;

@@ -38,11 +38,11 @@ public:
         adopt(m_popup, printPreviewDialogCalls(), {"previewPrintSignal", "popupHideSignal"});
     }
 
-    void told(const QByteArray& name, const QVariantList& arguments) override;
+    void aboutToCall(const QByteArray& name, const QVariantList& arguments) override;
     void check() override;
 
 protected:
-    void heard(const QByteArray& signal, const QVariantList& arguments) override;
+    void received(const QByteArray& signal, const QVariantList& arguments) override;
 
 private:
     PrintPreviewDialog* m_popup;
@@ -50,7 +50,7 @@ private:
     bool m_portrait;
 };
 
-void PreviewPopupSubject::told(const QByteArray& name, const QVariantList& arguments)
+void PreviewPopupSubject::aboutToCall(const QByteArray& name, const QVariantList& arguments)
 {
     if (name != "updatePreview")
         return;
@@ -58,7 +58,7 @@ void PreviewPopupSubject::told(const QByteArray& name, const QVariantList& argum
     m_range = arguments.mid(6);
 }
 
-void PreviewPopupSubject::heard(const QByteArray& signal, const QVariantList& arguments)
+void PreviewPopupSubject::received(const QByteArray& signal, const QVariantList& arguments)
 {
     if (signal == "previewPrintSignal") {
         require(arguments == m_range, "the request is the host's range", describe(arguments));
@@ -75,7 +75,7 @@ void PreviewPopupSubject::check()
 {
     require(countChecked(m_popup, {"portraitButton", "landscapeButton"}) == 1,
             "one orientation button is checked", QString());
-    require(part<QAbstractButton>(m_popup, "portraitButton")->isChecked() == m_portrait,
+    require(part<QAbstractButton>(*m_popup, "portraitButton")->isChecked() == m_portrait,
             "the orientation is the one last chosen", QString());
     require(m_popup->size() == QSize(860, 500), "the popup keeps its size",
             describe(QVariant(QSizeF(m_popup->size()))));
@@ -103,7 +103,7 @@ public:
     }
 
 protected:
-    void heard(const QByteArray& signal, const QVariantList&) override
+    void received(const QByteArray& signal, const QVariantList&) override
     {
         require(false, "a view tells nothing", QString::fromLatin1(signal));
     }

@@ -4,27 +4,13 @@
 #ifndef MONKEY_RECORDSMODEL_H
 #define MONKEY_RECORDSMODEL_H
 
-#include <QtCore/QString>
-#include <QtCore/QVariant>
+#include "support/request.h"
 
 class QLineEdit;
 class QRadioButton;
 class QWidget;
 
 namespace Monkey {
-
-/** A print request as a host gets it. */
-struct Request
-{
-    int start;
-    int end;
-    QString list;
-
-    friend bool operator==(const Request& a, const Request& b)
-    {
-        return a.start == b.start && a.end == b.end && a.list == b.list;
-    }
-};
 
 /**
  * What the records section of a PrintWidget has to keep, worked out beside it from the calls that

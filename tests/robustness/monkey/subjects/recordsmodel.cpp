@@ -25,10 +25,10 @@ int numberFromIndex(int index)
 } // namespace
 
 RecordsModel::RecordsModel(QWidget* panel)
-    : m_current(part<QRadioButton>(panel, "currentRecordRadio")),
-      m_all(part<QRadioButton>(panel, "allRecordsRadio")),
-      m_list(part<QRadioButton>(panel, "recordListRadio")),
-      m_edit(part<QLineEdit>(panel, "recordListEdit"))
+    : m_current(part<QRadioButton>(*panel, "currentRecordRadio")),
+      m_all(part<QRadioButton>(*panel, "allRecordsRadio")),
+      m_list(part<QRadioButton>(*panel, "recordListRadio")),
+      m_edit(part<QLineEdit>(*panel, "recordListEdit"))
 {
     const auto* group = panel->findChild<QButtonGroup*>(QStringLiteral("recordsButtonGroup"));
     QObject::connect(group, &QButtonGroup::buttonClicked, m_edit, [this] {

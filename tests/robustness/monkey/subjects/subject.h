@@ -44,7 +44,7 @@ public:
     void hostActs();
 
     /** The host is about to make this call. */
-    virtual void told(const QByteArray& name, const QVariantList& arguments);
+    virtual void aboutToCall(const QByteArray& name, const QVariantList& arguments);
     /** What must be true between two steps, of this kind of panel. Called while it lives. */
     virtual void check() = 0;
 
@@ -52,7 +52,7 @@ public:
 
 protected:
     /** A signal of the panel arrived. */
-    virtual void heard(const QByteArray& signal, const QVariantList& arguments) = 0;
+    virtual void received(const QByteArray& signal, const QVariantList& arguments) = 0;
 
     /**
      * Takes a new panel: puts it somewhere, listens to it and shows it, mostly.

@@ -5,6 +5,7 @@
 #define MONKEY_SUBJECTS_H
 
 #include "subject.h"
+#include "support/panelfixture.h"
 
 #include <QtCore/QStringList>
 #include <QtWidgets/QWidget>
@@ -18,13 +19,6 @@ std::unique_ptr<Subject> createMultiPageSubject(World& world);
 std::unique_ptr<Subject> createMultiPageDialogSubject(World& world);
 std::unique_ptr<Subject> createPreviewPopupSubject(World& world);
 std::unique_ptr<Subject> createPreviewViewSubject(World& world);
-
-/** A part of a panel by its object name, or null. */
-template <typename Part>
-Part* part(const QWidget* panel, const char* name)
-{
-    return panel->findChild<Part*>(QLatin1String(name));
-}
 
 /** How many of the buttons with these names are checked. */
 int countChecked(const QWidget* panel, const QByteArrayList& names);

@@ -17,7 +17,7 @@ namespace Monkey {
 /** One operation of a panel, and how to call it with random arguments. */
 struct HostCall
 {
-    using Thunk = std::function<void(QWidget&)>;
+    using Invocation = std::function<void(QWidget&)>;
 
     /** As the meta-object spells it: name and parameter types. */
     QByteArray signature;
@@ -25,8 +25,8 @@ struct HostCall
     int weight = 1;
     /** The signals that it may emit itself, separated by blanks. */
     QByteArray mayEmit;
-    /** Draws the arguments, tells them, and answers the call that is ready to be made. */
-    std::function<Thunk(RandomSource&, QVariantList&)> prepare;
+    /** Draws the arguments, returns them too, and returns the call that is ready to be made. */
+    std::function<Invocation(RandomSource&, QVariantList&)> prepare;
 
     QByteArray name() const { return signature.left(signature.indexOf('(')); }
     HostCall emitting(const char* signalNames) const
@@ -51,11 +51,12 @@ HostCall hostCall(const char* signature, Operation operation, Generators... gene
 {
     HostCall call;
     call.signature = signature;
-    call.prepare = [=](RandomSource& random, QVariantList& told) -> HostCall::Thunk {
+    call.prepare = [=](RandomSource& random, QVariantList& arguments) -> HostCall::Invocation {
         // Braces, because they fix the order in which the generators draw.
         const std::tuple<decltype(generators(random))...> values{generators(random)...};
-        std::apply([&told](const auto&... value) { told = {QVariant::fromValue(value)...}; },
-                   values);
+        std::apply(
+            [&arguments](const auto&... value) { arguments = {QVariant::fromValue(value)...}; },
+            values);
         return [operation, values](QWidget& panel) {
             std::apply(
                 [&](const auto&... value) {

@@ -23,10 +23,10 @@ public:
     explicit MultiPageChecks(MultiPagePrintWidget* panel) : m_panel(panel) {}
 
     /** The host is about to make this call. */
-    void told(const QByteArray& name, const QVariantList& arguments);
+    void aboutToCall(const QByteArray& name, const QVariantList& arguments);
     /** A signal arrived, by the host's call @p cause or, if that is empty, by the user. */
-    QString heard(const QByteArray& signal, const QVariantList& arguments,
-                  const QByteArray& cause) const;
+    QString received(const QByteArray& signal, const QVariantList& arguments,
+                     const QByteArray& cause) const;
     QString check() const;
 
 private:

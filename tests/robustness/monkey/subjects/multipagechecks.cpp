@@ -17,7 +17,7 @@
 
 namespace Monkey {
 
-void MultiPageChecks::told(const QByteArray& name, const QVariantList& arguments)
+void MultiPageChecks::aboutToCall(const QByteArray& name, const QVariantList& arguments)
 {
     if (name == "setPageInfo") {
         m_currentPage = arguments.at(0).toInt();
@@ -30,7 +30,7 @@ void MultiPageChecks::told(const QByteArray& name, const QVariantList& arguments
 
 bool MultiPageChecks::isChecked(const char* button) const
 {
-    return part<QAbstractButton>(m_panel, button)->isChecked();
+    return part<QAbstractButton>(*m_panel, button)->isChecked();
 }
 
 int MultiPageChecks::shownStartPage() const
@@ -39,13 +39,13 @@ int MultiPageChecks::shownStartPage() const
         return 1;
     if (isChecked("currentPageRadio"))
         return m_currentPage;
-    return RecordList::firstPage(part<QLineEdit>(m_panel, "pageListEdit")->text(), m_pageCount)
+    return RecordList::firstPage(part<QLineEdit>(*m_panel, "pageListEdit")->text(), m_pageCount)
         .value_or(m_currentPage);
 }
 
 QString MultiPageChecks::checkRequest(const QVariantList& arguments) const
 {
-    const QString list = part<QLineEdit>(m_panel, "pageListEdit")->text();
+    const QString list = part<QLineEdit>(*m_panel, "pageListEdit")->text();
     QVariantList shown = {m_currentPage, m_currentPage, QString()};
     if (isChecked("allPagesRadio"))
         shown = {1, m_pageCount, QString()};
@@ -57,8 +57,8 @@ QString MultiPageChecks::checkRequest(const QVariantList& arguments) const
                      QStringLiteral(" and not ") + describe(shown);
 }
 
-QString MultiPageChecks::heard(const QByteArray& signal, const QVariantList& arguments,
-                               const QByteArray& cause) const
+QString MultiPageChecks::received(const QByteArray& signal, const QVariantList& arguments,
+                                  const QByteArray& cause) const
 {
     if (!m_panel)
         return QString();
@@ -88,15 +88,15 @@ QString MultiPageChecks::check() const
         return QString();
     if (countChecked(m_panel, {"currentPageRadio", "allPagesRadio", "selectionRadio"}) != 1)
         return QStringLiteral("one page radio is checked");
-    const auto* edit = part<QLineEdit>(m_panel, "pageListEdit");
-    if (edit->isEnabledTo(part<QFrame>(m_panel, "pageRangeFrame")) != isChecked("selectionRadio"))
+    const auto* edit = part<QLineEdit>(*m_panel, "pageListEdit");
+    if (edit->isEnabledTo(part<QFrame>(*m_panel, "pageRangeFrame")) != isChecked("selectionRadio"))
         return QStringLiteral("the list can be typed when it is chosen");
     QString text = edit->text();
     int position = 0;
     if (edit->validator()->validate(text, position) == QValidator::Invalid)
         return QStringLiteral("the list is the beginning of a valid one: ") + text;
     if (m_panel->getSelectedPrinter() !=
-        part<QComboBox>(m_panel, "PrinterListCombo")->currentText())
+        part<QComboBox>(*m_panel, "PrinterListCombo")->currentText())
         return QStringLiteral("the printer is the one shown");
     if (m_panel->width() != 270)
         return QStringLiteral("the panel keeps its width: %1").arg(m_panel->width());
@@ -105,7 +105,7 @@ QString MultiPageChecks::check() const
 
 QString MultiPageChecks::checkCopies() const
 {
-    const QString text = part<QLineEdit>(m_panel, "copiesEdit")->text();
+    const QString text = part<QLineEdit>(*m_panel, "copiesEdit")->text();
     const int shown = qMax(1, text.toInt());
     return m_panel->getNumberOfCopies() == shown
                ? QString()

@@ -3,7 +3,7 @@
 
 #include "user.h"
 
-#include "subject.h"
+#include "subjects/subject.h"
 
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>
@@ -23,12 +23,12 @@ User::User(World& sharedWorld) : world(sharedWorld)
 
 void User::act(Subject& subject)
 {
-    struct Deed
+    struct Action
     {
         int weight;
         void (User::*run)(QWidget*);
     };
-    static constexpr Deed deeds[] = {
+    static constexpr Action actions[] = {
         {40, &User::click},    {6, &User::press}, {12, &User::moveMouse}, {5, &User::turnWheel},
         {18, &User::pressKey}, {12, &User::type}, {2, &User::paste},      {5, &User::moveFocus},
         {3, &User::openList},  {6, &User::wait},  {2, &User::goAway},
@@ -40,8 +40,8 @@ void User::act(Subject& subject)
         return;
     }
     const int index =
-        world.random.pickWeighted(deeds, [](const Deed& deed) { return deed.weight; });
-    (this->*deeds[index].run)(panel);
+        world.random.pickWeighted(actions, [](const Action& action) { return action.weight; });
+    (this->*actions[index].run)(panel);
 }
 
 // A list or menu that is open gets most of the attention, and of the widgets those that do
