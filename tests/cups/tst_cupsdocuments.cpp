@@ -4,7 +4,7 @@
 #include "cups/cupstest.h"
 #include "cups/pagepictures.h"
 #include "samplehost/printing/hostsettings.h"
-#include "samplehost/support/documenthost.h"
+#include "samplehost/support/documentfixture.h"
 
 #include <QtWidgets/QComboBox>
 
@@ -26,8 +26,8 @@ class TestCupsDocuments : public CupsTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() override;
+    void cleanup() override;
     void printsPages_data();
     void printsPages();
     void printsSheetsAsInAFile_data();
@@ -42,14 +42,14 @@ private:
     bool prints(const QString& printer);
     QString outputFile();
 
-    std::unique_ptr<DocumentHost> m_host;
+    std::unique_ptr<DocumentFixture> m_host;
 };
 
 void TestCupsDocuments::init()
 {
     CupsTest::init();
     server().clearOutputs();
-    m_host = std::make_unique<DocumentHost>();
+    m_host = std::make_unique<DocumentFixture>();
 }
 
 void TestCupsDocuments::cleanup()
@@ -107,9 +107,9 @@ void TestCupsDocuments::printsPages_data()
     QTest::addColumn<int>("copies");
     QTest::addColumn<QString>("printed");
 
-    QTest::newRow("all") << QString() << 1 << QStringLiteral("0 1 2 3");
-    QTest::newRow("list") << QStringLiteral("4,1-2") << 1 << QStringLiteral("3 0 1");
-    QTest::newRow("copies") << QStringLiteral("2-3") << 2 << QStringLiteral("1 2 1 2");
+    addRow("all", QString(), 1, "0 1 2 3");
+    addRow("list", "4,1-2", 1, "3 0 1");
+    addRow("copies", "2-3", 2, "1 2 1 2");
 }
 
 void TestCupsDocuments::printsPages()
@@ -137,8 +137,8 @@ void TestCupsDocuments::printsSheetsAsInAFile_data()
 {
     QTest::addColumn<QString>("option");
 
-    QTest::newRow("fit to page") << QStringLiteral("fitToPageCheck");
-    QTest::newRow("180 degrees") << QStringLiteral("orientationCheck");
+    addRow("fit to page", "fitToPageCheck");
+    addRow("180 degrees", "orientationCheck");
 }
 
 void TestCupsDocuments::printsSheetsAsInAFile()
@@ -163,20 +163,16 @@ void TestCupsDocuments::pagesAreWhole_data()
     QTest::addColumn<Sizes>("pages");
     QTest::addColumn<QSizeF>("paper");
 
-    QTest::newRow("a paper that the queue knows")
-        << Sizes{{421, 595}, {421, 595}} << QSizeF(421, 595);
-    QTest::newRow("a paper that it does not know")
-        << Sizes{{298, 420}, {298, 420}} << QSizeF(298, 420);
-    QTest::newRow("a paper that it takes for another by name")
-        << Sizes{{610, 780}} << QSizeF(610, 780);
-    QTest::newRow("a paper on its side") << Sizes{{595, 421}} << QSizeF(595, 421);
-    QTest::newRow("no whole points") << Sizes{{300.4, 200.3}} << QSizeF(301, 201);
-    QTest::newRow("upright, then on its side")
-        << Sizes{{421, 595}, {595, 421}, {421, 595}} << QSizeF(421, 595);
-    QTest::newRow("on its side, then upright") << Sizes{{300, 200}, {200, 300}} << QSizeF(300, 200);
-    QTest::newRow("smaller pages") << Sizes{{200, 300}, {100, 150}, {200, 100}} << QSizeF(200, 300);
-    QTest::newRow("wider and higher pages")
-        << Sizes{{310, 200}, {288, 216}, {200, 305}} << QSizeF(310, 216);
+    addRow("a paper that the queue knows", Sizes{{421, 595}, {421, 595}}, QSizeF(421, 595));
+    addRow("a paper that it does not know", Sizes{{298, 420}, {298, 420}}, QSizeF(298, 420));
+    addRow("a paper that it takes for another by name", Sizes{{610, 780}}, QSizeF(610, 780));
+    addRow("a paper on its side", Sizes{{595, 421}}, QSizeF(595, 421));
+    addRow("no whole points", Sizes{{300.4, 200.3}}, QSizeF(301, 201));
+    addRow("upright, then on its side", Sizes{{421, 595}, {595, 421}, {421, 595}},
+           QSizeF(421, 595));
+    addRow("on its side, then upright", Sizes{{300, 200}, {200, 300}}, QSizeF(300, 200));
+    addRow("smaller pages", Sizes{{200, 300}, {100, 150}, {200, 100}}, QSizeF(200, 300));
+    addRow("wider and higher pages", Sizes{{310, 200}, {288, 216}, {200, 305}}, QSizeF(310, 216));
 }
 
 // A job has one paper, so it has to be one that every page finds room on. A line along the

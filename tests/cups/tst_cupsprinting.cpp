@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "cups/cupshost.h"
+#include "cups/cupsfixture.h"
 #include "cups/cupstest.h"
 #include "samplehost/printing/printprogressdialog.h"
 
@@ -19,8 +19,8 @@ class TestCupsPrinting : public CupsTest
 
 private Q_SLOTS:
     void initTestCase();
-    void init();
-    void cleanup();
+    void init() override;
+    void cleanup() override;
     void theQueueIsFound();
     void printsRecords_data();
     void printsRecords();
@@ -44,7 +44,7 @@ private:
     QStringList traces();
 
     QTemporaryDir m_temporary;
-    std::unique_ptr<CupsHost> m_host;
+    std::unique_ptr<CupsFixture> m_host;
     QString m_out;
     QString m_error;
     QStringList m_names;
@@ -61,7 +61,7 @@ void TestCupsPrinting::initTestCase()
     // Others leave their files in the system's folder of temporary files.
     QVERIFY(m_temporary.isValid());
     qputenv("TMPDIR", QFile::encodeName(m_temporary.path()));
-    CupsHost host;
+    CupsFixture host;
     QVERIFY(host.choosePdfFile());
     host.click("allRecordsRadio");
     QCOMPARE(host.print(), Outcome::Completed);
@@ -79,7 +79,7 @@ void TestCupsPrinting::init()
 {
     CupsTest::init();
     server().clearOutputs();
-    m_host = std::make_unique<CupsHost>();
+    m_host = std::make_unique<CupsFixture>();
     QVERIFY(m_host->choosePrinter(queueName()));
 }
 
@@ -116,12 +116,12 @@ void TestCupsPrinting::printsRecords_data()
     QTest::addColumn<int>("copies");
     QTest::addColumn<QString>("records");
 
-    QTest::newRow("current") << QStringLiteral("current") << 1 << QStringLiteral("3");
-    QTest::newRow("list") << QStringLiteral("1,4-5") << 1 << QStringLiteral("1 4 5");
-    QTest::newRow("typed order") << QStringLiteral("7,2-3,7") << 1 << QStringLiteral("7 2 3 7");
-    QTest::newRow("copies") << QStringLiteral("2,1") << 3 << QStringLiteral("2 2 2 1 1 1");
-    QTest::newRow("copies of current") << QStringLiteral("current") << 2 << QStringLiteral("3 3");
-    QTest::newRow("all") << QStringLiteral("all") << 1 << QStringLiteral("all");
+    addRow("current", "current", 1, "3");
+    addRow("list", "1,4-5", 1, "1 4 5");
+    addRow("typed order", "7,2-3,7", 1, "7 2 3 7");
+    addRow("copies", "2,1", 3, "2 2 2 1 1 1");
+    addRow("copies of current", "current", 2, "3 3");
+    addRow("all", "all", 1, "all");
 }
 
 void TestCupsPrinting::printsRecords()
@@ -161,9 +161,8 @@ void TestCupsPrinting::printsSheets_data()
     QTest::addColumn<QString>("mode");
     QTest::addColumn<QString>("printed");
 
-    QTest::newRow("sequencing") << QStringLiteral("sequencingRadio") << QStringLiteral("0 1");
-    QTest::newRow("replicating") << QStringLiteral("replicatingRadio")
-                                 << QStringLiteral("0 1 2 3 4");
+    addRow("sequencing", "sequencingRadio", "0 1");
+    addRow("replicating", "replicatingRadio", "0 1 2 3 4");
 }
 
 // The models are the sheets of the same request in a PDF file.

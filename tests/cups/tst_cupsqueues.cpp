@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "cups/cupshost.h"
+#include "cups/cupsfixture.h"
 #include "cups/cupstest.h"
 #include "samplehost/window/eventlog.h"
 
@@ -18,8 +18,8 @@ class TestCupsQueues : public CupsTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() override;
+    void cleanup() override;
     void statusFollowsTheQueue_data();
     void statusFollowsTheQueue();
     void stoppedQueueKeepsTheJob();
@@ -41,7 +41,7 @@ private:
     bool choiceIsKept() const;
     void printInTrouble(Trouble trouble, bool whilePrinting);
 
-    std::unique_ptr<CupsHost> m_host;
+    std::unique_ptr<CupsFixture> m_host;
 };
 
 void TestCupsQueues::init()
@@ -54,7 +54,7 @@ void TestCupsQueues::init()
     QVERIFY(server().accept(queueName()));
     QVERIFY(server().enable(queueName()));
     server().clearOutputs();
-    m_host = std::make_unique<CupsHost>();
+    m_host = std::make_unique<CupsFixture>();
     QVERIFY(m_host->choosePrinter(queueName()));
 }
 
@@ -107,10 +107,9 @@ void TestCupsQueues::statusFollowsTheQueue_data()
     QTest::addColumn<bool>("rejecting");
     QTest::addColumn<QString>("status");
 
-    QTest::newRow("stopped") << true << false << QStringLiteral("Offline, Unavailable");
-    QTest::newRow("rejecting") << false << true << QStringLiteral("Online, Unavailable");
-    QTest::newRow("stopped and rejecting")
-        << true << true << QStringLiteral("Offline, Unavailable");
+    addRow("stopped", true, false, "Offline, Unavailable");
+    addRow("rejecting", false, true, "Online, Unavailable");
+    addRow("stopped and rejecting", true, true, "Offline, Unavailable");
 }
 
 void TestCupsQueues::statusFollowsTheQueue()
@@ -161,10 +160,10 @@ void TestCupsQueues::refusalIsExplained_data()
     const QString notTaken = QStringLiteral("The printer \"Hall\" did not take the job: ");
     const QString offline = QStringLiteral("Offline, Unavailable");
     const QString unavailable = QStringLiteral("Online, Unavailable");
-    QTest::newRow("rejecting") << int(Rejects) << false << refuses << unavailable;
-    QTest::newRow("rejecting while printing") << int(Rejects) << true << notTaken << unavailable;
-    QTest::newRow("removed") << int(Removed) << false << unknown << offline;
-    QTest::newRow("removed while printing") << int(Removed) << true << notTaken << offline;
+    addRow("rejecting", int(Rejects), false, refuses, unavailable);
+    addRow("rejecting while printing", int(Rejects), true, notTaken, unavailable);
+    addRow("removed", int(Removed), false, unknown, offline);
+    addRow("removed while printing", int(Removed), true, notTaken, offline);
 }
 
 void TestCupsQueues::printInTrouble(Trouble trouble, bool whilePrinting)
@@ -228,10 +227,8 @@ void TestCupsQueues::goneServerIsExplained_data()
     QTest::addColumn<bool>("whilePrinting");
     QTest::addColumn<QString>("reason");
 
-    QTest::newRow("before printing")
-        << false << QStringLiteral("The printer \"Hall\" is not known to the system any more.");
-    QTest::newRow("while printing")
-        << true << QStringLiteral("The printer \"Hall\" did not take the job: ");
+    addRow("before printing", false, "The printer \"Hall\" is not known to the system any more.");
+    addRow("while printing", true, "The printer \"Hall\" did not take the job: ");
 }
 
 void TestCupsQueues::goneServerIsExplained()

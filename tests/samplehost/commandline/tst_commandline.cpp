@@ -31,11 +31,11 @@ private Q_SLOTS:
     void readsRecords();
     void readsTheDataSource();
     void testControlsFollowWhatNeedsThem();
-    void complains_data();
-    void complains();
+    void reportsProblems_data();
+    void reportsProblems();
     void recognisesWorkWithoutAUser_data();
     void recognisesWorkWithoutAUser();
-    void appliesOnlyWhatWasSaid();
+    void appliesOnlyTheGivenOptions();
     void helpNamesEveryState();
 };
 
@@ -104,15 +104,13 @@ void TestCommandLine::readsRecords_data()
     QTest::addColumn<int>("current");
     QTest::addColumn<bool>("headless");
 
-    QTest::newRow("all") << QStringLiteral("--all --output x.pdf") << Records::All << 1 << true;
-    QTest::newRow("current") << QStringLiteral("--current 12 --output x.pdf") << Records::Current
-                             << 12 << true;
-    QTest::newRow("picture") << QStringLiteral("--screenshot x.png") << Records::None << 1 << true;
-    QTest::newRow("state") << QStringLiteral("--state supply") << Records::None << 1 << false;
-    QTest::newRow("printer") << QStringLiteral("--all --printer P") << Records::All << 1 << true;
+    addRow("all", "--all --output x.pdf", Records::All, 1, true);
+    addRow("current", "--current 12 --output x.pdf", Records::Current, 12, true);
+    addRow("picture", "--screenshot x.png", Records::None, 1, true);
+    addRow("state", "--state supply", Records::None, 1, false);
+    addRow("printer", "--all --printer P", Records::All, 1, true);
     // A list that no panel would take is the panel's to refuse.
-    QTest::newRow("any list") << QStringLiteral("--print=-- --output x.pdf") << Records::List << 1
-                              << true;
+    addRow("any list", "--print=-- --output x.pdf", Records::List, 1, true);
 }
 
 void TestCommandLine::readsRecords()
@@ -150,79 +148,55 @@ void TestCommandLine::testControlsFollowWhatNeedsThem()
     QVERIFY(!parse(QStringLiteral("--state plain")).host.testControls);
 }
 
-void TestCommandLine::complains_data()
+void TestCommandLine::reportsProblems_data()
 {
     QTest::addColumn<QString>("line");
     QTest::addColumn<QString>("problem");
 
-    QTest::newRow("two selections")
-        << QStringLiteral("--all --print 1 --output x.pdf")
-        << QStringLiteral("Only one of --print, --all and --current can be used.");
-    QTest::newRow("two modes") << QStringLiteral("--sequence --replicate")
-                               << QStringLiteral(
-                                      "Only one of --sequence and --replicate can be used.");
-    QTest::newRow("no target") << QStringLiteral("--print 1")
-                               << QStringLiteral(
-                                      "Where to? Add --output FILE.pdf or --printer NAME.");
-    QTest::newRow("empty output") << QStringLiteral("--all --output=")
-                                  << QStringLiteral("--output needs a file name.");
-    QTest::newRow("empty picture")
-        << QStringLiteral("--screenshot=") << QStringLiteral("--screenshot needs a file name.");
-    QTest::newRow("no copies") << QStringLiteral("--copies 0")
-                               << QStringLiteral(
-                                      "--copies needs a number from 1 to 999, not \"0\".");
-    QTest::newRow("too many copies")
-        << QStringLiteral("--copies 1000")
-        << QStringLiteral("--copies needs a number from 1 to 999, not \"1000\".");
-    QTest::newRow("record 0") << QStringLiteral("--current 0 --output x.pdf")
-                              << QStringLiteral(
-                                     "--current needs a number from 1 to 2147483647, not \"0\".");
-    QTest::newRow("sheet") << QStringLiteral("--nup 2")
-                           << QStringLiteral("--nup needs rows x columns such as 2x3, not \"2\".");
-    QTest::newRow("paper") << QStringLiteral("--paper A5")
-                           << QStringLiteral("--paper needs label, a4 or letter, not \"a5\".");
-    QTest::newRow("state") << QStringLiteral("--state odd")
-                           << QStringLiteral(
-                                  "--state needs one of plain, list-nup, supply, pipe, "
-                                  "test-controls, preview-portrait, preview-landscape, "
-                                  "catalog, quickprint, document, multipage, not \"odd\".");
-    QTest::newRow("port") << QStringLiteral("--port x")
-                          << QStringLiteral("--port needs a number from 1 to 65535, not \"x\".");
-    QTest::newRow("two orientations")
-        << QStringLiteral("--print 1 --preview --portrait --landscape --output x.pdf")
-        << QStringLiteral("Only one of --portrait and --landscape can be used.");
-    QTest::newRow("orientation of nothing")
-        << QStringLiteral("--print 1 --portrait --output x.pdf")
-        << QStringLiteral("--portrait and --landscape need --preview.");
-    QTest::newRow("preview of nothing")
-        << QStringLiteral("--preview --output x.pdf")
-        << QStringLiteral("--preview needs --print, --all or --current.");
-    QTest::newRow("preview without a target")
-        << QStringLiteral("--preview --print 1")
-        << QStringLiteral("Where to? Add --output FILE.pdf or --printer NAME.");
-    QTest::newRow("catalogue without a target")
-        << QStringLiteral("--catalog EXIT")
-        << QStringLiteral("Where to? Add --output FILE.pdf or --printer NAME.");
-    QTest::newRow("size of nothing")
-        << QStringLiteral("--size 1x1") << QStringLiteral("--size needs --catalog NAME.");
-    QTest::newRow("no item") << QStringLiteral("--catalog= --output x.pdf")
-                             << QStringLiteral("--catalog needs the name of an item.");
-    QTest::newRow("half a size") << QStringLiteral("--catalog EXIT --size 10x --output x.pdf")
-                                 << QStringLiteral(
-                                        "--size needs length x width such as 10x7, not \"10x\".");
-    QTest::newRow("one size") << QStringLiteral("--catalog EXIT --size 10 --output x.pdf")
-                              << QStringLiteral(
-                                     "--size needs length x width such as 10x7, not \"10\".");
-    QTest::newRow("item and records") << QStringLiteral("--catalog EXIT --all --output x.pdf")
-                                      << QStringLiteral("--all cannot be used with --catalog.");
-    QTest::newRow("item and sheet") << QStringLiteral("--catalog EXIT --nup 2x2 --output x.pdf")
-                                    << QStringLiteral("--nup cannot be used with --catalog.");
-    QTest::newRow("unknown") << QStringLiteral("--odd") << QStringLiteral("Unknown option 'odd'.");
-    QTest::newRow("stray word") << QStringLiteral("label.pdf")
-                                << QStringLiteral("\"label.pdf\" is not an option.");
+    addRow("two selections", "--all --print 1 --output x.pdf",
+           "Only one of --print, --all and --current can be used.");
+    addRow("two modes", "--sequence --replicate",
+           "Only one of --sequence and --replicate can be used.");
+    addRow("no target", "--print 1", "Where to? Add --output FILE.pdf or --printer NAME.");
+    addRow("empty output", "--all --output=", "--output needs a file name.");
+    addRow("empty picture", "--screenshot=", "--screenshot needs a file name.");
+    addRow("no copies", "--copies 0", "--copies needs a number from 1 to 999, not \"0\".");
+    addRow("too many copies", "--copies 1000",
+           "--copies needs a number from 1 to 999, not \"1000\".");
+    addRow("record 0", "--current 0 --output x.pdf",
+           "--current needs a number from 1 to 2147483647, not \"0\".");
+    addRow("sheet", "--nup 2", "--nup needs rows x columns such as 2x3, not \"2\".");
+    addRow("paper", "--paper A5", "--paper needs label, a4 or letter, not \"a5\".");
+    addRow("state", "--state odd",
+           "--state needs one of plain, list-nup, supply, pipe, "
+           "test-controls, preview-portrait, preview-landscape, "
+           "catalog, quickprint, document, multipage, not \"odd\".");
+    addRow("port", "--port x", "--port needs a number from 1 to 65535, not \"x\".");
+    addRow("two orientations", "--print 1 --preview --portrait --landscape --output x.pdf",
+           "Only one of --portrait and --landscape can be used.");
+    addRow("orientation of nothing", "--print 1 --portrait --output x.pdf",
+           "--portrait and --landscape need --preview.");
+    addRow("preview of nothing", "--preview --output x.pdf",
+           "--preview needs --print, --all or --current.");
+    addRow("preview without a target", "--preview --print 1",
+           "Where to? Add --output FILE.pdf or --printer NAME.");
+    addRow("catalogue without a target", "--catalog EXIT",
+           "Where to? Add --output FILE.pdf or --printer NAME.");
+    addRow("size of nothing", "--size 1x1", "--size needs --catalog NAME.");
+    addRow("no item", "--catalog= --output x.pdf", "--catalog needs the name of an item.");
+    addRow("half a size", "--catalog EXIT --size 10x --output x.pdf",
+           "--size needs length x width such as 10x7, not \"10x\".");
+    addRow("one size", "--catalog EXIT --size 10 --output x.pdf",
+           "--size needs length x width such as 10x7, not \"10\".");
+    addRow("item and records", "--catalog EXIT --all --output x.pdf",
+           "--all cannot be used with --catalog.");
+    addRow("item and sheet", "--catalog EXIT --nup 2x2 --output x.pdf",
+           "--nup cannot be used with --catalog.");
+    addRow("unknown", "--odd", "Unknown option 'odd'.");
+    addRow("stray word", "label.pdf", "\"label.pdf\" is not an option.");
 }
 
-void TestCommandLine::complains()
+void TestCommandLine::reportsProblems()
 {
     QFETCH(QString, line);
     QTEST(parse(line).problem, "problem");
@@ -233,15 +207,15 @@ void TestCommandLine::recognisesWorkWithoutAUser_data()
     QTest::addColumn<QByteArrayList>("arguments");
     QTest::addColumn<bool>("headless");
 
-    QTest::newRow("nothing") << QByteArrayList{} << false;
-    QTest::newRow("print") << QByteArrayList{"--print", "1"} << true;
-    QTest::newRow("joined") << QByteArrayList{"--print=1"} << true;
-    QTest::newRow("late") << QByteArrayList{"--output", "x", "--all"} << true;
-    QTest::newRow("picture") << QByteArrayList{"--screenshot", "x"} << true;
-    QTest::newRow("help") << QByteArrayList{"-h"} << true;
-    QTest::newRow("value") << QByteArrayList{"--database", "all"} << false;
-    QTest::newRow("other option") << QByteArrayList{"--print-to-file"} << false;
-    QTest::newRow("empty") << QByteArrayList{"", "-", "--"} << false;
+    addRow("nothing", QByteArrayList{}, false);
+    addRow("print", QByteArrayList{"--print", "1"}, true);
+    addRow("joined", QByteArrayList{"--print=1"}, true);
+    addRow("late", QByteArrayList{"--output", "x", "--all"}, true);
+    addRow("picture", QByteArrayList{"--screenshot", "x"}, true);
+    addRow("help", QByteArrayList{"-h"}, true);
+    addRow("value", QByteArrayList{"--database", "all"}, false);
+    addRow("other option", QByteArrayList{"--print-to-file"}, false);
+    addRow("empty", QByteArrayList{"", "-", "--"}, false);
 }
 
 void TestCommandLine::recognisesWorkWithoutAUser()
@@ -254,7 +228,7 @@ void TestCommandLine::recognisesWorkWithoutAUser()
     QTEST(looksHeadless(int(raw.size()), raw.constData()), "headless");
 }
 
-void TestCommandLine::appliesOnlyWhatWasSaid()
+void TestCommandLine::appliesOnlyTheGivenOptions()
 {
     HostSettings settings;
     settings.setOutputPath(QStringLiteral("/tmp/a.pdf"));

@@ -332,13 +332,13 @@ void TestChemicalSeed::casCheckDigitRejectsWrongNumbers_data()
 {
     QTest::addColumn<QString>("number");
     QTest::addColumn<bool>("valid");
-    QTest::newRow("water") << QStringLiteral("7732-18-5") << true;
-    QTest::newRow("caffeine") << QStringLiteral("58-08-2") << true;
-    QTest::newRow("wrong check digit") << QStringLiteral("7732-18-4") << false;
-    QTest::newRow("digits swapped") << QStringLiteral("7732-81-5") << false;
-    QTest::newRow("no hyphens") << QStringLiteral("7732185") << false;
-    QTest::newRow("leading zero") << QStringLiteral("058-08-2") << false;
-    QTest::newRow("empty") << QString() << false;
+    addRow("water", "7732-18-5", true);
+    addRow("caffeine", "58-08-2", true);
+    addRow("wrong check digit", "7732-18-4", false);
+    addRow("digits swapped", "7732-81-5", false);
+    addRow("no hyphens", "7732185", false);
+    addRow("leading zero", "058-08-2", false);
+    addRow("empty", QString(), false);
 }
 
 void TestChemicalSeed::casCheckDigitRejectsWrongNumbers()
@@ -351,19 +351,18 @@ void TestChemicalSeed::rulesDeriveKnownLabels_data()
 {
     QTest::addColumn<QStringList>("hazards");
     QTest::addColumn<QStringList>("pictograms");
-    QTest::newRow("skull drops the exclamation mark")
-        << words("H270 H280 H315 H319 H331 H335 H400") << words("GHS03 GHS04 GHS06 GHS09");
-    QTest::newRow("corrosion drops it for irritation")
-        << words("H225 H315 H318") << words("GHS02 GHS05");
-    QTest::newRow("corrosion keeps it for narcotic effects")
-        << words("H226 H315 H318 H336") << words("GHS02 GHS05 GHS07");
-    QTest::newRow("corrosion to metals alone keeps it for irritation")
-        << words("H290 H319") << words("GHS05 GHS07");
-    QTest::newRow("respiratory sensitisation drops it for skin sensitisation")
-        << words("H315 H317 H319 H334") << words("GHS08");
-    QTest::newRow("other health hazards keep it for skin sensitisation")
-        << words("H317 H350") << words("GHS07 GHS08");
-    QTest::newRow("harmful beside corrosive") << words("H302 H314") << words("GHS05 GHS07");
+    addRow("skull drops the exclamation mark", words("H270 H280 H315 H319 H331 H335 H400"),
+           words("GHS03 GHS04 GHS06 GHS09"));
+    addRow("corrosion drops it for irritation", words("H225 H315 H318"), words("GHS02 GHS05"));
+    addRow("corrosion keeps it for narcotic effects", words("H226 H315 H318 H336"),
+           words("GHS02 GHS05 GHS07"));
+    addRow("corrosion to metals alone keeps it for irritation", words("H290 H319"),
+           words("GHS05 GHS07"));
+    addRow("respiratory sensitisation drops it for skin sensitisation",
+           words("H315 H317 H319 H334"), words("GHS08"));
+    addRow("other health hazards keep it for skin sensitisation", words("H317 H350"),
+           words("GHS07 GHS08"));
+    addRow("harmful beside corrosive", words("H302 H314"), words("GHS05 GHS07"));
 }
 
 void TestChemicalSeed::rulesDeriveKnownLabels()
@@ -475,21 +474,17 @@ void TestChemicalSeed::everyPictogramIsUsed()
 void TestChemicalSeed::statementsHaveTheStandardWording_data()
 {
     QTest::addColumn<QString>("wording");
-    QTest::newRow("H225") << QStringLiteral("Highly flammable liquid and vapour.");
-    QTest::newRow("H314") << QStringLiteral("Causes severe skin burns and eye damage.");
-    QTest::newRow("H334") << QStringLiteral("May cause allergy or asthma symptoms or breathing "
-                                            "difficulties if inhaled.");
-    QTest::newRow("H360FD") << QStringLiteral("May damage fertility. May damage the unborn child.");
-    QTest::newRow("H410") << QStringLiteral(
-        "Very toxic to aquatic life with long lasting effects.");
-    QTest::newRow("P210") << QStringLiteral(
-        "Keep away from heat, hot surfaces, sparks, open flames "
-        "and other ignition sources. No smoking.");
-    QTest::newRow("P301+P330+P331")
-        << QStringLiteral("IF SWALLOWED: Rinse mouth. Do NOT induce vomiting.");
-    QTest::newRow("P305+P351+P338")
-        << QStringLiteral("IF IN EYES: Rinse cautiously with water for several minutes. Remove "
-                          "contact lenses, if present and easy to do. Continue rinsing.");
+    addRow("H225", "Highly flammable liquid and vapour.");
+    addRow("H314", "Causes severe skin burns and eye damage.");
+    addRow("H334", "May cause allergy or asthma symptoms or breathing "
+                   "difficulties if inhaled.");
+    addRow("H360FD", "May damage fertility. May damage the unborn child.");
+    addRow("H410", "Very toxic to aquatic life with long lasting effects.");
+    addRow("P210", "Keep away from heat, hot surfaces, sparks, open flames "
+                   "and other ignition sources. No smoking.");
+    addRow("P301+P330+P331", "IF SWALLOWED: Rinse mouth. Do NOT induce vomiting.");
+    addRow("P305+P351+P338", "IF IN EYES: Rinse cautiously with water for several minutes. Remove "
+                             "contact lenses, if present and easy to do. Continue rinsing.");
 }
 
 void TestChemicalSeed::statementsHaveTheStandardWording()

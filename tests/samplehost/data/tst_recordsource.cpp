@@ -73,8 +73,8 @@ class TestRecordSource : public StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() override;
+    void cleanup() override;
 
     void firstStartCreatesTheDatabaseFromTheSeed();
     void firstStartMakesMissingFolders();
@@ -267,13 +267,10 @@ void TestRecordSource::indexWithoutRecordIsAnError_data()
     QTest::addColumn<int>("index");
     QTest::addColumn<QString>("expected");
     const int count = static_cast<int>(ChemicalSeed::load().size());
-    QTest::newRow("just beyond the end")
-        << count << QStringLiteral("There is no record %1.").arg(count + 1);
-    QTest::newRow("negative") << -1 << QStringLiteral("There is no record 0.");
-    QTest::newRow("smallest") << std::numeric_limits<int>::min()
-                              << QStringLiteral("There is no record -2147483647.");
-    QTest::newRow("largest") << std::numeric_limits<int>::max()
-                             << QStringLiteral("There is no record 2147483648.");
+    addRow("just beyond the end", count, QStringLiteral("There is no record %1.").arg(count + 1));
+    addRow("negative", -1, "There is no record 0.");
+    addRow("smallest", std::numeric_limits<int>::min(), "There is no record -2147483647.");
+    addRow("largest", std::numeric_limits<int>::max(), "There is no record 2147483648.");
 }
 
 void TestRecordSource::indexWithoutRecordIsAnError()
@@ -292,10 +289,9 @@ void TestRecordSource::unusableFileIsReportedAndLeftAlone_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("reason");
-    QTest::newRow("text") << QByteArray(2000, 'x') << QStringLiteral("not a database");
-    QTest::newRow("damaged header")
-        << QByteArray("SQLite format 3\0\1\2\3", 19) << QStringLiteral("not a database");
-    QTest::newRow("nothing in it") << QByteArray() << QStringLiteral("no such table");
+    addRow("text", QByteArray(2000, 'x'), "not a database");
+    addRow("damaged header", QByteArray("SQLite format 3\0\1\2\3", 19), "not a database");
+    addRow("nothing in it", QByteArray(), "no such table");
 }
 
 void TestRecordSource::unusableFileIsReportedAndLeftAlone()

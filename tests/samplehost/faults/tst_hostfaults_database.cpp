@@ -4,7 +4,7 @@
 #include "samplehost/data/seeddatabase.h"
 #include "samplehost/pages/labelview.h"
 #include "samplehost/printing/labelpreview.h"
-#include "samplehost/support/faulthost.h"
+#include "samplehost/support/faultfixture.h"
 #include "samplehost/support/hostprogram.h"
 #include "support/stricttest.h"
 
@@ -41,12 +41,12 @@ private:
     QString m_name;
 };
 
-/** What can happen to the database, and what the user is told then. */
+/** What can happen to the database, and what the user is shown then. */
 struct Fault
 {
     const char* name;
     const char* reason;
-    std::function<bool(const QString& path)> strike;
+    std::function<bool(const QString& path)> apply;
 };
 
 bool overwrite(const QString& path, const QByteArray& bytes)
@@ -142,10 +142,10 @@ void TestHostFaultsDatabase::beforeTheStart_data()
 void TestHostFaultsDatabase::beforeTheStart()
 {
     QFETCH(Fault, fault);
-    const FaultHost first;
+    const FaultFixture first;
     const QString path = first.path("chemicals.db");
     const QString backup = first.path("backup.db");
-    QVERIFY(QFile::copy(path, backup) && fault.strike(path));
+    QVERIFY(QFile::copy(path, backup) && fault.apply(path));
     HostOptions options;
     options.dataSource.databaseName = path;
     MainWindow window(options);
@@ -183,13 +183,13 @@ void TestHostFaultsDatabase::betweenChoosingAndPrinting_data()
 void TestHostFaultsDatabase::betweenChoosingAndPrinting()
 {
     QFETCH(Fault, fault);
-    FaultHost host;
+    FaultFixture host;
     const QString path = host.path("chemicals.db");
     const QString backup = host.path("backup.db");
     QVERIFY(host.choose(Printout::Labels));
     QVERIFY(PdfSamples::write(host.outputPath(), "older"));
     const QString chosen = host.choices(Printout::Labels);
-    QVERIFY(QFile::copy(path, backup) && fault.strike(path));
+    QVERIFY(QFile::copy(path, backup) && fault.apply(path));
 
     QCOMPARE(host.print(Printout::Labels), std::optional(Outcome::Failed));
     QVERIFY2(
@@ -203,13 +203,13 @@ void TestHostFaultsDatabase::betweenChoosingAndPrinting()
 
     QVERIFY(restore(backup, path));
     QCOMPARE(host.print(Printout::Labels), std::optional(Outcome::Completed));
-    QCOMPARE(int(pdfPages(host.outputPath()).size()), FaultHost::pagesOf(Printout::Labels));
+    QCOMPARE(int(pdfPages(host.outputPath()).size()), FaultFixture::pagesOf(Printout::Labels));
 }
 
 // Turning to other records, or changing a preference, looks at the records too.
 void TestHostFaultsDatabase::choiceOutlivesTheFault()
 {
-    FaultHost host;
+    FaultFixture host;
     QVERIFY(host.choose(Printout::Labels));
     host.labels().navigator().setCurrentIndex(6);
     const QString chosen = host.choices(Printout::Labels);
@@ -227,7 +227,7 @@ void TestHostFaultsDatabase::choiceOutlivesTheFault()
 
 void TestHostFaultsDatabase::previewTellsTheReason()
 {
-    FaultHost host;
+    FaultFixture host;
     QVERIFY(host.choose(Printout::Labels));
     QVERIFY(QFile::rename(host.path("chemicals.db"), host.path("aside.db")));
     host.click("PreviewButton");
@@ -238,7 +238,7 @@ void TestHostFaultsDatabase::previewTellsTheReason()
 
 void TestHostFaultsDatabase::lockedBeforeTheStart()
 {
-    const FaultHost first;
+    const FaultFixture first;
     const OtherProgram other(first.path("chemicals.db"));
     QVERIFY(other.run("BEGIN EXCLUSIVE"));
     HostOptions options;
@@ -255,7 +255,7 @@ void TestHostFaultsDatabase::lockedBeforeTheStart()
 
 void TestHostFaultsDatabase::lockedBetweenChoosingAndPrinting()
 {
-    FaultHost host;
+    FaultFixture host;
     QVERIFY(host.choose(Printout::Labels));
     const OtherProgram other(host.path("chemicals.db"));
     QVERIFY(other.run("BEGIN EXCLUSIVE"));
@@ -268,7 +268,7 @@ void TestHostFaultsDatabase::lockedBetweenChoosingAndPrinting()
 
 void TestHostFaultsDatabase::anotherDatabaseInItsPlaceIsRead()
 {
-    FaultHost host;
+    FaultFixture host;
     const QString path = host.path("chemicals.db");
     host.typeList(QStringLiteral("1"));
     QVERIFY(QFile::copy(path, host.path("other.db")));
@@ -285,7 +285,7 @@ void TestHostFaultsDatabase::anotherDatabaseInItsPlaceIsRead()
 
 void TestHostFaultsDatabase::readOnlyDatabaseIsRead()
 {
-    const FaultHost first;
+    const FaultFixture first;
     QVERIFY(QFile::setPermissions(first.path("chemicals.db"), QFile::ReadOwner));
     HostOptions options;
     options.dataSource.databaseName = first.path("chemicals.db");
@@ -296,7 +296,7 @@ void TestHostFaultsDatabase::readOnlyDatabaseIsRead()
 
 void TestHostFaultsDatabase::emptyTableIsNoFault()
 {
-    FaultHost host;
+    FaultFixture host;
     host.typeList(QStringLiteral("1"));
     QVERIFY(OtherProgram(host.path("chemicals.db")).run("DELETE FROM chemicals"));
     host.click("PrintButton");
@@ -308,7 +308,7 @@ void TestHostFaultsDatabase::emptyTableIsNoFault()
 
 void TestHostFaultsDatabase::reloadKeepsThePosition()
 {
-    FaultHost host;
+    FaultFixture host;
     QVERIFY(host.choose(Printout::Labels));
     host.labels().navigator().setCurrentIndex(6);
     const QString chosen = host.choices(Printout::Labels);
@@ -324,7 +324,7 @@ void TestHostFaultsDatabase::reloadKeepsThePosition()
 
 void TestHostFaultsDatabase::reloadWhilePrinting()
 {
-    FaultHost host;
+    FaultFixture host;
     host.click("allRecordsRadio");
     host.panel().setNumberOfCopies(3);
     QSignalSpy ended(&host.labels().controller(), &PrintController::jobEnded);
@@ -371,15 +371,15 @@ void TestHostFaultsDatabase::deletedWhilePrinting()
 
 void TestHostFaultsDatabase::viewKeepsTheReason()
 {
-    FaultHost host;
+    FaultFixture host;
     InputSimulation::processEvents();
     auto* view = host.find<LabelView>("labelView");
     QVERIFY(QFile::rename(host.path("chemicals.db"), host.path("aside.db")));
     host.labels().navigator().setCurrentIndex(3);
-    const QImage told = view->grab().toImage();
-    QCOMPARE(view->grab().toImage(), told);
+    const QImage shown = view->grab().toImage();
+    QCOMPARE(view->grab().toImage(), shown);
     view->setSheet(QSizeF(101.6, 76.2), [](QPainter&, const QRectF&) {});
-    QVERIFY(view->grab().toImage() != told);
+    QVERIFY(view->grab().toImage() != shown);
 }
 
 void TestHostFaultsDatabase::program_data()
@@ -390,9 +390,9 @@ void TestHostFaultsDatabase::program_data()
 void TestHostFaultsDatabase::program()
 {
     QFETCH(Fault, fault);
-    const FaultHost first;
+    const FaultFixture first;
     const QString path = first.path("chemicals.db");
-    QVERIFY(fault.strike(path));
+    QVERIFY(fault.apply(path));
     HostProgram program(first.folder.path());
     const int code =
         program.run(QStringLiteral("--print 1-2 --database chemicals.db --output labels.pdf"));

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/support/faulthost.h"
+#include "samplehost/support/faultfixture.h"
 #include "samplehost/support/fulldisk.h"
 #include "samplehost/support/hostprogram.h"
 #include "support/stricttest.h"
@@ -69,7 +69,7 @@ void TestHostFaultsDisk::printing()
     QFETCH(Printout, printout);
     QFETCH(Kind, kind);
     QFETCH(int, bytesLeft);
-    FaultHost host;
+    FaultFixture host;
     FullDisk disk(kind, host.path("disk"));
     QVERIFY(disk.isReady());
     host.window->settings().setOutputPath(disk.path("out.pdf"));
@@ -97,7 +97,7 @@ void TestHostFaultsDisk::printing()
 
     QCOMPARE(host.print(printout), std::optional(Outcome::Completed));
     QCOMPARE(host.shown, QString());
-    QCOMPARE(int(pdfPages(output).size()), FaultHost::pagesOf(printout));
+    QCOMPARE(int(pdfPages(output).size()), FaultFixture::pagesOf(printout));
 }
 
 void TestHostFaultsDisk::settings_data()
@@ -108,7 +108,7 @@ void TestHostFaultsDisk::settings_data()
 void TestHostFaultsDisk::settings()
 {
     QFETCH(Kind, kind);
-    FaultHost host;
+    FaultFixture host;
     FullDisk disk(kind, host.path("disk"));
     QVERIFY(disk.isReady());
     QCoreApplication::setOrganizationName(QStringLiteral("printpanels-test"));
@@ -124,10 +124,10 @@ void TestHostFaultsDisk::settings()
 
     QVERIFY(disk.fill());
     settings.setNup(NupLayout{2, 2});
-    const QString told = host.window->statusBar()->currentMessage();
+    const QString message = host.window->statusBar()->currentMessage();
     const bool saved = host.window->saveSettings();
     disk.free();
-    QCOMPARE(told, QStringLiteral("The settings cannot be kept for the next start."));
+    QCOMPARE(message, QStringLiteral("The settings cannot be kept for the next start."));
     QVERIFY(!saved);
     QCOMPARE(contentsOf(file), older);
     QCOMPARE(settings.nup(), (NupLayout{2, 2}));

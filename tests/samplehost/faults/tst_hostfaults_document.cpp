@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/support/faulthost.h"
+#include "samplehost/support/faultfixture.h"
 #include "samplehost/support/hostprogram.h"
 #include "support/stricttest.h"
 
@@ -74,15 +74,14 @@ void TestHostFaultsDocument::addBroken()
     const QString damaged =
         QStringLiteral("The file \"%1\" is not a PDF document, or it is damaged.");
     const QByteArray good = PdfSamples::form();
-    QTest::newRow("empty") << QByteArray() << QStringLiteral("The file \"%1\" is empty.");
-    QTest::newRow("garbage") << QByteArray(5000, '\xA7') << damaged;
-    QTest::newRow("null bytes") << QByteArray(5000, '\0') << damaged;
-    QTest::newRow("truncated") << good.left(good.size() / 3) << damaged;
-    QTest::newRow("password") << PdfSamples::encrypted(good, "secret", true)
-                              << QStringLiteral("The file \"%1\" is protected by a password.");
-    QTest::newRow("no pages") << PdfSamples::pages({})
-                              << QStringLiteral("The file \"%1\" has no pages.");
-    QTest::newRow("pages among themselves") << withKids("4 0 R 4 0 R 2 0 R") << QString();
+    addRow("empty", QByteArray(), "The file \"%1\" is empty.");
+    addRow("garbage", QByteArray(5000, '\xA7'), damaged);
+    addRow("null bytes", QByteArray(5000, '\0'), damaged);
+    addRow("truncated", good.left(good.size() / 3), damaged);
+    addRow("password", PdfSamples::encrypted(good, "secret", true),
+           "The file \"%1\" is protected by a password.");
+    addRow("no pages", PdfSamples::pages({}), "The file \"%1\" has no pages.");
+    addRow("pages among themselves", withKids("4 0 R 4 0 R 2 0 R"), QString());
 }
 
 void TestHostFaultsDocument::brokenDocumentIsRefused_data()
@@ -94,7 +93,7 @@ void TestHostFaultsDocument::brokenDocumentIsRefused()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(QString, problem);
-    FaultHost host;
+    FaultFixture host;
     QVERIFY(host.choose(Printout::Document));
     const QString chosen = host.choices(Printout::Document);
     QVERIFY(PdfSamples::write(host.path("broken.pdf"), bytes));
@@ -106,7 +105,7 @@ void TestHostFaultsDocument::brokenDocumentIsRefused()
     // The document that was open still is, with all that was chosen for it.
     QCOMPARE(host.choices(Printout::Document), chosen);
     QCOMPARE(host.print(Printout::Document), std::optional(Outcome::Completed));
-    QCOMPARE(int(pdfPages(host.outputPath()).size()), FaultHost::pagesOf(Printout::Document));
+    QCOMPARE(int(pdfPages(host.outputPath()).size()), FaultFixture::pagesOf(Printout::Document));
 }
 
 void TestHostFaultsDocument::programRefusesABrokenDocument_data()
@@ -132,29 +131,29 @@ void TestHostFaultsDocument::programRefusesABrokenDocument()
 void TestHostFaultsDocument::absurdPageIsShownAndPrinted_data()
 {
     QTest::addColumn<QByteArray>("entries");
-    QTest::newRow("no box") << QByteArray();
-    QTest::newRow("nothing") << QByteArray("/MediaBox [ 0 0 0 0 ]");
-    QTest::newRow("a line") << QByteArray("/MediaBox [ 0 0 500 0 ]");
-    QTest::newRow("inside out") << QByteArray("/MediaBox [ 300 200 0 0 ]");
-    QTest::newRow("huge") << QByteArray("/MediaBox [ 0 0 1e30 1e30 ]");
-    QTest::newRow("huge digits") << QByteArray("/MediaBox [ 0 0 99999999999999999999 9 ]");
-    QTest::newRow("far away") << QByteArray("/MediaBox [ 2000000000 2000000000 2000000100 "
-                                            "2000000100 ]");
-    QTest::newRow("largest") << QByteArray("/MediaBox [ 0 0 144000 144000 ]");
-    QTest::newRow("a thread") << QByteArray("/MediaBox [ 0 0 144000 1 ]");
-    QTest::newRow("no numbers") << QByteArray("/MediaBox [ /NaN (x) null [ ] ]");
-    QTest::newRow("words") << QByteArray("/MediaBox [ nan inf -inf nan ]");
-    QTest::newRow("cropped to nothing")
-        << QByteArray("/MediaBox [ 0 0 100 100 ] /CropBox [ 500 500 600 600 ]");
-    QTest::newRow("units") << QByteArray("/MediaBox [ 0 0 100 100 ] /UserUnit 1e9");
-    QTest::newRow("turned oddly") << QByteArray("/MediaBox [ 0 0 100 100 ] /Rotate 2147483647");
-    QTest::newRow("page above itself") << QByteArray("/MediaBox [ 0 0 9 9 ] /Kids [ 3 0 R ]");
+    addRow("no box", QByteArray());
+    addRow("nothing", QByteArray("/MediaBox [ 0 0 0 0 ]"));
+    addRow("a line", QByteArray("/MediaBox [ 0 0 500 0 ]"));
+    addRow("inside out", QByteArray("/MediaBox [ 300 200 0 0 ]"));
+    addRow("huge", QByteArray("/MediaBox [ 0 0 1e30 1e30 ]"));
+    addRow("huge digits", QByteArray("/MediaBox [ 0 0 99999999999999999999 9 ]"));
+    addRow("far away", QByteArray("/MediaBox [ 2000000000 2000000000 2000000100 "
+                                  "2000000100 ]"));
+    addRow("largest", QByteArray("/MediaBox [ 0 0 144000 144000 ]"));
+    addRow("a thread", QByteArray("/MediaBox [ 0 0 144000 1 ]"));
+    addRow("no numbers", QByteArray("/MediaBox [ /NaN (x) null [ ] ]"));
+    addRow("words", QByteArray("/MediaBox [ nan inf -inf nan ]"));
+    addRow("cropped to nothing",
+           QByteArray("/MediaBox [ 0 0 100 100 ] /CropBox [ 500 500 600 600 ]"));
+    addRow("units", QByteArray("/MediaBox [ 0 0 100 100 ] /UserUnit 1e9"));
+    addRow("turned oddly", QByteArray("/MediaBox [ 0 0 100 100 ] /Rotate 2147483647"));
+    addRow("page above itself", QByteArray("/MediaBox [ 0 0 9 9 ] /Kids [ 3 0 R ]"));
 }
 
 void TestHostFaultsDocument::absurdPageIsShownAndPrinted()
 {
     QFETCH(QByteArray, entries);
-    FaultHost host;
+    FaultFixture host;
     if (!host.openBytes(withPage(entries))) {
         QVERIFY(!host.shownMessage().isEmpty());
         return;
@@ -175,37 +174,37 @@ void TestHostFaultsDocument::openDocumentOutlivesItsFile_data()
 {
     using Change = std::function<bool(const QString&)>;
     QTest::addColumn<Change>("change");
-    QTest::newRow("deleted") << Change([](const QString& path) { return QFile::remove(path); });
-    QTest::newRow("replaced") << Change([](const QString& path) {
+    const auto row = [](const char* name, const Change& change) { addRow(name, change); };
+    row("deleted", [](const QString& path) { return QFile::remove(path); });
+    row("replaced", [](const QString& path) {
         return QFile::remove(path) && PdfSamples::writeNumbered(path, 2);
     });
-    QTest::newRow("a folder") << Change(
-        [](const QString& path) { return QFile::remove(path) && QDir().mkdir(path); });
+    row("a folder", [](const QString& path) { return QFile::remove(path) && QDir().mkdir(path); });
 }
 
 void TestHostFaultsDocument::openDocumentOutlivesItsFile()
 {
     QFETCH(std::function<bool(const QString&)>, change);
-    FaultHost host;
+    FaultFixture host;
     QVERIFY(host.choose(Printout::Document));
     QVERIFY(change(host.path("in.pdf")));
     QCOMPARE(host.print(Printout::Document), std::optional(Outcome::Completed));
-    QCOMPARE(int(pdfPages(host.outputPath()).size()), FaultHost::pagesOf(Printout::Document));
+    QCOMPARE(int(pdfPages(host.outputPath()).size()), FaultFixture::pagesOf(Printout::Document));
 }
 
 void TestHostFaultsDocument::changedDocumentIsNotPrinted_data()
 {
     QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("emptied") << QByteArray();
-    QTest::newRow("cut off") << PdfSamples::form().left(300);
-    QTest::newRow("garbage") << QByteArray(90000, '\xA7');
-    QTest::newRow("another document") << PdfSamples::form();
+    addRow("emptied", QByteArray());
+    addRow("cut off", PdfSamples::form().left(300));
+    addRow("garbage", QByteArray(90000, '\xA7'));
+    addRow("another document", PdfSamples::form());
 }
 
 void TestHostFaultsDocument::changedDocumentIsNotPrinted()
 {
     QFETCH(QByteArray, bytes);
-    FaultHost host;
+    FaultFixture host;
     QVERIFY(host.choose(Printout::Document));
     QVERIFY(PdfSamples::write(host.outputPath(), "older"));
     const QByteArray good = contentsOf(host.path("in.pdf"));
@@ -230,7 +229,7 @@ void TestHostFaultsDocument::changedDocumentIsNotPrinted()
 
 void TestHostFaultsDocument::tenThousandPages()
 {
-    FaultHost host;
+    FaultFixture host;
     constexpr int pages = 10000;
     QVERIFY(host.openNumbered(pages));
     QCOMPARE(host.navigator().count(), pages);

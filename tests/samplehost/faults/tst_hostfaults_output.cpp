@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/support/faulthost.h"
+#include "samplehost/support/faultfixture.h"
 #include "samplehost/support/fulldisk.h"
 #include "samplehost/support/hostprogram.h"
 #include "samplehost/window/preferencesdialog.h"
@@ -112,7 +112,7 @@ void TestHostFaultsOutput::obstacle()
 {
     QFETCH(Printout, printout);
     QFETCH(Obstacle, obstacle);
-    FaultHost host;
+    FaultFixture host;
     const QString folder = host.path("way");
     QVERIFY(QDir().mkdir(folder) && obstacle.build(folder));
     host.window->settings().setOutputPath(folder + QLatin1Char('/') + obstacle.file);
@@ -133,13 +133,13 @@ void TestHostFaultsOutput::obstacle()
     host.window->settings().setOutputPath(folder + QStringLiteral("/good.pdf"));
     QCOMPARE(host.print(printout), std::optional(Outcome::Completed));
     QCOMPARE(int(pdfPages(folder + QStringLiteral("/good.pdf")).size()),
-             FaultHost::pagesOf(printout));
+             FaultFixture::pagesOf(printout));
 }
 
 // Root may write everywhere but here, and may not mount in every container.
 void TestHostFaultsOutput::readOnlyDisk()
 {
-    FaultHost host;
+    FaultFixture host;
     const bool mounts = FullDisk::kinds().contains(FullDisk::Kind::FileSystem);
     if (!mounts && ::geteuid() == 0)
         QSKIP("Root writes everywhere, and nothing can be mounted here.");
@@ -170,12 +170,11 @@ void TestHostFaultsOutput::programMeetsObstacle_data()
     const QString output = QStringLiteral("--output");
     const auto all = obstacles();
     for (const Obstacle& obstacle : all) {
-        QTest::addRow("labels, %s", obstacle.name)
-            << QStringLiteral("--print 1-2") << output << obstacle;
+        QTest::addRow("labels, %s", obstacle.name) << "--print 1-2" << output << obstacle;
         QTest::addRow("document, %s", obstacle.name)
-            << QStringLiteral("--document in.pdf --pages 2") << output << obstacle;
-        QTest::addRow("picture, %s", obstacle.name)
-            << QStringLiteral("--metric") << QStringLiteral("--screenshot") << obstacle;
+            << "--document in.pdf --pages 2" << output << obstacle;
+        QTest::addRow("picture, %s", obstacle.name) << "--metric"
+                                                    << "--screenshot" << obstacle;
     }
 }
 
@@ -213,9 +212,9 @@ void TestHostFaultsOutput::filesInUseAreKept_data()
                                                           {"catalogue item", Printout::Item},
                                                           {"document", Printout::Document}};
     for (const auto& [name, printout] : printouts) {
-        QTest::addRow("%s, database", name) << printout << QStringLiteral("chemicals.db") << data;
-        QTest::addRow("%s, link to it", name) << printout << QStringLiteral("link.db") << data;
-        QTest::addRow("%s, document", name) << printout << QStringLiteral("open.pdf") << document;
+        QTest::addRow("%s, database", name) << printout << "chemicals.db" << data;
+        QTest::addRow("%s, link to it", name) << printout << "link.db" << data;
+        QTest::addRow("%s, document", name) << printout << "open.pdf" << document;
     }
 }
 
@@ -224,9 +223,9 @@ void TestHostFaultsOutput::filesInUseAreKept()
     QFETCH(Printout, printout);
     QFETCH(QString, file);
     QFETCH(QString, message);
-    FaultHost host;
+    FaultFixture host;
     QVERIFY(host.choose(printout));
-    QVERIFY(host.openNumbered(FaultHost::pagesOf(Printout::Document), "open.pdf"));
+    QVERIFY(host.openNumbered(FaultFixture::pagesOf(Printout::Document), "open.pdf"));
     host.window->setCurrentPage(host.pageOf(printout));
     QVERIFY(QFile::link(host.path("chemicals.db"), host.path("link.db")));
     const QString path = host.folder.filePath(file);
@@ -244,16 +243,12 @@ void TestHostFaultsOutput::filesInUseAreKept()
 void TestHostFaultsOutput::programKeepsFilesInUse_data()
 {
     QTest::addColumn<QString>("arguments");
-    QTest::newRow("labels") << QStringLiteral("--print 1-2 --output chemicals.db");
-    QTest::newRow("catalogue item")
-        << QStringLiteral("--catalog EYE_WASH_STATION --output chemicals.db");
-    QTest::newRow("document") << QStringLiteral(
-        "--document in.pdf --pages 2 --output chemicals.db");
-    QTest::newRow("document over itself")
-        << QStringLiteral("--document in.pdf --pages 2 --output in.pdf");
-    QTest::newRow("picture") << QStringLiteral("--screenshot chemicals.db");
-    QTest::newRow("picture of a document")
-        << QStringLiteral("--document in.pdf --screenshot in.pdf");
+    addRow("labels", "--print 1-2 --output chemicals.db");
+    addRow("catalogue item", "--catalog EYE_WASH_STATION --output chemicals.db");
+    addRow("document", "--document in.pdf --pages 2 --output chemicals.db");
+    addRow("document over itself", "--document in.pdf --pages 2 --output in.pdf");
+    addRow("picture", "--screenshot chemicals.db");
+    addRow("picture of a document", "--document in.pdf --screenshot in.pdf");
 }
 
 void TestHostFaultsOutput::programKeepsFilesInUse()
@@ -277,33 +272,33 @@ void TestHostFaultsOutput::programKeepsFilesInUse()
 
 void TestHostFaultsOutput::linksAreFollowed()
 {
-    FaultHost host;
+    FaultFixture host;
     QVERIFY(PdfSamples::write(host.path("real.pdf"), "older"));
     QVERIFY(QFile::link(QStringLiteral("real.pdf"), host.outputPath()));
     QVERIFY(host.choose(Printout::Labels));
     QCOMPARE(host.print(Printout::Labels), std::optional(Outcome::Completed));
     QVERIFY(QFileInfo(host.outputPath()).isSymLink());
-    QCOMPARE(int(pdfPages(host.path("real.pdf")).size()), FaultHost::pagesOf(Printout::Labels));
+    QCOMPARE(int(pdfPages(host.path("real.pdf")).size()), FaultFixture::pagesOf(Printout::Labels));
 }
 
 void TestHostFaultsOutput::oddNames_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::newRow("blanks") << QStringLiteral("  a b  ");
-    QTest::newRow("line break") << QStringLiteral("a\nb.pdf");
-    QTest::newRow("quotes") << QStringLiteral("\"a'b`c$(d).pdf");
-    QTest::newRow("place holders") << QStringLiteral("%1 %2 %s.pdf");
-    QTest::newRow("other scripts") << QString::fromUtf8("\u00e4\u6f22\U0001F3F7\u202E.pdf");
-    QTest::newRow("backslash") << QStringLiteral("a\\b.pdf");
-    QTest::newRow("dash") << QStringLiteral("-rf");
-    QTest::newRow("longest") << QString(255, QLatin1Char('n'));
-    QTest::newRow("looks like a temporary file") << QStringLiteral("out.pdf.XXXXXX");
+    addRow("blanks", "  a b  ");
+    addRow("line break", "a\nb.pdf");
+    addRow("quotes", "\"a'b`c$(d).pdf");
+    addRow("place holders", "%1 %2 %s.pdf");
+    addRow("other scripts", QString::fromUtf8("\u00e4\u6f22\U0001F3F7\u202E.pdf"));
+    addRow("backslash", "a\\b.pdf");
+    addRow("dash", "-rf");
+    addRow("longest", QString(255, QLatin1Char('n')));
+    addRow("looks like a temporary file", "out.pdf.XXXXXX");
 }
 
 void TestHostFaultsOutput::oddNames()
 {
     QFETCH(QString, name);
-    FaultHost host;
+    FaultFixture host;
     QVERIFY(QDir(host.folder.path()).mkdir(QStringLiteral("odd")));
     const QString path = host.path("odd/") + name;
     host.window->settings().setOutputPath(path);
@@ -315,7 +310,7 @@ void TestHostFaultsOutput::oddNames()
 
 void TestHostFaultsOutput::preferencesRefuseOddNames()
 {
-    FaultHost host;
+    FaultFixture host;
     const PreferencesDialog dialog(host.window->settings());
     auto* file = dialog.findChild<QLineEdit*>(QStringLiteral("fileEdit"));
     auto* folder = dialog.findChild<QLineEdit*>(QStringLiteral("folderEdit"));

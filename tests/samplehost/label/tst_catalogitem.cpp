@@ -194,39 +194,34 @@ void TestCatalogItem::sizesAreJudged_data()
     const double infinity = std::numeric_limits<double>::infinity();
     const QString noLength = QStringLiteral("The length has to be a number greater than 0.");
     const QString noWidth = QStringLiteral("The width has to be a number greater than 0.");
-    QTest::newRow("good inches") << QSizeF(10, 7) << false << QString();
-    QTest::newRow("good millimetres") << QSizeF(254, 178) << true << QString();
-    QTest::newRow("not a number") << QSizeF(-1, 7) << false << noLength;
-    QTest::newRow("width not a number") << QSizeF(10, -1) << false << noWidth;
-    QTest::newRow("both") << QSizeF(-1, -1) << false << noLength;
-    QTest::newRow("zero") << QSizeF(0, 7) << false << noLength;
-    QTest::newRow("negative zero") << QSizeF(7, -0.0) << false << noWidth;
-    QTest::newRow("NaN") << QSizeF(nan, 7) << false << noLength;
-    QTest::newRow("NaN width") << QSizeF(7, nan) << false << noWidth;
-    QTest::newRow("infinite") << QSizeF(7, infinity) << false << noWidth;
-    QTest::newRow("minus infinity") << QSizeF(-infinity, 7) << true << noLength;
-    QTest::newRow("greatest inches") << QSizeF(36, 12) << false << QString();
-    QTest::newRow("greatest millimetres") << QSizeF(914.4, 304.8) << true << QString();
-    QTest::newRow("least millimetres") << QSizeF(10, 10) << true << QString();
-    QTest::newRow("least inches as shown") << QSizeF(0.39, 0.39) << false << QString();
-    QTest::newRow("too long")
-        << QSizeF(36.01, 7) << false
-        << QStringLiteral("A length of 36.01 in is too long to be printed; the greatest is 36.00 "
-                          "in.");
-    QTest::newRow("too wide")
-        << QSizeF(300, 305) << true
-        << QStringLiteral("A width of 305 mm is too wide to be printed; the greatest is 304.80 "
-                          "mm.");
-    QTest::newRow("huge")
-        << QSizeF(1e300, 7) << false
-        << QStringLiteral("A length of 1e+300 in is too long to be printed; the greatest is 36.00 "
-                          "in.");
-    QTest::newRow("too short")
-        << QSizeF(9.99, 20) << true
-        << QStringLiteral("A length of 9.99 mm is too short to be printed; the least is 10.00 mm.");
-    QTest::newRow("too narrow")
-        << QSizeF(10, 0.1) << false
-        << QStringLiteral("A width of 0.1 in is too narrow to be printed; the least is 0.39 in.");
+    addRow("good inches", QSizeF(10, 7), false, QString());
+    addRow("good millimetres", QSizeF(254, 178), true, QString());
+    addRow("not a number", QSizeF(-1, 7), false, noLength);
+    addRow("width not a number", QSizeF(10, -1), false, noWidth);
+    addRow("both", QSizeF(-1, -1), false, noLength);
+    addRow("zero", QSizeF(0, 7), false, noLength);
+    addRow("negative zero", QSizeF(7, -0.0), false, noWidth);
+    addRow("NaN", QSizeF(nan, 7), false, noLength);
+    addRow("NaN width", QSizeF(7, nan), false, noWidth);
+    addRow("infinite", QSizeF(7, infinity), false, noWidth);
+    addRow("minus infinity", QSizeF(-infinity, 7), true, noLength);
+    addRow("greatest inches", QSizeF(36, 12), false, QString());
+    addRow("greatest millimetres", QSizeF(914.4, 304.8), true, QString());
+    addRow("least millimetres", QSizeF(10, 10), true, QString());
+    addRow("least inches as shown", QSizeF(0.39, 0.39), false, QString());
+    addRow("too long", QSizeF(36.01, 7), false,
+           "A length of 36.01 in is too long to be printed; the greatest is 36.00 "
+           "in.");
+    addRow("too wide", QSizeF(300, 305), true,
+           "A width of 305 mm is too wide to be printed; the greatest is 304.80 "
+           "mm.");
+    addRow("huge", QSizeF(1e300, 7), false,
+           "A length of 1e+300 in is too long to be printed; the greatest is 36.00 "
+           "in.");
+    addRow("too short", QSizeF(9.99, 20), true,
+           "A length of 9.99 mm is too short to be printed; the least is 10.00 mm.");
+    addRow("too narrow", QSizeF(10, 0.1), false,
+           "A width of 0.1 in is too narrow to be printed; the least is 0.39 in.");
 }
 
 void TestCatalogItem::sizesAreJudged()

@@ -223,12 +223,12 @@ void TestLabelPainter::pictureHasTheWantedSize_data()
 {
     QTest::addColumn<QSize>("wanted");
     QTest::addColumn<QSize>("expected");
-    QTest::newRow("usual") << QSize(400, 300) << QSize(400, 300);
-    QTest::newRow("one pixel") << QSize(1, 1) << QSize(1, 1);
-    QTest::newRow("flat") << QSize(500, 3) << QSize(500, 3);
-    QTest::newRow("none") << QSize(0, 300) << QSize();
-    QTest::newRow("negative") << QSize(-5, -5) << QSize();
-    QTest::newRow("invalid") << QSize() << QSize();
+    addRow("usual", QSize(400, 300), QSize(400, 300));
+    addRow("one pixel", QSize(1, 1), QSize(1, 1));
+    addRow("flat", QSize(500, 3), QSize(500, 3));
+    addRow("none", QSize(0, 300), QSize());
+    addRow("negative", QSize(-5, -5), QSize());
+    addRow("invalid", QSize(), QSize());
 }
 
 void TestLabelPainter::pictureHasTheWantedSize()
@@ -285,9 +285,9 @@ void TestLabelPainter::nothingLeavesItsPlace_data()
     for (const Chemical& chemical : seed) {
         QTest::newRow(qPrintable(chemical.name)) << chemical;
     }
-    QTest::newRow("far too much") << overfullChemical();
-    QTest::newRow("words without end") << unbreakableChemical();
-    QTest::newRow("nothing") << Chemical();
+    addRow("far too much", overfullChemical());
+    addRow("words without end", unbreakableChemical());
+    addRow("nothing", Chemical());
 }
 
 void TestLabelPainter::nothingLeavesItsPlace()
@@ -488,15 +488,15 @@ void TestLabelPainter::pipeMarkerSizeFollowsThePipe_data()
     QTest::addColumn<qreal>("diameter");
     QTest::addColumn<qreal>("letters");
     QTest::addColumn<qreal>("length");
-    QTest::newRow("thin") << 21.3 << 13.0 << 203.0;
-    QTest::newRow("limit of the thin") << 32.0 << 13.0 << 203.0;
-    QTest::newRow("two inches") << 50.0 << 19.0 << 203.0;
-    QTest::newRow("six inches") << 150.0 << 32.0 << 305.0;
-    QTest::newRow("ten inches") << 250.0 << 64.0 << 610.0;
-    QTest::newRow("larger") << 251.0 << 89.0 << 813.0;
-    QTest::newRow("senseless") << -1.0 << 13.0 << 203.0;
-    QTest::newRow("beyond all limits") << 1e12 << 89.0 << 813.0;
-    QTest::newRow("not a number") << qQNaN() << 89.0 << 813.0;
+    addRow("thin", 21.3, 13.0, 203.0);
+    addRow("limit of the thin", 32.0, 13.0, 203.0);
+    addRow("two inches", 50.0, 19.0, 203.0);
+    addRow("six inches", 150.0, 32.0, 305.0);
+    addRow("ten inches", 250.0, 64.0, 610.0);
+    addRow("larger", 251.0, 89.0, 813.0);
+    addRow("senseless", -1.0, 13.0, 203.0);
+    addRow("beyond all limits", 1e12, 89.0, 813.0);
+    addRow("not a number", qQNaN(), 89.0, 813.0);
 }
 
 void TestLabelPainter::pipeMarkerSizeFollowsThePipe()
@@ -568,10 +568,10 @@ void TestLabelPainter::tagShowsItsWordOnItsColor_data()
     QTest::addColumn<int>("item");
     QTest::addColumn<QString>("word");
     QTest::addColumn<QColor>("color");
-    QTest::newRow("high pressure") << 1 << QStringLiteral("HIGH") << QColor(0xdc, 0x0b, 0x0b);
-    QTest::newRow("low pressure") << 2 << QStringLiteral("LOW") << QColor(0x24, 0x8d, 0x4f);
-    QTest::newRow("vapor state") << 4 << QStringLiteral("VAP") << QColor(0x41, 0xb6, 0xe6);
-    QTest::newRow("liquid state") << 8 << QStringLiteral("LIQ") << QColor(0xfe, 0xdb, 0x00);
+    addRow("high pressure", 1, "HIGH", QColor(0xdc, 0x0b, 0x0b));
+    addRow("low pressure", 2, "LOW", QColor(0x24, 0x8d, 0x4f));
+    addRow("vapor state", 4, "VAP", QColor(0x41, 0xb6, 0xe6));
+    addRow("liquid state", 8, "LIQ", QColor(0xfe, 0xdb, 0x00));
 }
 
 void TestLabelPainter::tagShowsItsWordOnItsColor()
@@ -596,12 +596,12 @@ void TestLabelPainter::itemThatAMarkerDoesNotHavePaintsNothing_data()
 {
     QTest::addColumn<QString>("abbreviation");
     QTest::addColumn<int>("item");
-    QTest::newRow("tag of the other pressure") << QStringLiteral("HPL") << 2;
-    QTest::newRow("tag of the other state") << QStringLiteral("HPL") << 4;
-    QTest::newRow("two tags at once") << QStringLiteral("HPL") << 9;
-    QTest::newRow("unknown") << QStringLiteral("HPL") << 16;
-    QTest::newRow("negative") << QStringLiteral("HPL") << -1;
-    QTest::newRow("no tags at all") << QString() << 1;
+    addRow("tag of the other pressure", "HPL", 2);
+    addRow("tag of the other state", "HPL", 4);
+    addRow("two tags at once", "HPL", 9);
+    addRow("unknown", "HPL", 16);
+    addRow("negative", "HPL", -1);
+    addRow("no tags at all", QString(), 1);
 }
 
 void TestLabelPainter::itemThatAMarkerDoesNotHavePaintsNothing()

@@ -5,8 +5,8 @@
 #include "samplehost/pages/labelview.h"
 #include "samplehost/printing/labelpreview.h"
 #include "samplehost/support/hostfixture.h"
+#include "samplehost/support/hosttest.h"
 #include "samplehost/window/eventlog.h"
-#include "support/stricttest.h"
 
 #include <printpanels/printpreviewdialog.h>
 #include <printpanels/quickprintwidget.h>
@@ -24,19 +24,18 @@ using namespace SampleHost;
 using Outcome = PrintJob::Outcome;
 
 /** Drives the catalogue page as a user does. */
-class TestCatalogPage : public StrictTest
+class TestCatalogPage : public HostTest<HostFixture>
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() override;
     void startsWithTheFirstItem();
     void selectingAnItemShowsIt();
     void resizedItemIsPrinted();
     void badSizesAreAnswered_data();
     void badSizesAreAnswered();
-    void unappliedSizeIsTold();
+    void unappliedSizeIsReported();
     void listedSizeComesBack();
     void preCutLabelsHaveAFixedSize();
     void sizesFollowTheUnit();
@@ -68,21 +67,12 @@ private:
     /** Presses Print and waits; the pages' texts without blanks. */
     QStringList print() const;
     static QStringList withoutBlanks(QStringList pages);
-    QSizeF pageSizeMm() const;
-
-    std::unique_ptr<HostFixture> m_host;
 };
 
 void TestCatalogPage::init()
 {
-    StrictTest::init();
-    m_host = std::make_unique<HostFixture>();
+    HostTest::init();
     m_host->window->setCurrentPage(page());
-}
-
-void TestCatalogPage::cleanup()
-{
-    m_host.reset();
 }
 
 void TestCatalogPage::press(const char* name) const
@@ -122,14 +112,6 @@ QStringList TestCatalogPage::print() const
         return {};
     }
     return withoutBlanks(pdfPages(m_host->outputPath()));
-}
-
-QSizeF TestCatalogPage::pageSizeMm() const
-{
-    QPdfDocument document;
-    document.load(m_host->outputPath());
-    const QSizeF points = document.pagePointSize(0);
-    return QSizeF(qRound(points.width() / 72 * 25.4), qRound(points.height() / 72 * 25.4));
 }
 
 void TestCatalogPage::startsWithTheFirstItem()
@@ -177,7 +159,7 @@ void TestCatalogPage::resizedItemIsPrinted()
     press("plusButton");
     press("plusButton");
     QCOMPARE(print(), QStringList(3, QStringLiteral("NOSMOKING")));
-    QCOMPARE(pageSizeMm(), QSizeF(102, 216));
+    QCOMPARE(pdfPageSizeMm(m_host->outputPath()), QSizeF(102, 216));
     const QStringList lines = m_host->window->eventLog().lines();
     QVERIFY(lines.contains(QStringLiteral("Catalogue: resizeSignal(4 x 8.5)")));
     QVERIFY(lines.contains(QStringLiteral("Catalogue: widgetPrintSignal(-1, -1, \"\")")));
@@ -191,16 +173,16 @@ void TestCatalogPage::badSizesAreAnswered_data()
 
     const QString noLength = QStringLiteral("The length has to be a number greater than 0.");
     const QString noWidth = QStringLiteral("The width has to be a number greater than 0.");
-    QTest::newRow("letters") << QStringLiteral("abc") << QStringLiteral("5") << noLength;
-    QTest::newRow("empty") << QString() << QStringLiteral("5") << noLength;
-    QTest::newRow("minus one") << QStringLiteral("5") << QStringLiteral("-1") << noWidth;
-    QTest::newRow("zero") << QStringLiteral("5") << QStringLiteral("0") << noWidth;
-    QTest::newRow("nan") << QStringLiteral("nan") << QStringLiteral("5") << noLength;
-    QTest::newRow("inf") << QStringLiteral("5") << QStringLiteral("inf") << noWidth;
-    QTest::newRow("comma") << QStringLiteral("5,5") << QStringLiteral("5") << noLength;
-    QTest::newRow("too long") << QStringLiteral("400") << QStringLiteral("5")
-                              << QStringLiteral("A length of 400 in is too long to be printed; the "
-                                                "greatest is 36.00 in.");
+    addRow("letters", "abc", "5", noLength);
+    addRow("empty", QString(), "5", noLength);
+    addRow("minus one", "5", "-1", noWidth);
+    addRow("zero", "5", "0", noWidth);
+    addRow("nan", "nan", "5", noLength);
+    addRow("inf", "5", "inf", noWidth);
+    addRow("comma", "5,5", "5", noLength);
+    addRow("too long", "400", "5",
+           "A length of 400 in is too long to be printed; the "
+           "greatest is 36.00 in.");
 }
 
 void TestCatalogPage::badSizesAreAnswered()
@@ -225,18 +207,18 @@ void TestCatalogPage::badSizesAreAnswered()
     QCOMPARE(page().design().sizeMm(), QSizeF(127, 127));
 }
 
-void TestCatalogPage::unappliedSizeIsTold()
+void TestCatalogPage::unappliedSizeIsReported()
 {
     type("lengthEdit", QStringLiteral("6"));
     QCOMPARE(print(), QStringList{QStringLiteral("EXIT")});
-    QCOMPARE(pageSizeMm(), QSizeF(254, 127));
+    QCOMPARE(pdfPageSizeMm(m_host->outputPath()), QSizeF(254, 127));
     QCOMPARE(page().message(), QStringLiteral("Printed as shown, 10.00 x 5.00 in. Press Resize to "
                                               "use the size in the fields."));
     press("resizeButton");
     QCOMPARE(page().message(), QString());
     QCOMPARE(print(), QStringList{QStringLiteral("EXIT")});
     QCOMPARE(page().message(), QString());
-    QCOMPARE(pageSizeMm(), QSizeF(152, 127));
+    QCOMPARE(pdfPageSizeMm(m_host->outputPath()), QSizeF(152, 127));
 }
 
 void TestCatalogPage::listedSizeComesBack()
@@ -271,7 +253,7 @@ void TestCatalogPage::sizesFollowTheUnit()
     resize(QStringLiteral("100"), QStringLiteral("50"));
     QCOMPARE(page().design().sizeMm(), QSizeF(100, 50));
     QCOMPARE(print(), QStringList{QStringLiteral("EXIT")});
-    QCOMPARE(pageSizeMm(), QSizeF(100, 50));
+    QCOMPARE(pdfPageSizeMm(m_host->outputPath()), QSizeF(100, 50));
     m_host->window->settings().setMetric(false);
     QCOMPARE(find<QLineEdit>("lengthEdit")->text(), QStringLiteral("3.94"));
     QCOMPARE(find<QLineEdit>("widthEdit")->text(), QStringLiteral("1.97"));
@@ -372,7 +354,7 @@ void TestCatalogPage::editedItemIsPrinted()
     QVERIFY(!ended.isEmpty() || ended.wait());
     QCOMPARE(withoutBlanks(pdfPages(m_host->outputPath())),
              QStringList{QStringLiteral("CORROSIVE")});
-    QCOMPARE(pageSizeMm(), QSizeF(152, 51));
+    QCOMPARE(pdfPageSizeMm(m_host->outputPath()), QSizeF(152, 51));
 
     ended.clear();
     m_host->click("PreviewButton");
@@ -382,7 +364,7 @@ void TestCatalogPage::editedItemIsPrinted()
     QVERIFY(!ended.isEmpty() || ended.wait());
     QCOMPARE(withoutBlanks(pdfPages(m_host->outputPath())),
              QStringList{QStringLiteral("CORROSIVE")});
-    QCOMPARE(pageSizeMm(), QSizeF(51, 152));
+    QCOMPARE(pdfPageSizeMm(m_host->outputPath()), QSizeF(51, 152));
 }
 
 void TestCatalogPage::editorWorksWithoutData()

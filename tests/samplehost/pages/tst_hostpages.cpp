@@ -5,10 +5,10 @@
 #include "samplehost/pages/recordnavigator.h"
 #include "samplehost/simulator/supplysimulator.h"
 #include "samplehost/support/hostfixture.h"
+#include "samplehost/support/hosttest.h"
 #include "samplehost/window/errormessages.h"
 #include "samplehost/window/eventlog.h"
 #include "samplehost/window/preferencesdialog.h"
-#include "support/stricttest.h"
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
@@ -22,13 +22,11 @@
 using namespace SampleHost;
 
 /** The pages of the host: what they tell their panels, and how they follow what a panel says. */
-class TestHostPages : public StrictTest
+class TestHostPages : public HostTest<HostFixture, true>
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void navigationMovesTheCurrentRecord();
     void navigatorStaysInItsBounds();
     void typedRecordNumberIsShown();
@@ -53,20 +51,7 @@ private:
         return m_host->pipes().findChild<Widget*>(QString::fromLatin1(name));
     }
     int currentRecordOfRequest();
-
-    std::unique_ptr<HostFixture> m_host;
 };
-
-void TestHostPages::init()
-{
-    StrictTest::init();
-    m_host = std::make_unique<HostFixture>(true);
-}
-
-void TestHostPages::cleanup()
-{
-    m_host.reset();
-}
 
 int TestHostPages::currentRecordOfRequest()
 {

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "samplehost/pages/labelview.h"
-#include "samplehost/support/documenthost.h"
-#include "support/stricttest.h"
+#include "samplehost/support/documentfixture.h"
+#include "samplehost/support/hosttest.h"
 
 #include <QtCore/QMimeData>
 #include <QtCore/QSettings>
@@ -18,13 +18,11 @@
 using namespace SampleHost;
 
 /** The page of documents: opening files and turning pages. */
-class TestPdfPage : public StrictTest
+class TestPdfPage : public HostTest<DocumentFixture>
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void startsWithoutADocument();
     void opensADocument();
     void turnsPages();
@@ -44,20 +42,7 @@ private Q_SLOTS:
 
 private:
     QMenu* fileMenu() const;
-
-    std::unique_ptr<DocumentHost> m_host;
 };
-
-void TestPdfPage::init()
-{
-    StrictTest::init();
-    m_host = std::make_unique<DocumentHost>();
-}
-
-void TestPdfPage::cleanup()
-{
-    m_host.reset();
-}
 
 QMenu* TestPdfPage::fileMenu() const
 {
@@ -142,11 +127,11 @@ void TestPdfPage::keepsTheDocumentWhenAFileCannotBeOpened_data()
     const QString broken =
         QStringLiteral("The file \"%1\" is not a PDF document, or it is damaged.");
     const QByteArray document = PdfSamples::form();
-    QTest::newRow("missing") << QByteArray() << QStringLiteral("The file \"%1\" does not exist.");
-    QTest::newRow("text") << QByteArray("Not a document") << broken;
-    QTest::newRow("cut off") << document.left(300) << broken;
-    QTest::newRow("encrypted") << PdfSamples::encrypted(document, "secret", true)
-                               << QStringLiteral("The file \"%1\" is protected by a password.");
+    addRow("missing", QByteArray(), "The file \"%1\" does not exist.");
+    addRow("text", QByteArray("Not a document"), broken);
+    addRow("cut off", document.left(300), broken);
+    addRow("encrypted", PdfSamples::encrypted(document, "secret", true),
+           "The file \"%1\" is protected by a password.");
 }
 
 void TestPdfPage::keepsTheDocumentWhenAFileCannotBeOpened()
@@ -210,10 +195,10 @@ void TestPdfPage::ignoresWhatCannotBeDropped_data()
 {
     QTest::addColumn<QList<QUrl>>("urls");
 
-    QTest::newRow("nothing") << QList<QUrl>();
-    QTest::newRow("not a file") << QList<QUrl>{QUrl(QStringLiteral("https://host/in.pdf"))};
-    QTest::newRow("two files") << QList<QUrl>{QUrl::fromLocalFile(QStringLiteral("/a.pdf")),
-                                              QUrl::fromLocalFile(QStringLiteral("/b.pdf"))};
+    addRow("nothing", QList<QUrl>());
+    addRow("not a file", QList<QUrl>{QUrl(QStringLiteral("https://host/in.pdf"))});
+    addRow("two files", QList<QUrl>{QUrl::fromLocalFile(QStringLiteral("/a.pdf")),
+                                    QUrl::fromLocalFile(QStringLiteral("/b.pdf"))});
 }
 
 void TestPdfPage::ignoresWhatCannotBeDropped()

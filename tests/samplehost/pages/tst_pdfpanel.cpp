@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/support/documenthost.h"
-#include "support/stricttest.h"
+#include "samplehost/support/documentfixture.h"
+#include "samplehost/support/hosttest.h"
+#include "samplehost/support/signallogging.h"
 
-#include <QtCore/QMetaMethod>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QRadioButton>
@@ -13,13 +13,11 @@
 using namespace SampleHost;
 
 /** "Preview and Print": what the host tells its panel, and how it follows what the panel says. */
-class TestPdfPanel : public StrictTest
+class TestPdfPanel : public HostTest<DocumentFixture>
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void opensAsAFramelessDialog();
     void showsTheCurrentPage();
     void closesAndOpensAgain();
@@ -36,28 +34,15 @@ private Q_SLOTS:
     void printersAreListed();
     void printerIsSharedWithTheOtherPages();
     void settingsButtonOpensThePreferences();
-    void copiesAreTidied();
+    void emptyCopiesAreCorrected();
     void shortcutsReachThePanel();
-    void barredDocumentsAreNotPrinted();
+    void documentsThatMayNotBePrintedAreNot();
     void eventsAreLogged();
     void everySignalIsLogged();
 
 private:
     QStringList log() const { return m_host->window->eventLog().lines(); }
-
-    std::unique_ptr<DocumentHost> m_host;
 };
-
-void TestPdfPanel::init()
-{
-    StrictTest::init();
-    m_host = std::make_unique<DocumentHost>();
-}
-
-void TestPdfPanel::cleanup()
-{
-    m_host.reset();
-}
 
 void TestPdfPanel::opensAsAFramelessDialog()
 {
@@ -213,8 +198,8 @@ void TestPdfPanel::anotherDocumentFollowsTheTypedList()
 void TestPdfPanel::formFillIsOfferedForForms_data()
 {
     QTest::addColumn<bool>("form");
-    QTest::newRow("form") << true;
-    QTest::newRow("no form") << false;
+    addRow("form", true);
+    addRow("no form", false);
 }
 
 void TestPdfPanel::formFillIsOfferedForForms()
@@ -304,7 +289,7 @@ void TestPdfPanel::settingsButtonOpensThePreferences()
     QVERIFY(m_host->dialog().isVisible());
 }
 
-void TestPdfPanel::copiesAreTidied()
+void TestPdfPanel::emptyCopiesAreCorrected()
 {
     QVERIFY(m_host->openNumbered(1));
     QVERIFY(m_host->showDialog());
@@ -337,7 +322,7 @@ void TestPdfPanel::shortcutsReachThePanel()
     QTRY_COMPARE(m_host->printedPages(), QStringLiteral("3 3"));
 }
 
-void TestPdfPanel::barredDocumentsAreNotPrinted()
+void TestPdfPanel::documentsThatMayNotBePrintedAreNot()
 {
     QVERIFY(m_host->openBytes(PdfSamples::encrypted(PdfSamples::form(), QByteArray(), false)));
     QVERIFY(m_host->showDialog());
@@ -370,38 +355,12 @@ void TestPdfPanel::eventsAreLogged()
                                  QStringLiteral("Documents: widgetPrintSignal(0, 0, \"2,1\")")}));
 }
 
-// A signal that is added to the panel must not be forgotten.
 void TestPdfPanel::everySignalIsLogged()
 {
     MultiPagePrintWidget panel(false, false, nullptr);
     EventLog events;
     events.watch(panel, QStringLiteral("A"));
-    const QMetaObject* metaObject = panel.metaObject();
-    int signalCount = 0;
-    for (int i = QWidget::staticMetaObject.methodCount(); i < metaObject->methodCount(); ++i) {
-        const QMetaMethod method = metaObject->method(i);
-        if (method.methodType() != QMetaMethod::Signal) {
-            continue;
-        }
-        ++signalCount;
-        QList<QVariant> values;
-        QGenericArgument arguments[3];
-        for (int a = 0; a < method.parameterCount(); ++a) {
-            values.append(QVariant(method.parameterMetaType(a)));
-        }
-        for (int a = 0; a < method.parameterCount(); ++a) {
-            arguments[a] = QGenericArgument(method.parameterMetaType(a).name(), values[a].data());
-        }
-        events.clear();
-        QVERIFY2(
-            method.invoke(&panel, Qt::DirectConnection, arguments[0], arguments[1], arguments[2]),
-            method.methodSignature().constData());
-        QCOMPARE(events.lines().size(), qsizetype(1));
-        QVERIFY2(events.lines().at(0).startsWith(
-                     QStringLiteral("A: ") + QString::fromLatin1(method.name()) + QLatin1Char('(')),
-                 method.methodSignature().constData());
-    }
-    QCOMPARE(signalCount, 14);
+    checkThatEverySignalIsLogged(panel, events, 14);
 }
 
 QTEST_MAIN(TestPdfPanel)

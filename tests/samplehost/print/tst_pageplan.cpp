@@ -54,6 +54,10 @@ private Q_SLOTS:
     void readsLayouts_data();
     void readsLayouts();
     void boundsUnusableLayouts();
+
+private:
+    /** The request of the row. */
+    static PrintRequest fetchRequest();
 };
 
 void TestPagePlan::readsRequests_data()
@@ -65,35 +69,34 @@ void TestPagePlan::readsRequests_data()
     QTest::addColumn<QString>("pages");
 
     const auto none = QString();
-    QTest::newRow("only the current record") << 3 << -1 << none << 10 << QStringLiteral("3");
-    QTest::newRow("all records") << 1 << 4 << none << 4 << QStringLiteral("1 2 3 4");
-    QTest::newRow("one record as a range") << 2 << 2 << none << 4 << QStringLiteral("2");
-    QTest::newRow("range clipped") << 3 << 99999 << none << 5 << QStringLiteral("3 4 5");
-    QTest::newRow("list in typed order")
-        << 0 << 0 << QStringLiteral("4-5,1") << 10 << QStringLiteral("4 5 1");
-    QTest::newRow("list repeats") << 0 << 0 << QStringLiteral("2,2,1-2") << 10
-                                  << QStringLiteral("2 2 1 2");
-    QTest::newRow("list clipped") << 0 << 0 << QStringLiteral("1,4-9") << 5
-                                  << QStringLiteral("1 4 5");
-    QTest::newRow("reversed range names nothing")
-        << 0 << 0 << QStringLiteral("1,5-4,3") << 5 << QStringLiteral("1 3");
-    QTest::newRow("beyond the last names nothing")
-        << 0 << 0 << QStringLiteral("9,1,7-8") << 5 << QStringLiteral("1");
+    addRow("only the current record", 3, -1, none, 10, "3");
+    addRow("all records", 1, 4, none, 4, "1 2 3 4");
+    addRow("one record as a range", 2, 2, none, 4, "2");
+    addRow("range clipped", 3, 99999, none, 5, "3 4 5");
+    addRow("list in typed order", 0, 0, "4-5,1", 10, "4 5 1");
+    addRow("list repeats", 0, 0, "2,2,1-2", 10, "2 2 1 2");
+    addRow("list clipped", 0, 0, "1,4-9", 5, "1 4 5");
+    addRow("reversed range names nothing", 0, 0, "1,5-4,3", 5, "1 3");
+    addRow("beyond the last names nothing", 0, 0, "9,1,7-8", 5, "1");
 }
 
-void TestPagePlan::readsRequests()
+PrintRequest TestPagePlan::fetchRequest()
 {
     QFETCH(int, start);
     QFETCH(int, end);
     QFETCH(QString, list);
-    QFETCH(int, recordCount);
-    QFETCH(QString, pages);
-
     PrintRequest request;
     request.sequenceStart = start;
     request.sequenceEnd = end;
     request.customRecordsList = list;
-    const PagePlan plan = PagePlan::make(request, recordCount);
+    return request;
+}
+
+void TestPagePlan::readsRequests()
+{
+    QFETCH(int, recordCount);
+    QFETCH(QString, pages);
+    const PagePlan plan = PagePlan::make(fetchRequest(), recordCount);
 
     QCOMPARE(plan.problem(), PagePlan::Problem::None);
     QCOMPARE(allPages(plan), pages);
@@ -114,10 +117,10 @@ void TestPagePlan::printsEachLabelAsOftenAsThereAreCopies_data()
     QTest::addColumn<int>("copies");
     QTest::addColumn<QString>("pages");
 
-    QTest::newRow("one") << 1 << QStringLiteral("5 1 2");
-    QTest::newRow("three") << 3 << QStringLiteral("5 5 5 1 1 1 2 2 2");
-    QTest::newRow("none counts as one") << 0 << QStringLiteral("5 1 2");
-    QTest::newRow("negative counts as one") << -4 << QStringLiteral("5 1 2");
+    addRow("one", 1, "5 1 2");
+    addRow("three", 3, "5 5 5 1 1 1 2 2 2");
+    addRow("none counts as one", 0, "5 1 2");
+    addRow("negative counts as one", -4, "5 1 2");
 }
 
 void TestPagePlan::printsEachLabelAsOftenAsThereAreCopies()
@@ -149,16 +152,11 @@ void TestPagePlan::sequencingFillsPagesInTurn_data()
     QTest::addColumn<int>("copies");
     QTest::addColumn<QString>("pages");
 
-    QTest::newRow("last page part full")
-        << QStringLiteral("1-5") << 2 << 2 << 1 << QStringLiteral("1,2,3,4 5");
-    QTest::newRow("exactly full") << QStringLiteral("1-4") << 2 << 1 << 1
-                                  << QStringLiteral("1,2 3,4");
-    QTest::newRow("fewer than a page")
-        << QStringLiteral("6,2") << 3 << 2 << 1 << QStringLiteral("6,2");
-    QTest::newRow("a copy begins a page")
-        << QStringLiteral("1-3") << 1 << 2 << 2 << QStringLiteral("1,2 3 1,2 3");
-    QTest::newRow("ranges run into each other")
-        << QStringLiteral("8-9,1,3-4") << 1 << 3 << 1 << QStringLiteral("8,9,1 3,4");
+    addRow("last page part full", "1-5", 2, 2, 1, "1,2,3,4 5");
+    addRow("exactly full", "1-4", 2, 1, 1, "1,2 3,4");
+    addRow("fewer than a page", "6,2", 3, 2, 1, "6,2");
+    addRow("a copy begins a page", "1-3", 1, 2, 2, "1,2 3 1,2 3");
+    addRow("ranges run into each other", "8-9,1,3-4", 1, 3, 1, "8,9,1 3,4");
 }
 
 void TestPagePlan::sequencingFillsPagesInTurn()
@@ -185,29 +183,22 @@ void TestPagePlan::namesTheProblem_data()
 
     const auto unreadable = PagePlan::Problem::UnreadableList;
     const auto nothing = PagePlan::Problem::NoSuchRecord;
-    QTest::newRow("unfinished list") << 0 << 0 << QStringLiteral("1,") << 9 << unreadable;
-    QTest::newRow("unfinished range") << 0 << 0 << QStringLiteral("4-") << 9 << unreadable;
-    QTest::newRow("words") << 0 << 0 << QStringLiteral("all") << 9 << unreadable;
-    QTest::newRow("reversed only") << 0 << 0 << QStringLiteral("5-4") << 9 << nothing;
-    QTest::newRow("beyond the last") << 0 << 0 << QStringLiteral("10-12") << 9 << nothing;
-    QTest::newRow("no records") << 1 << -1 << QString() << 0 << nothing;
-    QTest::newRow("negative record count") << 1 << 5 << QString() << -3 << nothing;
-    QTest::newRow("current beyond the last") << 10 << -1 << QString() << 9 << nothing;
-    QTest::newRow("record 0") << 0 << 0 << QString() << 9 << nothing;
-    QTest::newRow("reversed sequence") << 5 << 4 << QString() << 9 << nothing;
+    addRow("unfinished list", 0, 0, "1,", 9, unreadable);
+    addRow("unfinished range", 0, 0, "4-", 9, unreadable);
+    addRow("words", 0, 0, "all", 9, unreadable);
+    addRow("reversed only", 0, 0, "5-4", 9, nothing);
+    addRow("beyond the last", 0, 0, "10-12", 9, nothing);
+    addRow("no records", 1, -1, QString(), 0, nothing);
+    addRow("negative record count", 1, 5, QString(), -3, nothing);
+    addRow("current beyond the last", 10, -1, QString(), 9, nothing);
+    addRow("record 0", 0, 0, QString(), 9, nothing);
+    addRow("reversed sequence", 5, 4, QString(), 9, nothing);
 }
 
 void TestPagePlan::namesTheProblem()
 {
-    QFETCH(int, start);
-    QFETCH(int, end);
-    QFETCH(QString, list);
     QFETCH(int, recordCount);
-
-    PrintRequest request;
-    request.sequenceStart = start;
-    request.sequenceEnd = end;
-    request.customRecordsList = list;
+    PrintRequest request = fetchRequest();
     request.copies = 3;
     const PagePlan plan = PagePlan::make(request, recordCount);
     QTEST(plan.problem(), "problem");
@@ -261,16 +252,16 @@ void TestPagePlan::readsLayouts_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("read");
 
-    QTest::newRow("single") << QStringLiteral("1x1") << QStringLiteral("1x1");
-    QTest::newRow("rows first") << QStringLiteral("3x2") << QStringLiteral("3x2");
-    QTest::newRow("capital") << QStringLiteral("2X10") << QStringLiteral("2x10");
-    QTest::newRow("zero") << QStringLiteral("0x2") << QString();
-    QTest::newRow("too many") << QStringLiteral("2x11") << QString();
-    QTest::newRow("negative") << QStringLiteral("-2x2") << QString();
-    QTest::newRow("one side") << QStringLiteral("2x") << QString();
-    QTest::newRow("no cross") << QStringLiteral("22") << QString();
-    QTest::newRow("three sides") << QStringLiteral("2x2x2") << QString();
-    QTest::newRow("empty") << QString() << QString();
+    addRow("single", "1x1", "1x1");
+    addRow("rows first", "3x2", "3x2");
+    addRow("capital", "2X10", "2x10");
+    addRow("zero", "0x2", QString());
+    addRow("too many", "2x11", QString());
+    addRow("negative", "-2x2", QString());
+    addRow("one side", "2x", QString());
+    addRow("no cross", "22", QString());
+    addRow("three sides", "2x2x2", QString());
+    addRow("empty", QString(), QString());
 }
 
 void TestPagePlan::readsLayouts()

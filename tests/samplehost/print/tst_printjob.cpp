@@ -48,13 +48,13 @@ class TestPrintJob : public StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init() override;
     void printsOneLabelAPage();
     void printsSheets();
     void reportsProgress();
     void cancelLeavesNothing();
     void cancelLeavesAnOlderFileAlone();
-    void cancelFromProgressIsHeard();
+    void cancelFromProgressTakesEffect();
     void destructionLeavesNothing();
     void unwritablePathIsExplained_data();
     void unwritablePathIsExplained();
@@ -192,7 +192,7 @@ void TestPrintJob::cancelLeavesAnOlderFileAlone()
     QCOMPARE(filesLeft(), QStringList{QStringLiteral("labels.pdf")});
 }
 
-void TestPrintJob::cancelFromProgressIsHeard()
+void TestPrintJob::cancelFromProgressTakesEffect()
 {
     const auto job = makeJob(planOf(QStringLiteral("1")));
     QSignalSpy finished(job.get(), &PrintJob::finished);
@@ -219,10 +219,8 @@ void TestPrintJob::unwritablePathIsExplained_data()
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("message");
 
-    QTest::newRow("no such folder") << QStringLiteral("missing/labels.pdf")
-                                    << QStringLiteral("The folder \"%1/missing\" does not exist.");
-    QTest::newRow("a folder") << QStringLiteral("taken.pdf")
-                              << QStringLiteral("The file \"%1/taken.pdf\" cannot be written: ");
+    addRow("no such folder", "missing/labels.pdf", "The folder \"%1/missing\" does not exist.");
+    addRow("a folder", "taken.pdf", "The file \"%1/taken.pdf\" cannot be written: ");
 }
 
 void TestPrintJob::unwritablePathIsExplained()

@@ -56,11 +56,11 @@ void TestSheetGeometry::labelsStayOnThePaper_data()
     QTest::addColumn<int>("rows");
     QTest::addColumn<int>("columns");
 
-    QTest::newRow("shrunk") << QSizeF(200, 150) << QSizeF(210, 297) << 4 << 2;
-    QTest::newRow("hundred") << QSizeF(100, 75) << QSizeF(210, 297) << 10 << 10;
-    QTest::newRow("tiny paper") << QSizeF(100, 75) << QSizeF(4, 3) << 10 << 10;
-    QTest::newRow("long label") << QSizeF(600, 40) << QSizeF(216, 279) << 3 << 1;
-    QTest::newRow("no paper") << QSizeF(70, 30) << QSizeF() << 3 << 4;
+    addRow("shrunk", QSizeF(200, 150), QSizeF(210, 297), 4, 2);
+    addRow("hundred", QSizeF(100, 75), QSizeF(210, 297), 10, 10);
+    addRow("tiny paper", QSizeF(100, 75), QSizeF(4, 3), 10, 10);
+    addRow("long label", QSizeF(600, 40), QSizeF(216, 279), 3, 1);
+    addRow("no paper", QSizeF(70, 30), QSizeF(), 3, 4);
 }
 
 void TestSheetGeometry::labelsStayOnThePaper()

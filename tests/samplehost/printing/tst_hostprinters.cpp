@@ -24,7 +24,7 @@ class TestHostPrinters : public StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init() override;
     void pdfFileComesFirst();
     void pdfFileShowsItsPath();
     void pdfFileIsUnavailableWithoutFolder();

@@ -24,7 +24,7 @@ class TestHostSettings : public StrictTest
 private Q_SLOTS:
     void initTestCase();
     void startsWithUsableValues();
-    void tellsOfChangesOnce();
+    void reportsEachChangeOnce();
     void takesPathsApart();
     void refusesUnusableNames();
     void knowsPapers();
@@ -59,7 +59,7 @@ void TestHostSettings::startsWithUsableValues()
     QCOMPARE(settings.nup().text(), QStringLiteral("1x1"));
 }
 
-void TestHostSettings::tellsOfChangesOnce()
+void TestHostSettings::reportsEachChangeOnce()
 {
     HostSettings settings;
     QSignalSpy changed(&settings, &HostSettings::changed);

@@ -3,9 +3,9 @@
 
 #include "samplehost/printing/labelpreview.h"
 #include "samplehost/support/hostfixture.h"
+#include "samplehost/support/hosttest.h"
 #include "samplehost/window/eventlog.h"
 #include "samplehost/window/preferencesdialog.h"
-#include "support/stricttest.h"
 
 #include <printpanels-hostkit/containertitlebar.h>
 #include <printpanels/printpreviewdialog.h>
@@ -20,13 +20,11 @@ using namespace SampleHost;
 using Outcome = PrintJob::Outcome;
 
 /** Drives the preview popup of the pages as a user does, and looks at what it printed. */
-class TestLabelPreview : public StrictTest
+class TestLabelPreview : public HostTest<HostFixture>
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void opensOverTheWindow();
     void handsTheRangeBack_data();
     void handsTheRangeBack();
@@ -59,22 +57,7 @@ private:
     /** Presses Print in a popup and waits for the job. */
     void print(const PrintPage& page);
     QStringList headings() const;
-    QSizeF pageSizeMm() const;
-
-    std::unique_ptr<HostFixture> m_host;
 };
-
-void TestLabelPreview::init()
-{
-    StrictTest::init();
-    m_host = std::make_unique<HostFixture>();
-    QCOMPARE(m_host->window->dataSourceProblem(), QString());
-}
-
-void TestLabelPreview::cleanup()
-{
-    m_host.reset();
-}
 
 QString TestLabelPreview::titleOf(const PrintPreviewDialog* dialog)
 {
@@ -120,16 +103,6 @@ QStringList TestLabelPreview::headings() const
     return names;
 }
 
-QSizeF TestLabelPreview::pageSizeMm() const
-{
-    QPdfDocument document;
-    if (document.load(m_host->outputPath()) != QPdfDocument::Error::None) {
-        return {};
-    }
-    const QSizeF points = document.pagePointSize(0);
-    return QSizeF(qRound(points.width() / 72 * 25.4), qRound(points.height() / 72 * 25.4));
-}
-
 void TestLabelPreview::opensOverTheWindow()
 {
     QVERIFY(popup() == nullptr);
@@ -154,12 +127,9 @@ void TestLabelPreview::handsTheRangeBack_data()
     QTest::addColumn<QString>("list");
     QTest::addColumn<QString>("arguments");
 
-    QTest::newRow("current") << QStringLiteral("currentRecordRadio") << QString()
-                             << QStringLiteral("(1, -1, \"\")");
-    QTest::newRow("list") << QStringLiteral("recordListRadio") << QStringLiteral("3,1-2")
-                          << QStringLiteral("(0, 0, \"3,1-2\")");
-    QTest::newRow("all") << QStringLiteral("allRecordsRadio") << QString()
-                         << QStringLiteral("(1, %1, \"\")");
+    addRow("current", "currentRecordRadio", QString(), "(1, -1, \"\")");
+    addRow("list", "recordListRadio", "3,1-2", "(0, 0, \"3,1-2\")");
+    addRow("all", "allRecordsRadio", QString(), "(1, %1, \"\")");
 }
 
 void TestLabelPreview::handsTheRangeBack()
@@ -188,7 +158,7 @@ void TestLabelPreview::printsWhatWasPreviewed()
     print(m_host->labels());
     const QStringList names = m_host->productNames();
     QCOMPARE(headings(), (QStringList{names.at(0), names.at(3), names.at(4)}));
-    QCOMPARE(pageSizeMm(), QSizeF(102, 76));
+    QCOMPARE(pdfPageSizeMm(m_host->outputPath()), QSizeF(102, 76));
     QVERIFY(popup()->isVisible());
 }
 
@@ -204,12 +174,12 @@ void TestLabelPreview::printsInTheChosenOrientation()
     print(m_host->labels());
     const QStringList names = m_host->productNames();
     QCOMPARE(headings(), (QStringList{names.at(1), names.at(6)}));
-    QCOMPARE(pageSizeMm(), QSizeF(76, 102));
+    QCOMPARE(pdfPageSizeMm(m_host->outputPath()), QSizeF(76, 102));
 
     pressInPopup("landscapeButton");
     QCOMPARE(picture(popup()), landscape);
     print(m_host->labels());
-    QCOMPARE(pageSizeMm(), QSizeF(102, 76));
+    QCOMPARE(pdfPageSizeMm(m_host->outputPath()), QSizeF(102, 76));
     QVERIFY(m_host->window->eventLog().lines().contains(
         QStringLiteral("Labels preview: orientationChangedSignal(1)")));
 
@@ -243,7 +213,7 @@ void TestLabelPreview::changesInThePanelWaitForTheNextPreview()
     QCOMPARE(picture(popup()), before);
     print(m_host->labels());
     QCOMPARE(headings(), QStringList{m_host->productNames().at(1)});
-    QCOMPARE(pageSizeMm(), QSizeF(102, 76));
+    QCOMPARE(pdfPageSizeMm(m_host->outputPath()), QSizeF(102, 76));
 }
 
 void TestLabelPreview::previewsAWholeSheet()
@@ -257,7 +227,7 @@ void TestLabelPreview::previewsAWholeSheet()
     QCOMPARE(title(), QStringLiteral("Print Preview (Design: 102 mm X 76 mm  Printed: 321 mm X "
                                      "165 mm)"));
     print(m_host->labels());
-    QCOMPARE(pageSizeMm(), QSizeF(321, 165));
+    QCOMPARE(pdfPageSizeMm(m_host->outputPath()), QSizeF(321, 165));
     QStringList pages = pdfPages(m_host->outputPath());
     QCOMPARE(pages.size(), qsizetype(2));
     QCOMPARE(pages.at(0).count(QStringLiteral(" CAS ")), qsizetype(6));
@@ -267,7 +237,7 @@ void TestLabelPreview::previewsAWholeSheet()
     QCOMPARE(title(), QStringLiteral("Print Preview (Design: 102 mm X 76 mm  Printed: 165 mm X "
                                      "321 mm)"));
     print(m_host->labels());
-    QCOMPARE(pageSizeMm(), QSizeF(165, 321));
+    QCOMPARE(pdfPageSizeMm(m_host->outputPath()), QSizeF(165, 321));
     pages = pdfPages(m_host->outputPath());
     QCOMPARE(pages.size(), qsizetype(2));
     QCOMPARE(pages.at(0).count(QStringLiteral(" CAS ")), qsizetype(6));
@@ -323,7 +293,7 @@ void TestLabelPreview::markersShowThePrintedSizeOnly()
     QCOMPARE(titleOf(pipePopup()), pattern.arg(height, width));
     print(m_host->pipes());
     // A PDF file measures in points.
-    const QSizeF rest = pageSizeMm() - size.transposed();
+    const QSizeF rest = pdfPageSizeMm(m_host->outputPath()) - size.transposed();
     QVERIFY(qAbs(rest.width()) <= 1 && qAbs(rest.height()) <= 1);
     QStringList pages = pdfPages(m_host->outputPath());
     QCOMPARE(pages.size(), qsizetype(1));
@@ -412,9 +382,9 @@ void TestLabelPreview::closingGivesTheFocusBack_data()
 {
     QTest::addColumn<QString>("control");
 
-    QTest::newRow("button") << QStringLiteral("closeButton");
-    QTest::newRow("title bar") << QStringLiteral("title bar");
-    QTest::newRow("escape") << QString();
+    addRow("button", "closeButton");
+    addRow("title bar", "title bar");
+    addRow("escape", QString());
 }
 
 void TestLabelPreview::closingGivesTheFocusBack()
@@ -436,9 +406,9 @@ void TestLabelPreview::closingGivesTheFocusBack()
     QVERIFY(!popup()->isVisible());
     QTRY_COMPARE(QApplication::activeWindow(), m_host->window.get());
     QTRY_COMPARE(QApplication::focusWidget(), copies);
-    const bool told = m_host->window->eventLog().lines().contains(
+    const bool logged = m_host->window->eventLog().lines().contains(
         QStringLiteral("Labels preview: popupHideSignal()"));
-    QCOMPARE(told, !control.isEmpty());
+    QCOMPARE(logged, !control.isEmpty());
 }
 
 void TestLabelPreview::shortcutsReachThePopup()

@@ -72,19 +72,15 @@ void TestOrientation::sheetsTurn_data()
     QTest::addColumn<QSizeF>("label");
 
     const QSizeF a4(210, 297);
-    QTest::newRow("as designed") << 1 << 1 << QSizeF() << false << QSizeF(60, 40) << QSizeF(60, 40);
-    QTest::newRow("turned") << 1 << 1 << QSizeF() << true << QSizeF(40, 60) << QSizeF(40, 60);
+    addRow("as designed", 1, 1, QSizeF(), false, QSizeF(60, 40), QSizeF(60, 40));
+    addRow("turned", 1, 1, QSizeF(), true, QSizeF(40, 60), QSizeF(40, 60));
     // Margins of 5 mm and gaps of 3 mm.
-    QTest::newRow("sheet as designed")
-        << 1 << 2 << QSizeF() << false << QSizeF(133, 50) << QSizeF(60, 40);
-    QTest::newRow("sheet turned") << 1 << 2 << QSizeF() << true << QSizeF(50, 133)
-                                  << QSizeF(40, 60);
-    QTest::newRow("upright sheet turned")
-        << 3 << 1 << QSizeF() << false << QSizeF(136, 70) << QSizeF(40, 60);
-    QTest::newRow("paper as it is") << 1 << 1 << a4 << true << a4 << QSizeF(60, 40);
-    QTest::newRow("paper turned") << 1 << 1 << a4 << false << QSizeF(297, 210) << QSizeF(60, 40);
-    QTest::newRow("paper turned under rows")
-        << 2 << 3 << a4 << false << QSizeF(297, 210) << QSizeF(60, 40);
+    addRow("sheet as designed", 1, 2, QSizeF(), false, QSizeF(133, 50), QSizeF(60, 40));
+    addRow("sheet turned", 1, 2, QSizeF(), true, QSizeF(50, 133), QSizeF(40, 60));
+    addRow("upright sheet turned", 3, 1, QSizeF(), false, QSizeF(136, 70), QSizeF(40, 60));
+    addRow("paper as it is", 1, 1, a4, true, a4, QSizeF(60, 40));
+    addRow("paper turned", 1, 1, a4, false, QSizeF(297, 210), QSizeF(60, 40));
+    addRow("paper turned under rows", 2, 3, a4, false, QSizeF(297, 210), QSizeF(60, 40));
 }
 
 void TestOrientation::sheetsTurn()
@@ -121,11 +117,11 @@ void TestOrientation::picturesKeepTheProportions_data()
     QTest::addColumn<QSize>("room");
     QTest::addColumn<QSize>("size");
 
-    QTest::newRow("wide") << QSize(1000, 40) << QSize(60, 40);
-    QTest::newRow("high") << QSize(60, 1000) << QSize(60, 40);
-    QTest::newRow("tiny") << QSize(1, 1) << QSize(1, 1);
-    QTest::newRow("none") << QSize(0, 0) << QSize(0, 0);
-    QTest::newRow("invalid") << QSize() << QSize(0, 0);
+    addRow("wide", QSize(1000, 40), QSize(60, 40));
+    addRow("high", QSize(60, 1000), QSize(60, 40));
+    addRow("tiny", QSize(1, 1), QSize(1, 1));
+    addRow("none", QSize(0, 0), QSize(0, 0));
+    addRow("invalid", QSize(), QSize(0, 0));
 }
 
 void TestOrientation::picturesKeepTheProportions()

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "samplehost/printing/printprogressdialog.h"
-#include "samplehost/support/documenthost.h"
-#include "support/stricttest.h"
+#include "samplehost/support/documentfixture.h"
+#include "samplehost/support/hosttest.h"
 
 #include <QtCore/QPointer>
 #include <QtWidgets/QAbstractButton>
@@ -13,13 +13,11 @@ using namespace SampleHost;
 using Outcome = PrintJob::Outcome;
 
 /** Prints documents by the widgets of "Preview and Print" and looks at what comes out. */
-class TestPdfPrinting : public StrictTest
+class TestPdfPrinting : public HostTest<DocumentFixture>
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void printsTypedLists_data();
     void printsTypedLists();
     void refusesListsThatNameNothing_data();
@@ -42,19 +40,9 @@ private Q_SLOTS:
     void unwritableFolderIsExplained();
 
 private:
-    std::unique_ptr<DocumentHost> m_host;
+    /** Opens a document of 300 pages, all of which are to be printed. */
+    void chooseLongJob(int copies);
 };
-
-void TestPdfPrinting::init()
-{
-    StrictTest::init();
-    m_host = std::make_unique<DocumentHost>();
-}
-
-void TestPdfPrinting::cleanup()
-{
-    m_host.reset();
-}
 
 void TestPdfPrinting::printsTypedLists_data()
 {
@@ -62,15 +50,12 @@ void TestPdfPrinting::printsTypedLists_data()
     QTest::addColumn<QString>("list");
     QTest::addColumn<QString>("printed");
 
-    QTest::newRow("1 page") << 1 << QStringLiteral("1") << QStringLiteral("1");
-    QTest::newRow("1 page twice") << 1 << QStringLiteral("1,1") << QStringLiteral("1 1");
-    QTest::newRow("12 pages") << 12 << QStringLiteral("5-9,2") << QStringLiteral("5 6 7 8 9 2");
-    QTest::newRow("12 pages, beyond the last")
-        << 12 << QStringLiteral("11-20,40,3") << QStringLiteral("11 12 3");
-    QTest::newRow("12 pages, reversed range")
-        << 12 << QStringLiteral("4,9-7,6") << QStringLiteral("4 6");
-    QTest::newRow("300 pages") << 300 << QStringLiteral("299-300,150,1-2,150")
-                               << QStringLiteral("299 300 150 1 2 150");
+    addRow("1 page", 1, "1", "1");
+    addRow("1 page twice", 1, "1,1", "1 1");
+    addRow("12 pages", 12, "5-9,2", "5 6 7 8 9 2");
+    addRow("12 pages, beyond the last", 12, "11-20,40,3", "11 12 3");
+    addRow("12 pages, reversed range", 12, "4,9-7,6", "4 6");
+    addRow("300 pages", 300, "299-300,150,1-2,150", "299 300 150 1 2 150");
 }
 
 void TestPdfPrinting::printsTypedLists()
@@ -97,12 +82,8 @@ void TestPdfPrinting::refusesListsThatNameNothing_data()
     QTest::addColumn<QString>("list");
     QTest::addColumn<QString>("reason");
 
-    QTest::newRow("reversed")
-        << QStringLiteral("5-2")
-        << QStringLiteral("The list \"5-2\" names none of the 12 pages. Nothing is printed.");
-    QTest::newRow("unfinished") << QStringLiteral("4-")
-                                << QStringLiteral(
-                                       "The list \"4-\" cannot be read. Nothing is printed.");
+    addRow("reversed", "5-2", "The list \"5-2\" names none of the 12 pages. Nothing is printed.");
+    addRow("unfinished", "4-", "The list \"4-\" cannot be read. Nothing is printed.");
 }
 
 void TestPdfPrinting::refusesListsThatNameNothing()
@@ -121,9 +102,9 @@ void TestPdfPrinting::printsTheCurrentPage_data()
 {
     QTest::addColumn<int>("pages");
     QTest::addColumn<int>("current");
-    QTest::newRow("1 page") << 1 << 1;
-    QTest::newRow("12 pages") << 12 << 8;
-    QTest::newRow("300 pages") << 300 << 300;
+    addRow("1 page", 1, 1);
+    addRow("12 pages", 12, 8);
+    addRow("300 pages", 300, 300);
 }
 
 void TestPdfPrinting::printsTheCurrentPage()
@@ -143,9 +124,9 @@ void TestPdfPrinting::printsTheCurrentPage()
 void TestPdfPrinting::printsAllPages_data()
 {
     QTest::addColumn<int>("pages");
-    QTest::newRow("1 page") << 1;
-    QTest::newRow("12 pages") << 12;
-    QTest::newRow("300 pages") << 300;
+    addRow("1 page", 1);
+    addRow("12 pages", 12);
+    addRow("300 pages", 300);
 }
 
 void TestPdfPrinting::printsAllPages()
@@ -242,12 +223,17 @@ void TestPdfPrinting::formFillPrintsWhatIsFilled()
     QCOMPARE(filled.at(2), QStringLiteral("Third filled"));
 }
 
-void TestPdfPrinting::disablesThePrintButtonWhilePrinting()
+void TestPdfPrinting::chooseLongJob(int copies)
 {
     QVERIFY(m_host->openNumbered(300));
     QVERIFY(m_host->showDialog());
     m_host->press("allPagesRadio");
-    m_host->documentPanel().setNumberOfCopies(999);
+    m_host->documentPanel().setNumberOfCopies(copies);
+}
+
+void TestPdfPrinting::disablesThePrintButtonWhilePrinting()
+{
+    chooseLongJob(999);
     QSignalSpy ended(&m_host->page().controller(), &PdfPrintController::jobEnded);
     m_host->press("PrintButton");
     PrintJob* job = m_host->page().controller().job();
@@ -267,9 +253,7 @@ void TestPdfPrinting::disablesThePrintButtonWhilePrinting()
 
 void TestPdfPrinting::cancelInTheMiddleLeavesNothing()
 {
-    QVERIFY(m_host->openNumbered(300));
-    QVERIFY(m_host->showDialog());
-    m_host->press("allPagesRadio");
+    chooseLongJob(1);
     QSignalSpy ended(&m_host->page().controller(), &PdfPrintController::jobEnded);
     m_host->press("PrintButton");
     auto* button = m_host->window->findChild<QAbstractButton*>(QStringLiteral("cancelPrintButton"));
@@ -285,10 +269,7 @@ void TestPdfPrinting::cancelInTheMiddleLeavesNothing()
 
 void TestPdfPrinting::progressIsShownAndCancelledByTheUser()
 {
-    QVERIFY(m_host->openNumbered(300));
-    QVERIFY(m_host->showDialog());
-    m_host->press("allPagesRadio");
-    m_host->documentPanel().setNumberOfCopies(999);
+    chooseLongJob(999);
     QSignalSpy ended(&m_host->page().controller(), &PdfPrintController::jobEnded);
     m_host->press("PrintButton");
     const QPointer<PrintProgressDialog> dialog = m_host->window->findChild<PrintProgressDialog*>();
@@ -309,10 +290,7 @@ void TestPdfPrinting::progressIsShownAndCancelledByTheUser()
 
 void TestPdfPrinting::closingTheHostLeavesNothing()
 {
-    QVERIFY(m_host->openNumbered(300));
-    QVERIFY(m_host->showDialog());
-    m_host->press("allPagesRadio");
-    m_host->documentPanel().setNumberOfCopies(999);
+    chooseLongJob(999);
     m_host->press("PrintButton");
     QSignalSpy progress(m_host->page().controller().job(), &PrintJob::progressChanged);
     QVERIFY(progress.wait());
@@ -322,9 +300,7 @@ void TestPdfPrinting::closingTheHostLeavesNothing()
 
 void TestPdfPrinting::jobsOutliveTheirDocument()
 {
-    QVERIFY(m_host->openNumbered(300));
-    QVERIFY(m_host->showDialog());
-    m_host->press("allPagesRadio");
+    chooseLongJob(1);
     QSignalSpy ended(&m_host->page().controller(), &PdfPrintController::jobEnded);
     m_host->press("PrintButton");
     QVERIFY(m_host->openNumbered(2, "other.pdf"));

@@ -4,7 +4,7 @@
 #include "samplehost/printing/labelpreview.h"
 #include "samplehost/printing/printprogressdialog.h"
 #include "samplehost/support/hostfixture.h"
-#include "support/stricttest.h"
+#include "samplehost/support/hosttest.h"
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
@@ -23,13 +23,11 @@ using CloseDialog = std::function<void(PrintProgressDialog&)>;
 Q_DECLARE_METATYPE(CloseDialog)
 
 /** Drives the whole host by its widgets and looks at what it printed. */
-class TestPrinting : public StrictTest
+class TestPrinting : public HostTest<HostFixture>
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void printsTheTypedList();
     void printsCurrentRecord();
     void printsAllRecords();
@@ -49,53 +47,14 @@ private Q_SLOTS:
     void unknownPrinterIsExplained();
     void printToFileIsHonoured();
     void menuPressesThePanelsButtons();
-
-private:
-    /** Presses Print and waits for the job; its outcome, or nothing when there was no job. */
-    std::optional<Outcome> print();
-    QMessageBox* messageBox() const;
-
-    std::unique_ptr<HostFixture> m_host;
-    QString m_message;
 };
-
-void TestPrinting::init()
-{
-    StrictTest::init();
-    m_host = std::make_unique<HostFixture>();
-    QCOMPARE(m_host->window->dataSourceProblem(), QString());
-}
-
-void TestPrinting::cleanup()
-{
-    m_host.reset();
-}
-
-std::optional<Outcome> TestPrinting::print()
-{
-    QSignalSpy ended(&m_host->labels().controller(), &PrintController::jobEnded);
-    m_host->click("PrintButton");
-    if (!m_host->labels().controller().isPrinting() && ended.isEmpty()) {
-        return std::nullopt;
-    }
-    if (ended.isEmpty() && !ended.wait(60000)) {
-        return std::nullopt;
-    }
-    m_message = ended.at(0).at(1).toString();
-    return ended.at(0).at(0).value<Outcome>();
-}
-
-QMessageBox* TestPrinting::messageBox() const
-{
-    return m_host->window->findChild<QMessageBox*>(QStringLiteral("messageBox"));
-}
 
 void TestPrinting::printsTheTypedList()
 {
     m_host->typeList(QStringLiteral("1,4-5"));
-    QCOMPARE(print(), Outcome::Completed);
-    QCOMPARE(m_message, QStringLiteral("Printed 3 pages to %1").arg(m_host->outputPath()));
-    QCOMPARE(m_host->window->statusBar()->currentMessage(), m_message);
+    QCOMPARE(m_host->print(), Outcome::Completed);
+    QCOMPARE(m_host->message, QStringLiteral("Printed 3 pages to %1").arg(m_host->outputPath()));
+    QCOMPARE(m_host->window->statusBar()->currentMessage(), m_host->message);
 
     const QStringList names = m_host->productNames();
     const QStringList pages = pdfPages(m_host->outputPath());
@@ -110,8 +69,8 @@ void TestPrinting::printsCurrentRecord()
 {
     m_host->click("nextRecordButton");
     m_host->click("nextRecordButton");
-    QCOMPARE(print(), Outcome::Completed);
-    QCOMPARE(m_message, QStringLiteral("Printed 1 page to %1").arg(m_host->outputPath()));
+    QCOMPARE(m_host->print(), Outcome::Completed);
+    QCOMPARE(m_host->message, QStringLiteral("Printed 1 page to %1").arg(m_host->outputPath()));
     const QStringList pages = pdfPages(m_host->outputPath());
     QCOMPARE(pages.size(), qsizetype(1));
     QVERIFY(pages.at(0).startsWith(m_host->productNames().at(2)));
@@ -120,7 +79,7 @@ void TestPrinting::printsCurrentRecord()
 void TestPrinting::printsAllRecords()
 {
     m_host->click("allRecordsRadio");
-    QCOMPARE(print(), Outcome::Completed);
+    QCOMPARE(m_host->print(), Outcome::Completed);
     const QStringList names = m_host->productNames();
     const QStringList pages = pdfPages(m_host->outputPath());
     QVERIFY(names.size() >= 40);
@@ -135,7 +94,7 @@ void TestPrinting::printsCopies()
     m_host->typeList(QStringLiteral("2,1"));
     m_host->click("plusButton");
     QCOMPARE(m_host->panel().getNumberOfCopies(), 2);
-    QCOMPARE(print(), Outcome::Completed);
+    QCOMPARE(m_host->print(), Outcome::Completed);
     const QStringList names = m_host->productNames();
     const QStringList pages = pdfPages(m_host->outputPath());
     QCOMPARE(pages.size(), qsizetype(4));
@@ -151,9 +110,8 @@ void TestPrinting::printsSheets_data()
     QTest::addColumn<int>("pageCount");
     QTest::addColumn<QList<int>>("labelsOfRecord1");
 
-    QTest::newRow("sequencing") << QStringLiteral("sequencingRadio") << 2 << QList<int>{1, 0};
-    QTest::newRow("replicating") << QStringLiteral("replicatingRadio") << 5
-                                 << QList<int>{4, 0, 0, 0, 0};
+    addRow("sequencing", "sequencingRadio", 2, QList<int>{1, 0});
+    addRow("replicating", "replicatingRadio", 5, QList<int>{4, 0, 0, 0, 0});
 }
 
 void TestPrinting::printsSheets()
@@ -170,7 +128,7 @@ void TestPrinting::printsSheets()
     }
     m_host->typeList(QStringLiteral("1-5"));
     m_host->click(qPrintable(mode));
-    QCOMPARE(print(), Outcome::Completed);
+    QCOMPARE(m_host->print(), Outcome::Completed);
 
     const QStringList pages = pdfPages(m_host->outputPath());
     QCOMPARE(pages.size(), qsizetype(pageCount));
@@ -186,7 +144,7 @@ void TestPrinting::printsAnUnboundLabelOnce()
     m_host->click("allRecordsRadio");
     m_host->click("boundCheck");
     QCOMPARE(m_host->find<QWidget>("recordsFrame")->isEnabled(), false);
-    QCOMPARE(print(), Outcome::Completed);
+    QCOMPARE(m_host->print(), Outcome::Completed);
     const QStringList pages = pdfPages(m_host->outputPath());
     QCOMPARE(pages.size(), qsizetype(1));
     QVERIFY(pages.at(0).startsWith(m_host->productNames().at(1)));
@@ -195,7 +153,7 @@ void TestPrinting::printsAnUnboundLabelOnce()
 void TestPrinting::printsUserBackgroundOnlyIfChecked()
 {
     const auto printedSize = [this] {
-        return print() == Outcome::Completed ? QFileInfo(m_host->outputPath()).size() : 0;
+        return m_host->print() == Outcome::Completed ? QFileInfo(m_host->outputPath()).size() : 0;
     };
     auto* print = m_host->find<QCheckBox>("userBackgroundCheck");
     QVERIFY(!print->isVisible());
@@ -223,16 +181,10 @@ void TestPrinting::refusesListsThatNameNothing_data()
     QTest::addColumn<QString>("list");
     QTest::addColumn<QString>("reason");
 
-    QTest::newRow("unfinished") << QStringLiteral("1,")
-                                << QStringLiteral(
-                                       "The list \"1,\" cannot be read. Nothing is printed.");
-    QTest::newRow("reversed")
-        << QStringLiteral("5-4")
-        << QStringLiteral("The list \"5-4\" names none of the %1 records. Nothing is printed.");
-    QTest::newRow("beyond the last")
-        << QStringLiteral("9998-9999")
-        << QStringLiteral(
-               "The list \"9998-9999\" names none of the %1 records. Nothing is printed.");
+    addRow("unfinished", "1,", "The list \"1,\" cannot be read. Nothing is printed.");
+    addRow("reversed", "5-4", "The list \"5-4\" names none of the %1 records. Nothing is printed.");
+    addRow("beyond the last", "9998-9999",
+           "The list \"9998-9999\" names none of the %1 records. Nothing is printed.");
 }
 
 void TestPrinting::refusesListsThatNameNothing()
@@ -244,11 +196,11 @@ void TestPrinting::refusesListsThatNameNothing()
     }
     QSignalSpy refused(&m_host->labels().controller(), &PrintController::refused);
     m_host->typeList(list);
-    QVERIFY(!print().has_value());
+    QVERIFY(!m_host->print().has_value());
     QCOMPARE(refused.size(), qsizetype(1));
     QCOMPARE(refused.at(0).at(0).toString(), reason);
-    QVERIFY(messageBox() != nullptr);
-    QCOMPARE(messageBox()->text(), reason);
+    QVERIFY(m_host->messageBox() != nullptr);
+    QCOMPARE(m_host->messageBox()->text(), reason);
     QCOMPARE(m_host->outputFiles(), QStringList());
 
     m_host->click("PreviewButton");
@@ -330,10 +282,10 @@ void TestPrinting::unwritableFolderIsExplained()
 {
     const QString missing = m_host->folder.filePath(QStringLiteral("missing"));
     m_host->window->settings().setOutputFolder(missing);
-    QCOMPARE(print(), Outcome::Failed);
-    QCOMPARE(m_message, QStringLiteral("The folder \"%1\" does not exist.").arg(missing));
-    QVERIFY(messageBox() != nullptr);
-    QCOMPARE(messageBox()->text(), m_message);
+    QCOMPARE(m_host->print(), Outcome::Failed);
+    QCOMPARE(m_host->message, QStringLiteral("The folder \"%1\" does not exist.").arg(missing));
+    QVERIFY(m_host->messageBox() != nullptr);
+    QCOMPARE(m_host->messageBox()->text(), m_host->message);
     QVERIFY(m_host->find<QWidget>("PrintButton")->isEnabled());
 }
 
@@ -345,8 +297,8 @@ void TestPrinting::unknownPrinterIsExplained()
     QTest::keyClick(printers, Qt::Key_End);
     QCOMPARE(m_host->panel().getSelectedPrinter(), QStringLiteral("Gone"));
     QCOMPARE(m_host->find<QLabel>("statusLabel")->text(), QStringLiteral("Offline, Unavailable"));
-    QCOMPARE(print(), Outcome::Failed);
-    QCOMPARE(m_message,
+    QCOMPARE(m_host->print(), Outcome::Failed);
+    QCOMPARE(m_host->message,
              QStringLiteral("The printer \"Gone\" is not known to the system any more."));
 }
 
@@ -355,17 +307,17 @@ void TestPrinting::printToFileIsHonoured()
     m_host = std::make_unique<HostFixture>(true);
     m_host->click("printToFileCheck");
     m_host->typeList(QStringLiteral("3"));
-    QCOMPARE(print(), Outcome::Completed);
+    QCOMPARE(m_host->print(), Outcome::Completed);
     const QString first = m_host->folder.filePath(QStringLiteral("guest/logs/printTest_001.prn"));
     QCOMPARE(pdfPages(first).size(), qsizetype(1));
     QVERIFY(pdfPages(first).at(0).startsWith(m_host->productNames().at(2)));
     QVERIFY(!QFile::exists(m_host->outputPath()));
 
-    QCOMPARE(print(), Outcome::Completed);
+    QCOMPARE(m_host->print(), Outcome::Completed);
     QVERIFY(QFile::exists(m_host->folder.filePath(QStringLiteral("guest/logs/printTest_002.prn"))));
 
     m_host->click("printToFileCheck");
-    QCOMPARE(print(), Outcome::Completed);
+    QCOMPARE(m_host->print(), Outcome::Completed);
     QVERIFY(QFile::exists(m_host->outputPath()));
 }
 

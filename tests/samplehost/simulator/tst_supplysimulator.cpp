@@ -26,8 +26,8 @@ class TestSupplySimulator : public StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() override;
+    void cleanup() override;
     void nothingHidesTheSection();
     void ribbonsBecomeTabs();
     void lastColourIsBlankOrClear();
@@ -85,8 +85,9 @@ int TestSupplySimulator::entries(const PrintWidget& panel)
 {
     const QList<QAbstractButton*> buttons = ribbonMenu(panel)->findChildren<QAbstractButton*>();
     // Entries are named after their codes; those of a palette that was replaced are not.
-    return int(std::count_if(buttons.begin(), buttons.end(),
-                             [](const QObject* button) { return !button->objectName().isEmpty(); }));
+    return int(std::count_if(buttons.begin(), buttons.end(), [](const QObject* button) {
+        return !button->objectName().isEmpty();
+    }));
 }
 
 void TestSupplySimulator::nothingHidesTheSection()

@@ -18,13 +18,17 @@
 #include <QtPdf/QPdfSelection>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
+#include <QtWidgets/QMessageBox>
 
 #include <memory>
+#include <optional>
 
 /** A visible sample host of its own: database and output lie in a folder that goes with it. */
 class HostFixture
 {
 public:
+    using Outcome = SampleHost::PrintJob::Outcome;
+
     explicit HostFixture(bool testControls = false)
     {
         SampleHost::HostOptions options;
@@ -49,11 +53,11 @@ public:
     }
 
     /** Clicks where a radio button listens too. */
-    void click(const char* name) const
+    void click(const char* name) const { click(find<QWidget>(name)); }
+    static void click(QWidget* widget)
     {
         // A section that has just appeared is laid out first.
         SampleHost::InputSimulation::processEvents();
-        auto* widget = find<QWidget>(name);
         QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier,
                           QPoint(qMin(10, widget->width() / 2), widget->height() / 2));
     }
@@ -64,6 +68,20 @@ public:
         click("recordListRadio");
         QTest::keyClicks(find<QWidget>("recordListEdit"), list);
     }
+
+    /** Presses Print and waits for the end of the job; nothing when there was no job. */
+    std::optional<Outcome> print()
+    {
+        return printWith(labels().controller(), find<QWidget>("PrintButton"));
+    }
+
+    /** The message that the host shows, or null. */
+    QMessageBox* messageBox() const
+    {
+        return window->findChild<QMessageBox*>(QStringLiteral("messageBox"));
+    }
+    /** Its text; empty without one. */
+    QString shownMessage() const { return messageBox() ? messageBox()->text() : QString(); }
 
     /** The names of all chemicals, read from the database by a source of its own. */
     QStringList productNames() const
@@ -88,6 +106,22 @@ public:
 
     QTemporaryDir folder;
     std::unique_ptr<SampleHost::MainWindow> window;
+    /** How the last job ended, in words. */
+    QString message;
+
+protected:
+    /** Presses a button and waits for the end of the controller's job, if there is one then. */
+    template <typename Controller>
+    std::optional<Outcome> printWith(Controller& controller, QWidget* button)
+    {
+        QSignalSpy ended(&controller, &Controller::jobEnded);
+        click(button);
+        if (ended.isEmpty() && (!controller.isPrinting() || !ended.wait(60000))) {
+            return std::nullopt;
+        }
+        message = ended.at(0).at(1).toString();
+        return ended.at(0).at(0).value<Outcome>();
+    }
 };
 
 /** The texts of a PDF file's pages, with single blanks; empty when the file cannot be read. */
@@ -101,6 +135,15 @@ inline QStringList pdfPages(const QString& path)
         }
     }
     return pages;
+}
+
+/** The size of the first page of a PDF file in whole millimetres. */
+inline QSizeF pdfPageSizeMm(const QString& path)
+{
+    QPdfDocument document;
+    document.load(path);
+    const QSizeF points = document.pagePointSize(0);
+    return QSizeF(qRound(points.width() / 72 * 25.4), qRound(points.height() / 72 * 25.4));
 }
 
 #endif

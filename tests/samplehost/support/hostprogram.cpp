@@ -5,13 +5,17 @@
 
 #include <QtCore/QProcess>
 
-int HostProgram::run(const QStringList& arguments)
+HostProgram::HostProgram(const QString& folder)
+    : environment(QProcessEnvironment::systemEnvironment()), m_folder(folder)
 {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
         environment.remove(QString::fromLatin1(name));
     }
-    environment.insert(QStringLiteral("HOME"), m_folder);
+    environment.insert(QStringLiteral("HOME"), folder);
+}
+
+int HostProgram::run(const QStringList& arguments)
+{
     QProcess process;
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(m_folder);
@@ -27,9 +31,8 @@ int HostProgram::run(const QStringList& arguments)
     return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
 }
 
-int HostProgram::run(const QString& arguments)
+QStringList HostProgram::split(const QString& arguments)
 {
     QStringList list = arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    list.replaceInStrings(QStringLiteral("_"), QStringLiteral(" "));
-    return run(list);
+    return list.replaceInStrings(QStringLiteral("_"), QStringLiteral(" "));
 }

@@ -5,8 +5,8 @@
 #include "samplehost/simulator/laminatorsimulator.h"
 #include "samplehost/simulator/supplysimulator.h"
 #include "samplehost/support/hostfixture.h"
+#include "samplehost/support/hosttest.h"
 #include "samplehost/window/eventlog.h"
-#include "support/stricttest.h"
 
 #include <printpanels-hostkit/colormenu.h>
 #include <printpanels/printpreviewdialog.h>
@@ -25,13 +25,11 @@
 using namespace SampleHost;
 
 /** The host's tools around the panels: page count, added printers, laminator, units, event log. */
-class TestHostTools : public StrictTest
+class TestHostTools : public HostTest<HostFixture>
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void countsPages_data();
     void countsPages();
     void addedPrinterIsOffered();
@@ -51,20 +49,7 @@ private:
     {
         return page.panel().findChild<QTabBar*>(QStringLiteral("colorTabBar"));
     }
-
-    std::unique_ptr<HostFixture> m_host;
 };
-
-void TestHostTools::init()
-{
-    StrictTest::init();
-    m_host = std::make_unique<HostFixture>();
-}
-
-void TestHostTools::cleanup()
-{
-    m_host.reset();
-}
 
 void TestHostTools::trigger(const char* name) const
 {
@@ -76,12 +61,10 @@ void TestHostTools::countsPages_data()
     QTest::addColumn<QString>("list");
     QTest::addColumn<QString>("message");
 
-    QTest::newRow("current") << QString() << QStringLiteral("1 page would be printed.");
-    QTest::newRow("list") << QStringLiteral("1,4-5") << QStringLiteral("3 pages would be printed.");
-    QTest::newRow("nothing") << QStringLiteral("9999")
-                             << QStringLiteral("0 pages would be printed.");
-    QTest::newRow("unreadable") << QStringLiteral("1,")
-                                << QStringLiteral("0 pages would be printed.");
+    addRow("current", QString(), "1 page would be printed.");
+    addRow("list", "1,4-5", "3 pages would be printed.");
+    addRow("nothing", "9999", "0 pages would be printed.");
+    addRow("unreadable", "1,", "0 pages would be printed.");
 }
 
 void TestHostTools::countsPages()
@@ -119,8 +102,8 @@ void TestHostTools::namesThatAreNoNewPrinterAreRefused_data()
 {
     QTest::addColumn<QString>("name");
 
-    QTest::newRow("blank") << QStringLiteral("  ");
-    QTest::newRow("known") << QStringLiteral("PDF file");
+    addRow("blank", "  ");
+    addRow("known", "PDF file");
 }
 
 void TestHostTools::namesThatAreNoNewPrinterAreRefused()

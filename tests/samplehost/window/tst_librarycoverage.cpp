@@ -146,13 +146,13 @@ void TestLibraryCoverage::everySignalIsConnected_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("signalCount");
 
-    QTest::newRow("labels") << QStringLiteral("labels") << 12;
-    QTest::newRow("pipes") << QStringLiteral("pipes") << 12;
-    QTest::newRow("labels preview") << QStringLiteral("labels preview") << 3;
-    QTest::newRow("pipes preview") << QStringLiteral("pipes preview") << 3;
-    QTest::newRow("catalogue") << QStringLiteral("catalogue") << 11;
-    QTest::newRow("documents") << QStringLiteral("documents") << 14;
-    QTest::newRow("document window") << QStringLiteral("document window") << 0;
+    addRow("labels", "labels", 12);
+    addRow("pipes", "pipes", 12);
+    addRow("labels preview", "labels preview", 3);
+    addRow("pipes preview", "pipes preview", 3);
+    addRow("catalogue", "catalogue", 11);
+    addRow("documents", "documents", 14);
+    addRow("document window", "document window", 0);
 }
 
 void TestLibraryCoverage::everySignalIsConnected()
@@ -222,12 +222,12 @@ void TestLibraryCoverage::everyOperationIsUsed_data()
     QTest::addColumn<QString>("header");
     QTest::addColumn<int>("least");
 
-    QTest::newRow("interface") << QStringLiteral("foundation/printwidgetinterface.h") << 24;
-    QTest::newRow("print settings") << QStringLiteral("printpanel/printwidget.h") << 30;
-    QTest::newRow("quick print") << QStringLiteral("quickprint/quickprintwidget.h") << 14;
-    QTest::newRow("preview") << QStringLiteral("preview/printpreviewdialog.h") << 8;
-    QTest::newRow("multi-page panel") << QStringLiteral("multipage/multipageprintwidget.h") << 22;
-    QTest::newRow("multi-page window") << QStringLiteral("multipage/multipageprintdialog.h") << 3;
+    addRow("interface", "foundation/printwidgetinterface.h", 24);
+    addRow("print settings", "printpanel/printwidget.h", 30);
+    addRow("quick print", "quickprint/quickprintwidget.h", 14);
+    addRow("preview", "preview/printpreviewdialog.h", 8);
+    addRow("multi-page panel", "multipage/multipageprintwidget.h", 22);
+    addRow("multi-page window", "multipage/multipageprintdialog.h", 3);
 }
 
 void TestLibraryCoverage::everyOperationIsUsed()

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#ifndef TESTS_SAMPLEHOST_DOCUMENTHOST_H
-#define TESTS_SAMPLEHOST_DOCUMENTHOST_H
+#ifndef TESTS_SAMPLEHOST_DOCUMENTFIXTURE_H
+#define TESTS_SAMPLEHOST_DOCUMENTFIXTURE_H
 
 #include "samplehost/pages/pdfpage.h"
 #include "samplehost/pages/recordnavigator.h"
@@ -19,12 +19,9 @@
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QLineEdit>
-#include <QtWidgets/QMessageBox>
-
-#include <optional>
 
 /** A host whose page of documents is driven by its widgets. */
-class DocumentHost : public HostFixture
+class DocumentFixture : public HostFixture
 {
 public:
     using HostFixture::HostFixture;
@@ -65,13 +62,7 @@ public:
     }
 
     /** Clicks a widget of the page or of its window, where a radio button listens too. */
-    void press(const char* name) const
-    {
-        SampleHost::InputSimulation::processEvents();
-        QWidget* target = widget(name);
-        QTest::mouseClick(target, Qt::LeftButton, Qt::NoModifier,
-                          QPoint(qMin(10, target->width() / 2), target->height() / 2));
-    }
+    void press(const char* name) const { click(widget(name)); }
 
     /** Chooses "Selection" and types over the list. */
     void typePages(const QString& list) const
@@ -91,19 +82,7 @@ public:
     }
 
     /** Presses Print and waits for the end of the job; nothing when there was no job. */
-    std::optional<SampleHost::PrintJob::Outcome> print()
-    {
-        QSignalSpy ended(&page().controller(), &SampleHost::PdfPrintController::jobEnded);
-        press("PrintButton");
-        if (!page().controller().isPrinting() && ended.isEmpty()) {
-            return std::nullopt;
-        }
-        if (ended.isEmpty() && !ended.wait(60000)) {
-            return std::nullopt;
-        }
-        message = ended.at(0).at(1).toString();
-        return ended.at(0).at(0).value<SampleHost::PrintJob::Outcome>();
-    }
+    std::optional<Outcome> print() { return printWith(page().controller(), widget("PrintButton")); }
 
     /** The numbers of the pages that were printed, as their texts say, with blanks between. */
     QString printedPages() const
@@ -116,16 +95,6 @@ public:
         }
         return numbers.join(QLatin1Char(' '));
     }
-
-    /** The text of the message that the host shows; empty without one. */
-    QString shownMessage() const
-    {
-        auto* box = window->findChild<QMessageBox*>(QStringLiteral("messageBox"));
-        return box != nullptr ? box->text() : QString();
-    }
-
-    /** How the last job ended, in words. */
-    QString message;
 };
 
 #endif

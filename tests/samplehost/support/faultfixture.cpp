@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/support/faulthost.h"
+#include "samplehost/support/faultfixture.h"
 
 #include "samplehost/pages/catalogpage.h"
 
@@ -12,7 +12,6 @@
 #include <QtWidgets/QComboBox>
 
 using namespace SampleHost;
-using Outcome = PrintJob::Outcome;
 
 namespace {
 
@@ -20,7 +19,7 @@ constexpr int documentPages = 300;
 
 } // namespace
 
-bool FaultHost::choose(Printout printout)
+bool FaultFixture::choose(Printout printout)
 {
     switch (printout) {
     case Printout::Labels:
@@ -50,37 +49,26 @@ bool FaultHost::choose(Printout printout)
            (typePages(QStringLiteral("300,1-299")), true);
 }
 
-std::optional<Outcome> FaultHost::print(Printout printout)
+std::optional<FaultFixture::Outcome> FaultFixture::print(Printout printout)
 {
+    std::optional<Outcome> outcome;
     if (printout == Printout::Document) {
-        return follow(page().controller(), widget("PrintButton"));
-    }
-    if (printout == Printout::Item) {
+        outcome = DocumentFixture::print();
+    } else if (printout == Printout::Item) {
         CatalogPage& catalog = window->catalogPage();
-        return follow(catalog.controller(),
-                      catalog.panel().findChild<QWidget*>(QStringLiteral("printButton")));
+        outcome = printWith(catalog.controller(),
+                            catalog.panel().findChild<QWidget*>(QStringLiteral("printButton")));
+    } else {
+        outcome = HostFixture::print();
     }
-    return follow(labels().controller(), find<QWidget>("PrintButton"));
+    if (outcome) {
+        shown = shownMessage();
+        delete messageBox();
+    }
+    return outcome;
 }
 
-template <typename Controller>
-std::optional<Outcome> FaultHost::follow(Controller& controller, QWidget* button)
-{
-    QSignalSpy ended(&controller, &Controller::jobEnded);
-    InputSimulation::processEvents();
-    QTest::mouseClick(button, Qt::LeftButton);
-    if (ended.isEmpty() && (!controller.isPrinting() || !ended.wait(60000))) {
-        return std::nullopt;
-    }
-    message = ended.at(0).at(1).toString();
-    shown = shownMessage();
-    if (auto* box = window->findChild<QMessageBox*>(QStringLiteral("messageBox"))) {
-        delete box;
-    }
-    return ended.at(0).at(0).value<Outcome>();
-}
-
-QWidget& FaultHost::panelOf(Printout printout) const
+QWidget& FaultFixture::panelOf(Printout printout) const
 {
     switch (printout) {
     case Printout::Item:
@@ -92,7 +80,7 @@ QWidget& FaultHost::panelOf(Printout printout) const
     }
 }
 
-QWidget& FaultHost::pageOf(Printout printout) const
+QWidget& FaultFixture::pageOf(Printout printout) const
 {
     switch (printout) {
     case Printout::Item:
@@ -104,7 +92,7 @@ QWidget& FaultHost::pageOf(Printout printout) const
     }
 }
 
-QString FaultHost::choices(Printout printout) const
+QString FaultFixture::choices(Printout printout) const
 {
     const QWidget& panel = panelOf(printout);
     QStringList texts;
@@ -121,7 +109,7 @@ QString FaultHost::choices(Printout printout) const
     return texts.join(QLatin1Char('|'));
 }
 
-QString FaultHost::outputOf(Printout printout) const
+QString FaultFixture::outputOf(Printout printout) const
 {
     const HostSettings& settings = window->settings();
     return printout == Printout::TestFile
@@ -129,7 +117,7 @@ QString FaultHost::outputOf(Printout printout) const
                : settings.outputPath();
 }
 
-int FaultHost::pagesOf(Printout printout)
+int FaultFixture::pagesOf(Printout printout)
 {
     switch (printout) {
     case Printout::Labels:

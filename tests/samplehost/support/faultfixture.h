@@ -1,25 +1,25 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#ifndef FAULTHOST_H
-#define FAULTHOST_H
+#ifndef FAULTFIXTURE_H
+#define FAULTFIXTURE_H
 
-#include "samplehost/support/documenthost.h"
+#include "samplehost/support/documentfixture.h"
 
 /** What the host can print, each by the widgets of its own page. */
 enum class Printout { Labels, Sheets, TestFile, Item, Document };
 
 /** A host in which something goes wrong while it prints. */
-class FaultHost : public DocumentHost
+class FaultFixture : public DocumentFixture
 {
 public:
-    FaultHost() : DocumentHost(true) {}
+    FaultFixture() : DocumentFixture(true) {}
 
     /** Chooses and types what is to be printed. False if that failed. */
     bool choose(Printout printout);
 
     /** Presses Print, waits for the end of the job and closes the message that the user gets. */
-    std::optional<SampleHost::PrintJob::Outcome> print(Printout printout);
+    std::optional<Outcome> print(Printout printout);
 
     /** The text of the message that the user got; empty if there was none. */
     QString shown;
@@ -38,8 +38,6 @@ public:
 
 private:
     QWidget& panelOf(Printout printout) const;
-    template <typename Controller>
-    std::optional<SampleHost::PrintJob::Outcome> follow(Controller& controller, QWidget* button);
 };
 
 /** The contents of a file; empty if it cannot be read. */
