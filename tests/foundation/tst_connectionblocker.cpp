@@ -9,23 +9,23 @@
 using PrintPanels::ConnectionBlocker;
 
 /** Emits and counts. */
-class Talker : public QObject
+class Emitter : public QObject
 {
     Q_OBJECT
 
 public:
-    void say(int value) { Q_EMIT said(value); }
-    int receiversOfSaid() const { return receivers(SIGNAL(said(int))); }
+    void change(int value) { Q_EMIT changed(value); }
+    int receiversOfChanged() const { return receivers(SIGNAL(changed(int))); }
 
-    int heard = 0;
+    int received = 0;
 
 Q_SIGNALS:
-    void said(int value);
-    void whispered(int value);
+    void changed(int value);
+    void otherChanged(int value);
 
 public Q_SLOTS:
-    void hear(int) { ++heard; }
-    void hearToo(int) { heard += 100; }
+    void receive(int) { ++received; }
+    void receiveToo(int) { received += 100; }
 };
 
 class tst_ConnectionBlocker : public StrictTest
@@ -47,143 +47,150 @@ private Q_SLOTS:
 
 void tst_ConnectionBlocker::theConnectionIsBlockedInsideTheScope()
 {
-    Talker talker;
-    Talker listener;
-    connect(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
+    Emitter emitter;
+    Emitter receiver;
+    connect(&emitter, SIGNAL(changed(int)), &receiver, SLOT(receive(int)));
     {
-        const ConnectionBlocker blocker(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
-        talker.say(1);
-        QCOMPARE(listener.heard, 0);
-        QCOMPARE(talker.receiversOfSaid(), 0);
+        const ConnectionBlocker blocker(&emitter, SIGNAL(changed(int)), &receiver,
+                                        SLOT(receive(int)));
+        emitter.change(1);
+        QCOMPARE(receiver.received, 0);
+        QCOMPARE(emitter.receiversOfChanged(), 0);
     }
-    QCOMPARE(listener.heard, 0);
+    QCOMPARE(receiver.received, 0);
 }
 
 void tst_ConnectionBlocker::theConnectionStandsOnceAfterwards()
 {
-    Talker talker;
-    Talker listener;
-    connect(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
+    Emitter emitter;
+    Emitter receiver;
+    connect(&emitter, SIGNAL(changed(int)), &receiver, SLOT(receive(int)));
     for (int i = 1; i <= 3; ++i) {
         {
-            const ConnectionBlocker blocker(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
+            const ConnectionBlocker blocker(&emitter, SIGNAL(changed(int)), &receiver,
+                                            SLOT(receive(int)));
         }
-        talker.say(1);
-        QCOMPARE(listener.heard, i);
-        QCOMPARE(talker.receiversOfSaid(), 1);
+        emitter.change(1);
+        QCOMPARE(receiver.received, i);
+        QCOMPARE(emitter.receiversOfChanged(), 1);
     }
 }
 
 void tst_ConnectionBlocker::otherConnectionsOfTheSignalGoOn()
 {
-    Talker talker;
-    Talker listener;
-    connect(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
-    connect(&talker, SIGNAL(said(int)), &listener, SLOT(hearToo(int)));
+    Emitter emitter;
+    Emitter receiver;
+    connect(&emitter, SIGNAL(changed(int)), &receiver, SLOT(receive(int)));
+    connect(&emitter, SIGNAL(changed(int)), &receiver, SLOT(receiveToo(int)));
     {
-        const ConnectionBlocker blocker(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
-        talker.say(1);
-        QCOMPARE(listener.heard, 100);
+        const ConnectionBlocker blocker(&emitter, SIGNAL(changed(int)), &receiver,
+                                        SLOT(receive(int)));
+        emitter.change(1);
+        QCOMPARE(receiver.received, 100);
     }
-    talker.say(1);
-    QCOMPARE(listener.heard, 201);
+    emitter.change(1);
+    QCOMPARE(receiver.received, 201);
 }
 
 void tst_ConnectionBlocker::otherReceiversGoOn()
 {
-    Talker talker;
-    Talker paused;
-    Talker other;
-    connect(&talker, SIGNAL(said(int)), &paused, SLOT(hear(int)));
-    connect(&talker, SIGNAL(said(int)), &other, SLOT(hear(int)));
-    const ConnectionBlocker blocker(&talker, SIGNAL(said(int)), &paused, SLOT(hear(int)));
-    talker.say(1);
-    QCOMPARE(paused.heard, 0);
-    QCOMPARE(other.heard, 1);
-    QVERIFY(!talker.signalsBlocked());
+    Emitter emitter;
+    Emitter paused;
+    Emitter other;
+    connect(&emitter, SIGNAL(changed(int)), &paused, SLOT(receive(int)));
+    connect(&emitter, SIGNAL(changed(int)), &other, SLOT(receive(int)));
+    const ConnectionBlocker blocker(&emitter, SIGNAL(changed(int)), &paused, SLOT(receive(int)));
+    emitter.change(1);
+    QCOMPARE(paused.received, 0);
+    QCOMPARE(other.received, 1);
+    QVERIFY(!emitter.signalsBlocked());
 }
 
 void tst_ConnectionBlocker::otherSignalsOfThePairGoOn()
 {
-    Talker talker;
-    Talker listener;
-    connect(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
-    connect(&talker, SIGNAL(whispered(int)), &listener, SLOT(hear(int)));
-    const ConnectionBlocker blocker(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
-    Q_EMIT talker.whispered(1);
-    QCOMPARE(listener.heard, 1);
+    Emitter emitter;
+    Emitter receiver;
+    connect(&emitter, SIGNAL(changed(int)), &receiver, SLOT(receive(int)));
+    connect(&emitter, SIGNAL(otherChanged(int)), &receiver, SLOT(receive(int)));
+    const ConnectionBlocker blocker(&emitter, SIGNAL(changed(int)), &receiver, SLOT(receive(int)));
+    Q_EMIT emitter.otherChanged(1);
+    QCOMPARE(receiver.received, 1);
 }
 
 void tst_ConnectionBlocker::nestedBlockersLeaveOneConnection()
 {
-    Talker talker;
-    Talker listener;
-    connect(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
+    Emitter emitter;
+    Emitter receiver;
+    connect(&emitter, SIGNAL(changed(int)), &receiver, SLOT(receive(int)));
     {
-        const ConnectionBlocker outer(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
+        const ConnectionBlocker outer(&emitter, SIGNAL(changed(int)), &receiver,
+                                      SLOT(receive(int)));
         {
-            const ConnectionBlocker inner(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
+            const ConnectionBlocker inner(&emitter, SIGNAL(changed(int)), &receiver,
+                                          SLOT(receive(int)));
         }
-        talker.say(1);
-        QCOMPARE(listener.heard, 0);
+        emitter.change(1);
+        QCOMPARE(receiver.received, 0);
     }
-    talker.say(1);
-    QCOMPARE(listener.heard, 1);
-    QCOMPARE(talker.receiversOfSaid(), 1);
+    emitter.change(1);
+    QCOMPARE(receiver.received, 1);
+    QCOMPARE(emitter.receiversOfChanged(), 1);
 }
 
 void tst_ConnectionBlocker::anExceptionalExitRestoresTheConnection()
 {
-    Talker talker;
-    Talker listener;
-    connect(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
+    Emitter emitter;
+    Emitter receiver;
+    connect(&emitter, SIGNAL(changed(int)), &receiver, SLOT(receive(int)));
     try {
-        const ConnectionBlocker blocker(&talker, SIGNAL(said(int)), &listener, SLOT(hear(int)));
+        const ConnectionBlocker blocker(&emitter, SIGNAL(changed(int)), &receiver,
+                                        SLOT(receive(int)));
         throw 1;
     } catch (int) {
     }
-    talker.say(1);
-    QCOMPARE(listener.heard, 1);
+    emitter.change(1);
+    QCOMPARE(receiver.received, 1);
 }
 
 void tst_ConnectionBlocker::aSenderDeletedInsideTheScopeIsLeftAlone()
 {
-    auto talker = std::make_unique<Talker>();
-    Talker listener;
-    connect(talker.get(), SIGNAL(said(int)), &listener, SLOT(hear(int)));
+    auto emitter = std::make_unique<Emitter>();
+    Emitter receiver;
+    connect(emitter.get(), SIGNAL(changed(int)), &receiver, SLOT(receive(int)));
     {
-        const ConnectionBlocker blocker(talker.get(), SIGNAL(said(int)), &listener,
-                                        SLOT(hear(int)));
-        talker.reset();
+        const ConnectionBlocker blocker(emitter.get(), SIGNAL(changed(int)), &receiver,
+                                        SLOT(receive(int)));
+        emitter.reset();
     }
-    QCOMPARE(listener.heard, 0);
+    QCOMPARE(receiver.received, 0);
 }
 
 void tst_ConnectionBlocker::aReceiverDeletedInsideTheScopeIsLeftAlone()
 {
-    Talker talker;
-    auto listener = std::make_unique<Talker>();
-    connect(&talker, SIGNAL(said(int)), listener.get(), SLOT(hear(int)));
+    Emitter emitter;
+    auto receiver = std::make_unique<Emitter>();
+    connect(&emitter, SIGNAL(changed(int)), receiver.get(), SLOT(receive(int)));
     {
-        const ConnectionBlocker blocker(&talker, SIGNAL(said(int)), listener.get(),
-                                        SLOT(hear(int)));
-        listener.reset();
+        const ConnectionBlocker blocker(&emitter, SIGNAL(changed(int)), receiver.get(),
+                                        SLOT(receive(int)));
+        receiver.reset();
     }
-    talker.say(1);
-    QCOMPARE(talker.receiversOfSaid(), 0);
+    emitter.change(1);
+    QCOMPARE(emitter.receiversOfChanged(), 0);
 }
 
 void tst_ConnectionBlocker::aListenerMayDeleteTheReceiver()
 {
-    Talker talker;
-    auto* listener = new Talker;
-    connect(&talker, SIGNAL(said(int)), listener, SLOT(hear(int)));
-    connect(&talker, &Talker::said, &talker, [listener] { delete listener; });
+    Emitter emitter;
+    auto* receiver = new Emitter;
+    connect(&emitter, SIGNAL(changed(int)), receiver, SLOT(receive(int)));
+    connect(&emitter, &Emitter::changed, &emitter, [receiver] { delete receiver; });
     {
-        const ConnectionBlocker blocker(&talker, SIGNAL(said(int)), listener, SLOT(hear(int)));
-        talker.say(1);
+        const ConnectionBlocker blocker(&emitter, SIGNAL(changed(int)), receiver,
+                                        SLOT(receive(int)));
+        emitter.change(1);
     }
-    QCOMPARE(talker.receiversOfSaid(), 1);
+    QCOMPARE(emitter.receiversOfChanged(), 1);
 }
 
 QTEST_GUILESS_MAIN(tst_ConnectionBlocker)

@@ -31,7 +31,7 @@ private Q_SLOTS:
     void separatorBarIsAGreyLine();
     void separatorBarHasNoParentUntilItIsInALayout();
     void separatorBarIsDrawnInItsGrey();
-    void aPanelDiesWithItsHost();
+    void aPanelIsDeletedWithItsHost();
 };
 
 void tst_PrintWidgetInterface::isAnAbstractWidget()
@@ -250,7 +250,7 @@ void tst_PrintWidgetInterface::separatorBarIsDrawnInItsGrey()
     QVERIFY(seen);
 }
 
-void tst_PrintWidgetInterface::aPanelDiesWithItsHost()
+void tst_PrintWidgetInterface::aPanelIsDeletedWithItsHost()
 {
     auto* host = new QWidget;
     const QPointer<PlainPanel> panel = new PlainPanel(false, host);

@@ -24,12 +24,11 @@ void tst_PublicClasses::aClassAddsOnePointerToItsBase_data()
 {
     QTest::addColumn<std::size_t>("size");
     QTest::addColumn<std::size_t>("baseSize");
-    QTest::newRow("PrintWidget") << sizeof(PrintWidget) << sizeof(PrintWidgetInterface);
-    QTest::newRow("QuickPrintWidget") << sizeof(QuickPrintWidget) << sizeof(PrintWidgetInterface);
-    QTest::newRow("MultiPagePrintWidget")
-        << sizeof(MultiPagePrintWidget) << sizeof(PrintWidgetInterface);
-    QTest::newRow("PrintPreviewDialog") << sizeof(PrintPreviewDialog) << sizeof(QWidget);
-    QTest::newRow("MultiPagePrintDialog") << sizeof(MultiPagePrintDialog) << sizeof(QDialog);
+    addRow("PrintWidget", sizeof(PrintWidget), sizeof(PrintWidgetInterface));
+    addRow("QuickPrintWidget", sizeof(QuickPrintWidget), sizeof(PrintWidgetInterface));
+    addRow("MultiPagePrintWidget", sizeof(MultiPagePrintWidget), sizeof(PrintWidgetInterface));
+    addRow("PrintPreviewDialog", sizeof(PrintPreviewDialog), sizeof(QWidget));
+    addRow("MultiPagePrintDialog", sizeof(MultiPagePrintDialog), sizeof(QDialog));
 }
 
 void tst_PublicClasses::aClassAddsOnePointerToItsBase()

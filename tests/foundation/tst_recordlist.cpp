@@ -241,13 +241,13 @@ void tst_RecordList::classifyReadsHugeTextsQuickly_data()
 {
     QTest::addColumn<QString>("piece");
     QTest::addColumn<Extent>("extent");
-    QTest::newRow("commas") << QStringLiteral(",") << Extent::OneRecord;
-    QTest::newRow("hyphens") << QStringLiteral("-") << Extent::OneRecord;
-    QTest::newRow("digits") << QStringLiteral("7") << Extent::OneRecord;
-    QTest::newRow("reversed ranges") << QStringLiteral("9-1,") << Extent::OneRecord;
-    QTest::newRow("numbers") << QStringLiteral("1,") << Extent::SeveralRecords;
-    QTest::newRow("one long range") << QStringLiteral("1-") << Extent::OneRecord;
-    QTest::newRow("letters") << QStringLiteral("x") << Extent::OneRecord;
+    addRow("commas", ",", Extent::OneRecord);
+    addRow("hyphens", "-", Extent::OneRecord);
+    addRow("digits", "7", Extent::OneRecord);
+    addRow("reversed ranges", "9-1,", Extent::OneRecord);
+    addRow("numbers", "1,", Extent::SeveralRecords);
+    addRow("one long range", "1-", Extent::OneRecord);
+    addRow("letters", "x", Extent::OneRecord);
 }
 
 void tst_RecordList::classifyReadsHugeTextsQuickly()

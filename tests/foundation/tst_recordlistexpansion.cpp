@@ -134,9 +134,8 @@ void tst_RecordListExpansion::invalid_data()
           "1,4-05",     "1 ", " 1", "1\n",  "a",     "1,a",   "٣",     "1-99999999999999999999",
           "2147483648", "+1", "1.0"})
         QTest::addRow("'%s'", text) << QString::fromUtf8(text);
-    QTest::newRow("null character inside")
-        << QString(QStringLiteral("1,2")).replace(1, 1, QChar(u'\0'));
-    QTest::newRow("full-width digit") << QString(QChar(0xff11));
+    addRow("null character inside", QString(QStringLiteral("1,2")).replace(1, 1, QChar(u'\0')));
+    addRow("full-width digit", QString(QChar(0xff11)));
 }
 
 void tst_RecordListExpansion::invalid()

@@ -224,11 +224,11 @@ void tst_SharedConstants::namedColours_data()
     QTest::addColumn<QColor>("expected");
     QTest::addColumn<int>("index");
 
-    QTest::newRow("yellow") << yellowColor << QColor(0xfe, 0xdb, 0x00) << 4;
-    QTest::newRow("sky blue") << skyBlueColor << QColor(0x41, 0xb6, 0xe6) << 9;
-    QTest::newRow("red") << redColor << QColor(0xdc, 0x0b, 0x0b) << 2;
-    QTest::newRow("green") << greenColor << QColor(0x24, 0x8d, 0x4f) << 5;
-    QTest::newRow("orange") << orangeColor << QColor(0xf2, 0x80, 0x00) << 3;
+    addRow("yellow", yellowColor, QColor(0xfe, 0xdb, 0x00), 4);
+    addRow("sky blue", skyBlueColor, QColor(0x41, 0xb6, 0xe6), 9);
+    addRow("red", redColor, QColor(0xdc, 0x0b, 0x0b), 2);
+    addRow("green", greenColor, QColor(0x24, 0x8d, 0x4f), 5);
+    addRow("orange", orangeColor, QColor(0xf2, 0x80, 0x00), 3);
 }
 
 void tst_SharedConstants::namedColours()

@@ -13,15 +13,15 @@
 namespace {
 
 /** What happened during a show, in order. */
-QStringList* heard = nullptr;
+QStringList* recorded = nullptr;
 
 void note(const char* step)
 {
-    if (heard)
-        heard->append(QLatin1String(step));
+    if (recorded)
+        recorded->append(QLatin1String(step));
 }
 
-/** Tells when its own handler runs, and what happens within the panel's handler. */
+/** Records when its own handler runs, and what happens within the panel's handler. */
 template <typename Panel>
 class WatchedPanel : public Panel
 {
@@ -62,7 +62,7 @@ class tst_ShowEvent : public StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup() { heard = nullptr; }
+    void cleanup() override { recorded = nullptr; }
     void signalComesAfterTheBaseHandlerWithinThePanels_data();
     void signalComesAfterTheBaseHandlerWithinThePanels();
 };
@@ -71,8 +71,8 @@ void tst_ShowEvent::signalComesAfterTheBaseHandlerWithinThePanels_data()
 {
     using Factory = PrintWidgetInterface* (*)();
     QTest::addColumn<Factory>("create");
-    QTest::newRow("print settings panel") << &newPrintPanel;
-    QTest::newRow("multi-page panel") << &newMultiPagePanel;
+    addRow("print settings panel", &newPrintPanel);
+    addRow("multi-page panel", &newMultiPagePanel);
 }
 
 void tst_ShowEvent::signalComesAfterTheBaseHandlerWithinThePanels()
@@ -81,7 +81,7 @@ void tst_ShowEvent::signalComesAfterTheBaseHandlerWithinThePanels()
     QFETCH(const Factory, create);
     const std::unique_ptr<PrintWidgetInterface> panel(create());
     QStringList steps;
-    heard = &steps;
+    recorded = &steps;
     connect(panel.get(), &PrintWidgetInterface::printWidgetShowSignal, this,
             [] { note("signal"); });
 

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "foundation/stylesheets.h"
+#include "support/expectedsheet.h"
 #include "support/stricttest.h"
 
-#include <QtCore/QFile>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
@@ -47,12 +47,6 @@ const RoleRow roles[] = {
     {"multiPageDialogFrame", StyleSheets::multiPageDialogFrame, 80, false},
     {"previewDialogFrame", StyleSheets::previewDialogFrame, 75, false},
 };
-
-QString expectedText(const char* role)
-{
-    QFile file(QStringLiteral(EXPECTED_SHEETS "/%1.qss").arg(QLatin1String(role)));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
 
 /** The combo box, scroll bar and spin box block, cut out of the panel's sheet by its length. */
 QString comboBoxBlock()
@@ -112,7 +106,7 @@ void tst_StyleSheets::text()
     QCOMPARE(sheet.size(), role.characters);
     QCOMPARE(sheet.endsWith(QLatin1Char('\n')), role.endsWithLineFeed);
     QVERIFY(!sheet.contains(QLatin1Char('\r')));
-    QCOMPARE(sheet, expectedText(role.name));
+    QCOMPARE(sheet, expectedSheet(role.name));
 }
 
 void tst_StyleSheets::everyExpectedTextBelongsToARole()
@@ -171,10 +165,10 @@ void tst_StyleSheets::radioBlockKeepsTheJoinedLine()
 void tst_StyleSheets::disabledPushButtonColours_data()
 {
     QTest::addColumn<QString>("sheet");
-    QTest::newRow("panel") << StyleSheets::panel();
-    QTest::newRow("primary") << StyleSheets::primaryPushButton();
-    QTest::newRow("tall") << StyleSheets::tallPushButton();
-    QTest::newRow("printer settings") << StyleSheets::printerSettingsButton();
+    addRow("panel", StyleSheets::panel());
+    addRow("primary", StyleSheets::primaryPushButton());
+    addRow("tall", StyleSheets::tallPushButton());
+    addRow("printer settings", StyleSheets::printerSettingsButton());
 }
 
 void tst_StyleSheets::disabledPushButtonColours()

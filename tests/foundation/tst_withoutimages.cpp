@@ -58,7 +58,7 @@ QList<QImage> looksOf(QPushButton* button)
 
 } // namespace
 
-/** Controls keep their sizes, and nothing complains, where the host has registered no images. */
+/** Controls keep their sizes, and Qt prints no warning, where the host has registered no images. */
 class tst_WithoutImages : public StrictTest
 {
     Q_OBJECT
@@ -83,12 +83,12 @@ void tst_WithoutImages::onlyTheLibrarysOwnImagesAreThere()
 void tst_WithoutImages::everyControlKeepsItsPlace_data()
 {
     QTest::addColumn<PanelFactory>("create");
-    QTest::newRow("print settings panel") << &printPanel;
-    QTest::newRow("print settings panel, pipe marking") << &pipeMarkingPanel;
-    QTest::newRow("quick print panel") << &quickPanel;
-    QTest::newRow("multi-page panel") << &multiPagePanel;
-    QTest::newRow("multi-page dialog") << &multiPageDialog;
-    QTest::newRow("preview popup") << &previewPopup;
+    addRow("print settings panel", &printPanel);
+    addRow("print settings panel, pipe marking", &pipeMarkingPanel);
+    addRow("quick print panel", &quickPanel);
+    addRow("multi-page panel", &multiPagePanel);
+    addRow("multi-page dialog", &multiPageDialog);
+    addRow("preview popup", &previewPopup);
 }
 
 void tst_WithoutImages::everyControlKeepsItsPlace()
@@ -112,9 +112,9 @@ void tst_WithoutImages::everyControlKeepsItsPlace()
 void tst_WithoutImages::stepButtonsKeepTheirSizeAndShowNoPicture_data()
 {
     QTest::addColumn<PanelFactory>("create");
-    QTest::newRow("print settings panel") << &printPanel;
-    QTest::newRow("quick print panel") << &quickPanel;
-    QTest::newRow("multi-page panel") << &multiPagePanel;
+    addRow("print settings panel", &printPanel);
+    addRow("quick print panel", &quickPanel);
+    addRow("multi-page panel", &multiPagePanel);
 }
 
 // Plus and minus are two plain buttons of one look then, in each of their states.

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "inputevents.h"
+#include "support/inputevents.h"
 #include "support/stricttest.h"
 
 #include <colormenu.h>
@@ -40,8 +40,8 @@ private Q_SLOTS:
     void updateSelectedColorComparesLetterForLetter();
     void selectionOutlivesThePalette();
     void onlyTheFirstOfEqualCodesIsChecked();
-    void pickingWithTheMouseTellsTheCode();
-    void pickingTheCheckedEntryTellsItAgain();
+    void pickingWithTheMouseReportsTheCode();
+    void pickingTheCheckedEntryReportsItAgain();
     void keyboardMovesAndPicks();
     void enterDoesNotReachTheDialog();
     void arrowKeysStayInTheMenu_data();
@@ -162,9 +162,8 @@ void TestColorMenu::surplusEntriesAreIgnored_data()
     QTest::addColumn<QList<QString>>("codes");
     const QString name = QStringLiteral("Cherry");
     const QString code = QStringLiteral("#dc0b0b");
-    QTest::newRow("more names") << QList<QString>{name, name, name} << QList<QString>{code};
-    QTest::newRow("more codes") << QList<QString>{name}
-                                << QList<QString>{code, QStringLiteral("#0018a8")};
+    addRow("more names", QList<QString>{name, name, name}, QList<QString>{code});
+    addRow("more codes", QList<QString>{name}, QList<QString>{code, QStringLiteral("#0018a8")});
 }
 
 void TestColorMenu::surplusEntriesAreIgnored()
@@ -332,7 +331,7 @@ void TestColorMenu::onlyTheFirstOfEqualCodesIsChecked()
     QCOMPARE(menu.checkedCodes().size(), 1);
 }
 
-void TestColorMenu::pickingWithTheMouseTellsTheCode()
+void TestColorMenu::pickingWithTheMouseReportsTheCode()
 {
     Menu menu(defaults);
     menu.setTransparentColorVisible(true);
@@ -351,7 +350,7 @@ void TestColorMenu::pickingWithTheMouseTellsTheCode()
     }
 }
 
-void TestColorMenu::pickingTheCheckedEntryTellsItAgain()
+void TestColorMenu::pickingTheCheckedEntryReportsItAgain()
 {
     Menu menu(defaults);
     menu.show();
@@ -409,11 +408,11 @@ void TestColorMenu::arrowKeysStayInTheMenu_data()
 {
     QTest::addColumn<int>("start");
     QTest::addColumn<int>("key");
-    QTest::newRow("left of the first") << 0 << int(Qt::Key_Left);
-    QTest::newRow("above the first row") << 3 << int(Qt::Key_Up);
-    QTest::newRow("right of the last") << 8 << int(Qt::Key_Right);
-    QTest::newRow("below the last row") << 8 << int(Qt::Key_Down);
-    QTest::newRow("below a short last row") << 5 << int(Qt::Key_Down);
+    addRow("left of the first", 0, int(Qt::Key_Left));
+    addRow("above the first row", 3, int(Qt::Key_Up));
+    addRow("right of the last", 8, int(Qt::Key_Right));
+    addRow("below the last row", 8, int(Qt::Key_Down));
+    addRow("below a short last row", 5, int(Qt::Key_Down));
 }
 
 void TestColorMenu::arrowKeysStayInTheMenu()
@@ -461,9 +460,9 @@ void TestColorMenu::replacedEntriesGoWithTheMenu()
 void TestColorMenu::menuMayBeDeletedWhileTheSignalIsDelivered_data()
 {
     QTest::addColumn<int>("key");
-    QTest::newRow("by mouse") << 0;
-    QTest::newRow("by Space") << int(Qt::Key_Space);
-    QTest::newRow("by Enter") << int(Qt::Key_Enter);
+    addRow("by mouse", 0);
+    addRow("by Space", int(Qt::Key_Space));
+    addRow("by Enter", int(Qt::Key_Enter));
 }
 
 void TestColorMenu::menuMayBeDeletedWhileTheSignalIsDelivered()
@@ -567,8 +566,8 @@ void TestColorMenu::checkedStateIsVisibleOnEveryColor_data()
     QTest::addColumn<QString>("code");
     for (const QString& code : defaults)
         QTest::newRow(qPrintable(code)) << code;
-    QTest::newRow("accent") << QStringLiteral("#fd7800");
-    QTest::newRow("see-through") << QStringLiteral("#40000000");
+    addRow("accent", "#fd7800");
+    addRow("see-through", "#40000000");
 }
 
 void TestColorMenu::checkedStateIsVisibleOnEveryColor()

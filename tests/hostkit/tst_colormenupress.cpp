@@ -24,8 +24,8 @@ private Q_SLOTS:
 void TestColorMenuPress::paletteMayChangeAsTheFocusLeaves_data()
 {
     QTest::addColumn<int>("button");
-    QTest::newRow("left") << int(Qt::LeftButton);
-    QTest::newRow("right") << int(Qt::RightButton);
+    addRow("left", int(Qt::LeftButton));
+    addRow("right", int(Qt::RightButton));
 }
 
 void TestColorMenuPress::paletteMayChangeAsTheFocusLeaves()

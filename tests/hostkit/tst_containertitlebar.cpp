@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "inputevents.h"
+#include "support/inputevents.h"
 #include "support/stricttest.h"
 
 #include <containertitlebar.h>
@@ -25,15 +25,15 @@ private Q_SLOTS:
     void titleIsPlainText();
     void elidedTitleIsTheToolTip();
     void onlyTheBeginningOfATitleIsPainted();
-    void closeButtonTells();
+    void closeButtonEmits();
     void closeButtonHasItsPicture();
-    void dragTellsTheNewCornerOfTheWindow();
-    void dragOfABarInsideItsWindowTellsTheWindowsCorner();
+    void dragReportsTheNewCornerOfTheWindow();
+    void dragOfABarInsideItsWindowReportsTheWindowsCorner();
     void windowFollowsTheDrag();
-    void pressAloneTellsNothing();
-    void dragOnTheCloseButtonTellsNothing();
-    void rightButtonTellsNothing();
-    void moveAfterTheReleaseTellsNothing();
+    void pressAloneEmitsNothing();
+    void dragOnTheCloseButtonEmitsNothing();
+    void rightButtonEmitsNothing();
+    void moveAfterTheReleaseEmitsNothing();
     void lostReleaseEndsTheDrag();
     void hidingDuringTheDragEndsIt();
     void windowMayBeDeletedByTheSignals();
@@ -107,8 +107,8 @@ void TestContainerTitleBar::titleFontIsTheGivenSizeUntilSetFont()
 void TestContainerTitleBar::sizeThatIsNotPositiveKeepsTheFont_data()
 {
     QTest::addColumn<int>("size");
-    QTest::newRow("zero") << 0;
-    QTest::newRow("negative") << -14;
+    addRow("zero", 0);
+    addRow("negative", -14);
 }
 
 void TestContainerTitleBar::sizeThatIsNotPositiveKeepsTheFont()
@@ -180,7 +180,7 @@ void TestContainerTitleBar::elidedTitleIsTheToolTip()
     QCOMPARE(visibleToolTip(), title);
 }
 
-void TestContainerTitleBar::closeButtonTells()
+void TestContainerTitleBar::closeButtonEmits()
 {
     Window window;
     QSignalSpy closed(window.bar, SIGNAL(closeButtonClicked()));
@@ -206,7 +206,7 @@ void TestContainerTitleBar::closeButtonHasItsPicture()
     QVERIFY(button->height() >= 35);
 }
 
-void TestContainerTitleBar::dragTellsTheNewCornerOfTheWindow()
+void TestContainerTitleBar::dragReportsTheNewCornerOfTheWindow()
 {
     Window window;
     MouseDrag drag(window.bar, QPoint(50, 20));
@@ -222,7 +222,7 @@ void TestContainerTitleBar::dragTellsTheNewCornerOfTheWindow()
     QCOMPARE(window.widget.pos(), QPoint(100, 150));
 }
 
-void TestContainerTitleBar::dragOfABarInsideItsWindowTellsTheWindowsCorner()
+void TestContainerTitleBar::dragOfABarInsideItsWindowReportsTheWindowsCorner()
 {
     Window window;
     window.bar->move(0, 60);
@@ -253,7 +253,7 @@ void TestContainerTitleBar::windowFollowsTheDrag()
     QCOMPARE(window.moves.count(), 50);
 }
 
-void TestContainerTitleBar::pressAloneTellsNothing()
+void TestContainerTitleBar::pressAloneEmitsNothing()
 {
     Window window;
     MouseDrag drag(window.bar, QPoint(50, 20));
@@ -262,7 +262,7 @@ void TestContainerTitleBar::pressAloneTellsNothing()
     QCOMPARE(window.moves.count(), 0);
 }
 
-void TestContainerTitleBar::dragOnTheCloseButtonTellsNothing()
+void TestContainerTitleBar::dragOnTheCloseButtonEmitsNothing()
 {
     Window window;
     MouseDrag drag(closeButton(window.bar), QPoint(10, 10));
@@ -271,7 +271,7 @@ void TestContainerTitleBar::dragOnTheCloseButtonTellsNothing()
     QCOMPARE(window.moves.count(), 0);
 }
 
-void TestContainerTitleBar::rightButtonTellsNothing()
+void TestContainerTitleBar::rightButtonEmitsNothing()
 {
     Window window;
     QWindow* handle = window.widget.windowHandle();
@@ -281,7 +281,7 @@ void TestContainerTitleBar::rightButtonTellsNothing()
     QCOMPARE(window.moves.count(), 0);
 }
 
-void TestContainerTitleBar::moveAfterTheReleaseTellsNothing()
+void TestContainerTitleBar::moveAfterTheReleaseEmitsNothing()
 {
     Window window;
     MouseDrag drag(window.bar, QPoint(50, 20));

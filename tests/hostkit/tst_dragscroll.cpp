@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "inputevents.h"
+#include "support/inputevents.h"
 #include "support/stricttest.h"
 
 #include <dragscrollbutton.h>
@@ -76,9 +76,9 @@ const QPoint middle(100, 100);
 void TestDragScroll::dragScrollsTheEnclosingArea_data()
 {
     QTest::addColumn<QString>("kind");
-    QTest::newRow("button") << QStringLiteral("button");
-    QTest::newRow("group box") << QStringLiteral("group");
-    QTest::newRow("label in a group box") << QStringLiteral("label");
+    addRow("button", "button");
+    addRow("group box", "group");
+    addRow("label in a group box", "label");
 }
 
 void TestDragScroll::dragScrollsTheEnclosingArea()
@@ -190,8 +190,8 @@ void TestDragScroll::dragStopsAutoRepeat()
 void TestDragScroll::buttonWithNothingToScrollIsAPlainButton_data()
 {
     QTest::addColumn<bool>("inArea");
-    QTest::newRow("without a scroll area") << false;
-    QTest::newRow("in a scroll area that shows everything") << true;
+    addRow("without a scroll area", false);
+    addRow("in a scroll area that shows everything", true);
 }
 
 void TestDragScroll::buttonWithNothingToScrollIsAPlainButton()

@@ -68,17 +68,17 @@ void TestEditorCommon::whiteSpace_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("white");
-    QTest::newRow("null") << QString() << true;
-    QTest::newRow("empty") << QStringLiteral("") << true;
-    QTest::newRow("blank") << QStringLiteral(" ") << true;
-    QTest::newRow("blanks, tabs and line ends") << QStringLiteral(" \t\r\n\v\f ") << true;
-    QTest::newRow("no-break space") << QString(QChar(0xa0)) << true;
-    QTest::newRow("ideographic space") << QString(QChar(0x3000)) << true;
-    QTest::newRow("number") << QStringLiteral("1") << false;
-    QTest::newRow("number among blanks") << QStringLiteral("  1  ") << false;
-    QTest::newRow("zero-width space") << QString(QChar(0x200b)) << false;
-    QTest::newRow("null character") << QString(QChar(0)) << false;
-    QTest::newRow("many blanks") << QString(1 << 20, QLatin1Char(' ')) << true;
+    addRow("null", QString(), true);
+    addRow("empty", "", true);
+    addRow("blank", " ", true);
+    addRow("blanks, tabs and line ends", " \t\r\n\v\f ", true);
+    addRow("no-break space", QString(QChar(0xa0)), true);
+    addRow("ideographic space", QString(QChar(0x3000)), true);
+    addRow("number", "1", false);
+    addRow("number among blanks", "  1  ", false);
+    addRow("zero-width space", QString(QChar(0x200b)), false);
+    addRow("null character", QString(QChar(0)), false);
+    addRow("many blanks", QString(1 << 20, QLatin1Char(' ')), true);
 }
 
 void TestEditorCommon::whiteSpace()
@@ -92,17 +92,17 @@ void TestEditorCommon::moduleTypes_data()
 {
     QTest::addColumn<int>("type");
     QTest::addColumn<int>("value");
-    QTest::newRow("Unspecified") << int(JxModuleInfo::Unspecified) << 0;
-    QTest::newRow("JxLabelEditor") << int(JxModuleInfo::JxLabelEditor) << 1;
-    QTest::newRow("GHS") << int(JxModuleInfo::GHS) << 2;
-    QTest::newRow("ArcFlashMain") << int(JxModuleInfo::ArcFlashMain) << 3;
-    QTest::newRow("PipeMarking") << int(JxModuleInfo::PipeMarking) << 4;
-    QTest::newRow("NFPAMain") << int(JxModuleInfo::NFPAMain) << 5;
-    QTest::newRow("JxCatalog") << int(JxModuleInfo::JxCatalog) << 6;
-    QTest::newRow("QuickPrint") << int(JxModuleInfo::QuickPrint) << 7;
-    QTest::newRow("PDFViewer") << int(JxModuleInfo::PDFViewer) << 8;
-    QTest::newRow("JavaScript") << int(JxModuleInfo::JavaScript) << 9;
-    QTest::newRow("GraphicsViewer") << int(JxModuleInfo::GraphicsViewer) << 10;
+    addRow("Unspecified", int(JxModuleInfo::Unspecified), 0);
+    addRow("JxLabelEditor", int(JxModuleInfo::JxLabelEditor), 1);
+    addRow("GHS", int(JxModuleInfo::GHS), 2);
+    addRow("ArcFlashMain", int(JxModuleInfo::ArcFlashMain), 3);
+    addRow("PipeMarking", int(JxModuleInfo::PipeMarking), 4);
+    addRow("NFPAMain", int(JxModuleInfo::NFPAMain), 5);
+    addRow("JxCatalog", int(JxModuleInfo::JxCatalog), 6);
+    addRow("QuickPrint", int(JxModuleInfo::QuickPrint), 7);
+    addRow("PDFViewer", int(JxModuleInfo::PDFViewer), 8);
+    addRow("JavaScript", int(JxModuleInfo::JavaScript), 9);
+    addRow("GraphicsViewer", int(JxModuleInfo::GraphicsViewer), 10);
 }
 
 void TestEditorCommon::moduleTypes()

@@ -92,9 +92,8 @@ void TestExpandingTabBar::rectangleShowsItsColor_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("tabText");
     for (const char* text : {"#dc0b0b", "#00FFFF", "#0018a8", "#FFFFFE"}) {
-        QTest::addRow("%s beside a picture", text)
-            << QString::fromLatin1(text) << QStringLiteral("!");
-        QTest::addRow("%s beside a text", text) << QString::fromLatin1(text) << QStringLiteral("x");
+        QTest::addRow("%s beside a picture", text) << QString::fromLatin1(text) << "!";
+        QTest::addRow("%s beside a text", text) << QString::fromLatin1(text) << "x";
     }
 }
 
@@ -148,13 +147,13 @@ void TestExpandingTabBar::rectangleCanBeReplacedAndTakenAway()
 void TestExpandingTabBar::invalidTextsChangeNothing_data()
 {
     QTest::addColumn<QString>("text");
-    QTest::newRow("no colour") << QStringLiteral("no colour at all");
-    QTest::newRow("code too short") << QStringLiteral("#12");
-    QTest::newRow("code with a wrong digit") << QStringLiteral("#12345g");
-    QTest::newRow("number") << QStringLiteral("123456");
-    QTest::newRow("blank") << QStringLiteral(" ");
-    QTest::newRow("Blank in capitals") << QStringLiteral("BLANK");
-    QTest::newRow("huge") << QString(1000000, QLatin1Char('#'));
+    addRow("no colour", "no colour at all");
+    addRow("code too short", "#12");
+    addRow("code with a wrong digit", "#12345g");
+    addRow("number", "123456");
+    addRow("blank", " ");
+    addRow("Blank in capitals", "BLANK");
+    addRow("huge", QString(1000000, QLatin1Char('#')));
 }
 
 void TestExpandingTabBar::invalidTextsChangeNothing()
@@ -170,10 +169,10 @@ void TestExpandingTabBar::invalidTextsChangeNothing()
 void TestExpandingTabBar::wrongIndicesChangeNothing_data()
 {
     QTest::addColumn<int>("index");
-    QTest::newRow("negative") << -1;
-    QTest::newRow("behind the last") << 1;
-    QTest::newRow("smallest") << std::numeric_limits<int>::min();
-    QTest::newRow("largest") << std::numeric_limits<int>::max();
+    addRow("negative", -1);
+    addRow("behind the last", 1);
+    addRow("smallest", std::numeric_limits<int>::min());
+    addRow("largest", std::numeric_limits<int>::max());
 }
 
 void TestExpandingTabBar::wrongIndicesChangeNothing()
@@ -223,11 +222,9 @@ void TestExpandingTabBar::pictureStandsForAGlyph_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("file");
-    QTest::newRow("ribbon") << QStringLiteral("!") << QStringLiteral(":/hostkit/ribbon.png");
-    QTest::newRow("blank ribbon") << QString(QChar(blankRibbonGlyph))
-                                  << QStringLiteral(":/hostkit/blank-ribbon.png");
-    QTest::newRow("supply") << QString(QChar(supplyGlyph))
-                            << QStringLiteral(":/hostkit/supply.png");
+    addRow("ribbon", "!", ":/hostkit/ribbon.png");
+    addRow("blank ribbon", QString(QChar(blankRibbonGlyph)), ":/hostkit/blank-ribbon.png");
+    addRow("supply", QString(QChar(supplyGlyph)), ":/hostkit/supply.png");
 }
 
 void TestExpandingTabBar::pictureStandsForAGlyph()
@@ -277,8 +274,8 @@ void TestExpandingTabBar::otherTextsAreDrawnAsText()
 void TestExpandingTabBar::paintsTheSameIconAgain_data()
 {
     QTest::addColumn<QString>("tabText");
-    QTest::newRow("picture") << QStringLiteral("!");
-    QTest::newRow("text") << QStringLiteral("x");
+    addRow("picture", "!");
+    addRow("text", "x");
 }
 
 // Each new icon would take memory of Qt's picture cache.
@@ -386,12 +383,12 @@ void TestExpandingTabBar::connectsByText()
 void TestExpandingTabBar::paintsInEveryShape_data()
 {
     QTest::addColumn<int>("shape");
-    QTest::newRow("rounded north") << int(QTabBar::RoundedNorth);
-    QTest::newRow("rounded south") << int(QTabBar::RoundedSouth);
-    QTest::newRow("rounded west") << int(QTabBar::RoundedWest);
-    QTest::newRow("rounded east") << int(QTabBar::RoundedEast);
-    QTest::newRow("triangular north") << int(QTabBar::TriangularNorth);
-    QTest::newRow("triangular west") << int(QTabBar::TriangularWest);
+    addRow("rounded north", int(QTabBar::RoundedNorth));
+    addRow("rounded south", int(QTabBar::RoundedSouth));
+    addRow("rounded west", int(QTabBar::RoundedWest));
+    addRow("rounded east", int(QTabBar::RoundedEast));
+    addRow("triangular north", int(QTabBar::TriangularNorth));
+    addRow("triangular west", int(QTabBar::TriangularWest));
 }
 
 void TestExpandingTabBar::paintsInEveryShape()
@@ -422,8 +419,8 @@ void TestExpandingTabBar::paintsInEveryShape()
 void TestExpandingTabBar::endlessTextIsCutOff_data()
 {
     QTest::addColumn<int>("shape");
-    QTest::newRow("north") << int(QTabBar::RoundedNorth);
-    QTest::newRow("west") << int(QTabBar::RoundedWest);
+    addRow("north", int(QTabBar::RoundedNorth));
+    addRow("west", int(QTabBar::RoundedWest));
 }
 
 // Qt's painting ends beyond some thousands of pixels, by reading memory that is not its own.

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "inputevents.h"
+#include "support/inputevents.h"
 #include "support/stricttest.h"
 
 #include <jxcombobox.h>
@@ -20,11 +20,11 @@ class TestJxComboBox : public StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void pickingAnItemWithTheMouseTellsItsText_data();
-    void pickingAnItemWithTheMouseTellsItsText();
-    void pickingTheCurrentItemTellsItAgain();
+    void pickingAnItemWithTheMouseReportsItsText_data();
+    void pickingAnItemWithTheMouseReportsItsText();
+    void pickingTheCurrentItemReportsItAgain();
     void theIndexSignalStaysReachable();
-    void changesByTheProgramTellNothing();
+    void changesByTheProgramEmitNothing();
     void connectsByText();
     void wheelOverUnfocusedBoxScrollsTheAreaAroundIt_data();
     void wheelOverUnfocusedBoxScrollsTheAreaAroundIt();
@@ -99,14 +99,14 @@ QImage picture(const QString& text)
 }
 } // namespace
 
-void TestJxComboBox::pickingAnItemWithTheMouseTellsItsText_data()
+void TestJxComboBox::pickingAnItemWithTheMouseReportsItsText_data()
 {
     QTest::addColumn<int>("policy");
-    QTest::newRow("as created") << int(Qt::StrongFocus);
-    QTest::newRow("without focus") << int(Qt::NoFocus);
+    addRow("as created", int(Qt::StrongFocus));
+    addRow("without focus", int(Qt::NoFocus));
 }
 
-void TestJxComboBox::pickingAnItemWithTheMouseTellsItsText()
+void TestJxComboBox::pickingAnItemWithTheMouseReportsItsText()
 {
     QFETCH(int, policy);
     Window window;
@@ -119,7 +119,7 @@ void TestJxComboBox::pickingAnItemWithTheMouseTellsItsText()
     QCOMPARE(texts.at(0).at(0).toString(), QStringLiteral("Three"));
 }
 
-void TestJxComboBox::pickingTheCurrentItemTellsItAgain()
+void TestJxComboBox::pickingTheCurrentItemReportsItAgain()
 {
     Window window;
     window.combo->setCurrentIndex(1);
@@ -143,7 +143,7 @@ void TestJxComboBox::theIndexSignalStaysReachable()
     QCOMPARE(pickedText, QStringLiteral("Three"));
 }
 
-void TestJxComboBox::changesByTheProgramTellNothing()
+void TestJxComboBox::changesByTheProgramEmitNothing()
 {
     Window window;
     QSignalSpy texts(window.combo, SIGNAL(activated(QString)));
@@ -166,8 +166,8 @@ void TestJxComboBox::connectsByText()
 void TestJxComboBox::wheelOverUnfocusedBoxScrollsTheAreaAroundIt_data()
 {
     QTest::addColumn<int>("policy");
-    QTest::newRow("as created") << int(Qt::StrongFocus);
-    QTest::newRow("without focus") << int(Qt::NoFocus);
+    addRow("as created", int(Qt::StrongFocus));
+    addRow("without focus", int(Qt::NoFocus));
 }
 
 void TestJxComboBox::wheelOverUnfocusedBoxScrollsTheAreaAroundIt()

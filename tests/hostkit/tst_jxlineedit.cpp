@@ -14,11 +14,11 @@ class TestJxLineEdit : public StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void tellsWhenItLosesTheFocus();
-    void tellsAlsoWhenTheValidatorIsNotSatisfied();
-    void tellsAfterEditingFinished();
-    void tellsWhenItIsHiddenOrDisabledWithTheFocus_data();
-    void tellsWhenItIsHiddenOrDisabledWithTheFocus();
+    void emitsWhenItLosesTheFocus();
+    void emitsAlsoWhenTheValidatorIsNotSatisfied();
+    void emitsAfterEditingFinished();
+    void emitsWhenItIsHiddenOrDisabledWithTheFocus_data();
+    void emitsWhenItIsHiddenOrDisabledWithTheFocus();
     void connectsByText();
 };
 
@@ -48,7 +48,7 @@ struct Window
 };
 } // namespace
 
-void TestJxLineEdit::tellsWhenItLosesTheFocus()
+void TestJxLineEdit::emitsWhenItLosesTheFocus()
 {
     Window window;
     QSignalSpy lost(window.edit, SIGNAL(focusLost()));
@@ -63,7 +63,7 @@ void TestJxLineEdit::tellsWhenItLosesTheFocus()
     QCOMPARE(lost.count(), 2);
 }
 
-void TestJxLineEdit::tellsAlsoWhenTheValidatorIsNotSatisfied()
+void TestJxLineEdit::emitsAlsoWhenTheValidatorIsNotSatisfied()
 {
     Window window;
     window.edit->setValidator(new QIntValidator(10, 20, window.edit));
@@ -76,7 +76,7 @@ void TestJxLineEdit::tellsAlsoWhenTheValidatorIsNotSatisfied()
     QCOMPARE(lost.count(), 1);
 }
 
-void TestJxLineEdit::tellsAfterEditingFinished()
+void TestJxLineEdit::emitsAfterEditingFinished()
 {
     Window window;
     QVERIFY(window.focusEdit());
@@ -89,14 +89,14 @@ void TestJxLineEdit::tellsAfterEditingFinished()
     QCOMPARE(order, QStringList({QStringLiteral("finished"), QStringLiteral("lost")}));
 }
 
-void TestJxLineEdit::tellsWhenItIsHiddenOrDisabledWithTheFocus_data()
+void TestJxLineEdit::emitsWhenItIsHiddenOrDisabledWithTheFocus_data()
 {
     QTest::addColumn<bool>("hide");
-    QTest::newRow("hidden") << true;
-    QTest::newRow("disabled") << false;
+    addRow("hidden", true);
+    addRow("disabled", false);
 }
 
-void TestJxLineEdit::tellsWhenItIsHiddenOrDisabledWithTheFocus()
+void TestJxLineEdit::emitsWhenItIsHiddenOrDisabledWithTheFocus()
 {
     QFETCH(bool, hide);
     Window window;

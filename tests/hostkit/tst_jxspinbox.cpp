@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "inputevents.h"
+#include "support/inputevents.h"
 #include "support/stricttest.h"
 
 #include <jxspinbox.h>
@@ -28,9 +28,9 @@ private Q_SLOTS:
 void TestJxSpinBox::wheelOverUnfocusedBoxScrollsTheAreaAroundIt_data()
 {
     QTest::addColumn<int>("policy");
-    QTest::newRow("as created") << int(Qt::StrongFocus);
-    QTest::newRow("focus by click only") << int(Qt::ClickFocus);
-    QTest::newRow("no focus at all") << int(Qt::NoFocus);
+    addRow("as created", int(Qt::StrongFocus));
+    addRow("focus by click only", int(Qt::ClickFocus));
+    addRow("no focus at all", int(Qt::NoFocus));
 }
 
 void TestJxSpinBox::wheelOverUnfocusedBoxScrollsTheAreaAroundIt()

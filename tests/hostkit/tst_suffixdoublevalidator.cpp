@@ -17,7 +17,7 @@ class TestSuffixDoubleValidator : public StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup() { QLocale::setDefault(QLocale::c()); }
+    void cleanup() override { QLocale::setDefault(QLocale::c()); }
 
     void judgesAWidth_data();
     void judgesAWidth();
@@ -264,16 +264,15 @@ void TestSuffixDoubleValidator::numbersBeyondADoubleAreJudgedByTheirSize_data()
     const QString large(400, QLatin1Char('9'));
     const QString small = QStringLiteral("0.") + QString(400, QLatin1Char('0')) + QLatin1Char('1');
     const QLatin1Char minus('-');
-    QTest::newRow("large, boundless") << -infinite << infinite << large << acceptable;
-    QTest::newRow("large negative, boundless")
-        << -infinite << infinite << minus + large << acceptable;
-    QTest::newRow("large, bounded") << -1e308 << 1e308 << large << invalid;
-    QTest::newRow("large negative, bounded") << -1e308 << 1e308 << minus + large << invalid;
-    QTest::newRow("small") << -1.0 << 1.0 << small + inches << acceptable;
-    QTest::newRow("small negative") << -1.0 << 1.0 << minus + small << acceptable;
-    QTest::newRow("small, zero excluded") << 0.5 << 1.0 << small << intermediate;
-    QTest::newRow("small negative, zero excluded") << -1.0 << -0.5 << minus + small << intermediate;
-    QTest::newRow("small, negative numbers only") << -1.0 << -0.5 << small << invalid;
+    addRow("large, boundless", -infinite, infinite, large, acceptable);
+    addRow("large negative, boundless", -infinite, infinite, minus + large, acceptable);
+    addRow("large, bounded", -1e308, 1e308, large, invalid);
+    addRow("large negative, bounded", -1e308, 1e308, minus + large, invalid);
+    addRow("small", -1.0, 1.0, small + inches, acceptable);
+    addRow("small negative", -1.0, 1.0, minus + small, acceptable);
+    addRow("small, zero excluded", 0.5, 1.0, small, intermediate);
+    addRow("small negative, zero excluded", -1.0, -0.5, minus + small, intermediate);
+    addRow("small, negative numbers only", -1.0, -0.5, small, invalid);
 }
 
 void TestSuffixDoubleValidator::numbersBeyondADoubleAreJudgedByTheirSize()
@@ -292,15 +291,15 @@ void TestSuffixDoubleValidator::hugeTextsAreJudgedQuickly_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QValidator::State>("state");
     constexpr int huge = 1 << 20;
-    QTest::newRow("nines") << QString(huge, QLatin1Char('9')) << invalid;
-    QTest::newRow("zeros") << QString(huge, QLatin1Char('0')) << acceptable;
-    QTest::newRow("zeros before a number")
-        << QString(huge, QLatin1Char('0')) + QStringLiteral("12.5 in") << acceptable;
-    QTest::newRow("decimals") << QStringLiteral("0.") + QString(huge, QLatin1Char('1')) << invalid;
-    QTest::newRow("letters") << QString(huge, QLatin1Char('x')) << invalid;
-    QTest::newRow("blanks") << QString(huge, QLatin1Char(' ')) << invalid;
-    QTest::newRow("points") << QString(huge, QLatin1Char('.')) << invalid;
-    QTest::newRow("minus signs") << QString(huge, QLatin1Char('-')) << invalid;
+    addRow("nines", QString(huge, QLatin1Char('9')), invalid);
+    addRow("zeros", QString(huge, QLatin1Char('0')), acceptable);
+    addRow("zeros before a number", QString(huge, QLatin1Char('0')) + QStringLiteral("12.5 in"),
+           acceptable);
+    addRow("decimals", QStringLiteral("0.") + QString(huge, QLatin1Char('1')), invalid);
+    addRow("letters", QString(huge, QLatin1Char('x')), invalid);
+    addRow("blanks", QString(huge, QLatin1Char(' ')), invalid);
+    addRow("points", QString(huge, QLatin1Char('.')), invalid);
+    addRow("minus signs", QString(huge, QLatin1Char('-')), invalid);
 }
 
 void TestSuffixDoubleValidator::hugeTextsAreJudgedQuickly()
