@@ -9,10 +9,10 @@
 
 namespace SampleHost {
 
-/** One record: what a GHS label says of a substance or solution. */
+/** One record: the contents of the GHS label of a substance or solution. */
 struct Chemical
 {
-    /** The product's name as the label shows it. */
+    /** The product's name as shown on the label. */
     QString name;
     /** The CAS registry number, for example "67-64-1". */
     QString casNumber;

@@ -22,8 +22,8 @@ public:
     /**
      * Reads a table of chemicals: UTF-8, one line each, eight columns separated by tabs (name, CAS
      * number, formula, UN number, signal word, hazard codes, precaution codes, pictograms), codes
-     * separated by blanks, "-" for a column without a value, the first line for the titles. Lines
-     * without exactly eight columns are left out; their 1-based numbers are appended to badLines
+     * separated by spaces, "-" for a column without a value, the titles in the first line. Lines
+     * without exactly eight columns are skipped; their 1-based numbers are appended to badLines
      * unless that is null.
      */
     static QList<Chemical> parse(const QByteArray& table, QList<int>* badLines = nullptr);

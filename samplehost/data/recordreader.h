@@ -56,7 +56,7 @@ private:
 
     std::shared_ptr<const RecordSource> m_source;
     Purpose m_purpose;
-    // Stands on the record that was read last.
+    // Positioned on the record that was read last.
     std::optional<QSqlQuery> m_query;
     QElapsedTimer m_queryTime;
     // The record that was read last, or why it cannot be read: with a locked database each attempt

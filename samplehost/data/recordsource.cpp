@@ -22,7 +22,7 @@ namespace SampleHost {
 
 namespace {
 
-// Long enough for another program's short write, short enough that the window does not seem dead.
+// Long enough for a short write by another program, short enough to keep the window responsive.
 const QString sqliteOptions = QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=1000");
 
 bool report(QString* error, const QString& text)
@@ -38,7 +38,7 @@ bool isSqlite(const DataSourceOptions& options)
     return options.driver == QLatin1String("QSQLITE");
 }
 
-// The options with every default filled in that depends on the system.
+// Fills in the defaults that depend on the system.
 DataSourceOptions resolved(DataSourceOptions options)
 {
     if (isSqlite(options)) {
@@ -49,7 +49,7 @@ DataSourceOptions resolved(DataSourceOptions options)
     return options;
 }
 
-// Databases that can be asked for one row by its number. The way to do so is not standard SQL.
+// Whether the database supports LIMIT and OFFSET, which are not standard SQL.
 bool hasLimitClause(const QString& driver)
 {
     static const QStringList drivers{QStringLiteral("QSQLITE"), QStringLiteral("QPSQL"),
@@ -93,7 +93,7 @@ RecordSource::RecordSource(const DataSourceOptions& options)
 RecordSource::~RecordSource()
 {
     const QString connection = m_database.connectionName();
-    // The last handle must be gone before the connection is removed.
+    // A connection must not be in use when it is removed.
     m_database = QSqlDatabase();
     QSqlDatabase::removeDatabase(connection);
 }
@@ -134,7 +134,7 @@ QString RecordSource::description() const
     if (isSqlite(m_options)) {
         place = QDir::toNativeSeparators(place);
     } else if (place.contains(QLatin1Char('='))) {
-        // A connection string, in which a password may stand.
+        // A connection string, which may contain a password.
         place = m_options.driver;
     }
     if (!isSqlite(m_options) && !m_options.hostName.isEmpty()) {
@@ -149,7 +149,7 @@ QString RecordSource::explain(const QString& reason) const
         .arg(description(), reason.simplified());
 }
 
-// An open SQLite file that was replaced by another one would go on answering from the old one.
+// Closes a file that was replaced; otherwise SQLite would continue to read the old one.
 void RecordSource::closeReplaced() const
 {
     const QFileInfo file(m_options.databaseName);
@@ -160,8 +160,8 @@ void RecordSource::closeReplaced() const
     }
 }
 
-// Opens the connection again after it was lost. An open SQLite file that was deleted would go on
-// answering from the deleted file, so its path is looked at each time.
+// Reopens the connection if it was lost. SQLite would continue to read a file that was deleted, so
+// its path is checked each time.
 bool RecordSource::ensureOpen(QString* error) const
 {
     const QFileInfo file(m_options.databaseName);
@@ -182,15 +182,15 @@ bool RecordSource::ensureOpen(QString* error) const
 bool RecordSource::checkTable(QString* error) const
 {
     QSqlQuery query(m_database);
-    // Asks for the columns alone; a server need not send a row for this.
+    // Only the columns are needed, so no row is selected.
     const QString statement =
         QStringLiteral("SELECT * FROM %1 WHERE 1 = 0").arg(escaped(m_database, m_options.table));
     if (!run(query, statement, error)) {
         return false;
     }
-    const QStringList wanted = QStringList(QStringLiteral("id")) + chemicalColumns();
+    const QStringList required = QStringList(QStringLiteral("id")) + chemicalColumns();
     const QSqlRecord columns = query.record();
-    for (const QString& column : wanted) {
+    for (const QString& column : required) {
         if (!columns.contains(column)) {
             return report(error, explain(QStringLiteral("it has no column \"%1\".").arg(column)));
         }
@@ -204,7 +204,7 @@ bool RecordSource::run(QSqlQuery& query, const QString& statement, QString* erro
         return true;
     }
     report(error, explain(query.lastError().text()));
-    // The next call starts over with a new connection: a server that went away may be back by then.
+    // The next call opens a new connection: the server may be available again by then.
     query.finish();
     m_database.close();
     return false;
@@ -261,8 +261,8 @@ bool RecordSource::select(QSqlQuery& query, int first, int count, QString* error
     if (!run(query, statement, error)) {
         return false;
     }
-    // One step leads to the first row of the answer. (QSqlQuery::seek() would do for the rows to be
-    // skipped, but crashes on the largest index.)
+    // The first call of next() moves to the first row. (QSqlQuery::seek() would skip rows as well,
+    // but crashes for the largest index.)
     bool found = first >= 0 && query.next();
     for (int row = 0; found && !skipsRows && row < first; ++row) {
         found = query.next();

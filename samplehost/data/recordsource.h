@@ -20,14 +20,14 @@ QT_END_NAMESPACE
 
 namespace SampleHost {
 
-/** Where the records come from. The defaults name the embedded database. */
+/** Where the records are read from. The default is the embedded database. */
 struct DataSourceOptions
 {
     /** Name of the Qt SQL driver, for example "QSQLITE" or "QPSQL". */
     QString driver = QStringLiteral("QSQLITE");
     /** The database server; not used with SQLite. */
     QString hostName;
-    /** The server's port; -1 for the driver's own. */
+    /** The server's port; -1 for the driver's default. */
     int port = -1;
     /** Path of the SQLite file (empty: RecordSource::defaultDatabasePath()), or the server's
      * database. */
@@ -39,15 +39,15 @@ struct DataSourceOptions
     /**
      * The table with the records. Columns: id (sets the order), name, cas_number, formula,
      * un_number, signal_word, hazard_codes, precaution_codes, pictograms; codes separated by
-     * blanks, commas or semicolons.
+     * spaces, commas or semicolons.
      */
     QString table = QStringLiteral("chemicals");
 };
 
 /**
- * The records of a database, read afresh at each call; a RecordReader reads many of them. The
- * source never writes to a database that it finds; a SQLite file that does not exist is created
- * from the seed. Needs a QCoreApplication, and is used in the thread that opened it.
+ * The records of a database. Each call reads from the database; use a RecordReader to read many
+ * records. The source never writes to an existing database; a SQLite file that does not exist is
+ * created from the seed. Needs a QCoreApplication, and must be used in the thread that opened it.
  */
 class RecordSource
 {
@@ -60,10 +60,10 @@ public:
     static std::unique_ptr<RecordSource> open(const DataSourceOptions& options,
                                               QString* error = nullptr);
 
-    /** Where the embedded database lies when no path is given: in the application's data folder. */
+    /** The path of the embedded database, in the application's data folder, if none is given. */
     static QString defaultDatabasePath();
 
-    /** The SQLite file that options name, with its whole path; empty for a server. */
+    /** The absolute path of the SQLite file that options name; empty for a server. */
     static QString filePath(const DataSourceOptions& options);
 
     /** Closes the connection. */
@@ -93,14 +93,14 @@ private:
     bool ensureOpen(QString* error) const;
     bool checkTable(QString* error) const;
     bool run(QSqlQuery& query, const QString& statement, QString* error) const;
-    // Starts a query for count records from the one at the index first, where it then stands.
+    // Executes a query for count records and positions it on the first of them.
     bool select(QSqlQuery& query, int first, int count, QString* error) const;
     static Chemical chemicalFrom(const QSqlQuery& query);
     QString explain(const QString& reason) const;
 
     DataSourceOptions m_options;
     mutable QSqlDatabase m_database;
-    // When the open SQLite file was made and last touched, by which another one in its place shows.
+    // When the open SQLite file was created and last changed; differs if the file was replaced.
     mutable QPair<QDateTime, QDateTime> m_fileTimes;
 };
 

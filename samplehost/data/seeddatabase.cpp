@@ -52,7 +52,7 @@ bool insertChemical(QSqlQuery& insert, const Chemical& chemical)
                              chemical.precautionCodes.join(blank),
                              chemical.pictograms.join(blank)};
     for (int i = 0; i < values.size(); ++i) {
-        // A null string would be stored as NULL, which says "not known" instead of "none".
+        // A null string would be stored as NULL, which means "unknown" instead of "none".
         insert.bindValue(i, values.at(i).isNull() ? QString(QLatin1String("")) : values.at(i));
     }
     return insert.exec();
@@ -76,8 +76,8 @@ bool insertChemicals(QSqlDatabase& database, const QString& table, const QList<C
     return inserted || report(reason, insert.lastError().text());
 }
 
-// Fills the file at path, which may exist but must be empty. Queries end before their connection is
-// removed, as Qt demands.
+// Fills the file at path, which must be empty if it exists. Queries must be destroyed before their
+// connection is removed.
 bool fillFile(const QString& path, const QString& table, const QList<Chemical>& chemicals,
               QString* reason)
 {
@@ -88,7 +88,7 @@ bool fillFile(const QString& path, const QString& table, const QList<Chemical>& 
         database.setDatabaseName(path);
         if (database.open() && database.transaction()) {
             const QString name = database.driver()->escapeIdentifier(table, QSqlDriver::TableName);
-            // A connection knows nothing of what its queries failed at.
+            // The connection does not report the errors of its queries.
             filled = createTable(database, name, reason) &&
                      insertChemicals(database, name, chemicals, reason) && database.commit();
         }
@@ -128,16 +128,16 @@ bool createSeedDatabase(const QString& path, const QString& table, const QList<C
     if (!QDir().mkpath(folder)) {
         return report(error, problem + QStringLiteral(": its folder cannot be made."));
     }
-    // Filled under another name and renamed when complete: a crash on the way leaves no half-made
-    // database behind that the next start would take for a good one.
+    // The file is renamed when it is complete, so that a crash does not leave an incomplete
+    // database, which the next start would use.
     const QString draft = path + QLatin1Char('.') + uniqueSuffix();
     QString reason;
     if (!fillFile(draft, table, chemicals, &reason)) {
         QFile::remove(draft);
         return report(error, problem + QStringLiteral(": ") + reason);
     }
-    // rename() never replaces a file. If one appeared meanwhile, another start of the program was
-    // faster, and its database is as good as ours.
+    // rename() never replaces a file. If the file exists by now, another instance of the program
+    // has created the same database.
     if (!QFile::rename(draft, path)) {
         QFile::remove(draft);
         if (!QFileInfo::exists(path)) {

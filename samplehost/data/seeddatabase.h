@@ -14,13 +14,13 @@ namespace SampleHost {
 /** The columns of a table of chemicals that hold a record, in the order of Chemical's members. */
 QStringList chemicalColumns();
 
-/** A connection name that no other call has returned. */
+/** A unique connection name. */
 QString uniqueConnectionName();
 
 /**
- * Creates a SQLite file with the given table and chemicals, folders included. The file appears
- * whole or not at all, and a file that is already there is left as it is, which counts as success.
- * False, with the reason in error unless that is null, when the file cannot be made.
+ * Creates a SQLite file with the given table and chemicals, and its folders. The file is created
+ * completely or not at all. An existing file is not changed, which counts as success. Returns
+ * false, with the reason in error unless that is null, if the file cannot be created.
  */
 bool createSeedDatabase(const QString& path, const QString& table, const QList<Chemical>& chemicals,
                         QString* error);

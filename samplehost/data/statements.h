@@ -11,15 +11,13 @@ namespace SampleHost {
 
 /**
  * The standard wording of a hazard or precautionary statement, for example "Highly flammable liquid
- * and vapour." for "H225". Combined codes ("P305+P351+P338") have a wording of their own. Where the
- * standard leaves a place for the supplier to fill in, it is filled in for laboratory use. A code
- * that is not known gives an empty string.
+ * and vapour." for "H225". Combined codes ("P305+P351+P338") have their own wording. Text that
+ * the standard leaves to the supplier is filled in for laboratory use. Empty for an unknown code.
  */
 QString statementWording(const QString& code);
 
 /**
- * One line for each code, in the given order: code, blank, wording. A code that is not known stands
- * alone.
+ * One line for each code, in the given order: code, space, wording. An unknown code has no wording.
  */
 QStringList statementLines(const QStringList& codes);
 

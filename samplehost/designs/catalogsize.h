@@ -12,11 +12,11 @@ namespace SampleHost {
 /** The sizes, length by width, in which catalogue items can be printed. */
 namespace CatalogSize {
 
-/** The minimum of both sides in millimetres. */
+/** The minimum length and width in millimetres. */
 constexpr double minimumMm = 10.0;
-/** The maximum length in millimetres, which is cut off a roll. */
+/** The maximum length in millimetres of a piece that is cut from a roll. */
 constexpr double maximumLengthMm = 914.4;
-/** The maximum width in millimetres, which is that of the widest roll. */
+/** The width of the widest roll in millimetres. */
 constexpr double maximumWidthMm = 304.8;
 
 /**

@@ -13,12 +13,12 @@ LabelPainter turnedPainter(LabelPainter paint)
 {
     return [paint = std::move(paint)](QPainter& painter, const QRectF& area, int record,
                                       QString& problem) {
-        QRectF lying(QPointF(), area.size().transposed());
-        lying.moveCenter(QPointF());
+        QRectF rotated(QPointF(), area.size().transposed());
+        rotated.moveCenter(QPointF());
         painter.save();
         painter.translate(area.center());
         painter.rotate(-90);
-        const bool painted = paint(painter, lying, record, problem);
+        const bool painted = paint(painter, rotated, record, problem);
         painter.restore();
         return painted;
     };

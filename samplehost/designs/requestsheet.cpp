@@ -15,7 +15,7 @@ namespace SampleHost {
 
 namespace {
 
-// The number of lines that stays legible when the preview is scaled down.
+// The number of lines per image that is legible when the preview is scaled down.
 constexpr int problemLines = 20;
 
 } // namespace

@@ -13,7 +13,7 @@ namespace SampleHost {
 
 /** The picture on a catalogue item. */
 enum class CatalogSymbol {
-    Arrow,        ///< The way out.
+    Arrow,        ///< An arrow to the exit.
     NoSmoking,    ///< A cigarette in a prohibition ring.
     EyeWash,      ///< An eye over two jets of water.
     FirstAid,     ///< A cross.
@@ -23,10 +23,10 @@ enum class CatalogSymbol {
     Pictogram     ///< The GHS pictogram that the item names.
 };
 
-/** A finished sign or hazard label that is sold as it is, in sizes of the buyer's choice. */
+/** A ready-made sign or hazard label, which is sold in sizes that the buyer chooses. */
 struct CatalogItem
 {
-    /** What the sign says, in capitals; the item's name as well. */
+    /** The text of the sign, in capitals, which is also the name of the item. */
     QString text;
     /** The signal word in the band at the top, "DANGER"; empty without a band. */
     QString header;
@@ -48,7 +48,7 @@ struct CatalogItem
 /** The items of the sample. Their texts differ. */
 const QList<CatalogItem>& catalogItems();
 
-/** The 0-based index of the item with this text, whatever the case; -1 without one. */
+/** The 0-based index of the item with this text, ignoring case; -1 if there is none. */
 int catalogIndexOf(const QString& text);
 
 } // namespace SampleHost

@@ -15,19 +15,19 @@ namespace SampleHost {
 
 namespace {
 
-// Fine units let texts come close to the size that would fit best.
+// Font sizes are whole units, so small units allow sizes close to the best one.
 constexpr qreal unitsPerMm = 100.0;
-// Of the shorter side.
+// Fractions of the shorter side.
 constexpr qreal insetShare = 0.03;
 constexpr qreal frameShare = 0.012;
 constexpr qreal paddingShare = 0.06;
-// Of the height of a sign that has a band.
+// A fraction of the height of the sign.
 constexpr qreal headerShare = 0.27;
-// From this width on, in heights, the symbol stands beside the text.
+// The ratio of width to height above which the symbol is beside the text.
 constexpr qreal wide = 1.25;
 
-// An upper bound that a line break rather than the longest word decides on: bold capitals are less
-// than two thirds of their size wide on average.
+// An upper bound for the font size, so that the longest word is not broken: the average width of
+// bold capitals is less than two thirds of their size.
 qreal largestText(const QString& text, const QSizeF& size)
 {
     qsizetype longest = 1;
@@ -46,7 +46,7 @@ void paintText(QPainter& painter, const QRectF& area, const QString& words, cons
     text.paint(painter, area, largestText(words, area.size()), Qt::AlignCenter);
 }
 
-// Takes the band off the top of body.
+// Paints the band at the top of body and removes it from body.
 void paintHeader(QPainter& painter, QRectF& body, const CatalogItem& item)
 {
     if (item.header.isEmpty()) {
@@ -70,7 +70,7 @@ void paintBody(QPainter& painter, const QRectF& body, const CatalogItem& item, q
         symbol.setWidth(std::min(room.height(), room.width() * 0.4));
         text.setLeft(symbol.right() + padding);
     } else {
-        // On a very high sign both stay together in the middle.
+        // On a very high sign both are kept together in the middle.
         symbol.setHeight(std::min(room.width(), room.height() * 0.62));
         const qreal rest = room.height() - symbol.height() - padding / 2;
         text.setHeight(std::min(rest, room.width() * 0.75));

@@ -15,10 +15,10 @@ QT_END_NAMESPACE
 namespace SampleHost {
 
 /**
- * Paints an item over all of target, which is in the painter's coordinates and stands for sizeMm
- * (millimetres). The item is laid out anew for each size: wide ones have the symbol beside the
- * text, high ones above it. The painter's state is restored. An empty target or size, or an
- * inactive painter, paints nothing.
+ * Paints an item that fills target, which is in the painter's coordinates and represents sizeMm
+ * (millimetres). The symbol of a wide item is beside the text, that of a high one above it.
+ * Restores the painter's state. Paints nothing if target or size is empty or the painter is
+ * inactive.
  */
 void paintCatalogItem(QPainter& painter, const QRectF& target, const CatalogItem& item,
                       const QSizeF& sizeMm);

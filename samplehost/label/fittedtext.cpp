@@ -18,7 +18,7 @@ namespace {
 constexpr qreal statementSpace = 0.22;
 constexpr qreal headingSpace = 0.55;
 
-// Down to this part of the largest size a text shrinks to keep its longest word whole.
+// The smallest fraction of the largest size at which words are kept whole.
 constexpr qreal smallestWholeWords = 0.25;
 
 QList<QTextLayout::FormatRange> formats(int boldLength, const QColor& color, int length)
@@ -95,12 +95,12 @@ private:
 
 FittedText::FittedText(const QFont& font) : m_font(font)
 {
-    // Hinting rounds a glyph's width to the pixels of one device; the same lines must break at the
-    // same places on all of them.
+    // Hinting rounds the widths of glyphs to the pixels of a device, but lines must break at the
+    // same places on all devices.
     m_font.setHintingPreference(QFont::PreferNoHinting);
     m_font.setBold(false);
-    // Letters that are spaced, be it by next to nothing, form no ligatures. A PDF file would hold
-    // one character for "fl", and searching it for "flammable" would find nothing.
+    // Letter spacing, however small, disables ligatures. With a ligature for "fl", searching a PDF
+    // file for "flammable" would find nothing.
     m_font.setLetterSpacing(QFont::AbsoluteSpacing, 0.02);
 }
 

@@ -18,8 +18,8 @@ namespace SampleHost {
 
 /**
  * Paragraphs that are painted as large as their rectangle allows. Lengths are in the painter's
- * units; the units should be small against the text (a font has a whole number of them), as 0.01 mm
- * is.
+ * units, which should be small compared to the text, for example 0.01 mm, because font sizes are
+ * whole numbers.
  */
 class FittedText
 {
@@ -30,7 +30,7 @@ public:
     /** Appends a paragraph, bold or plain, in the painter's pen colour. */
     void addParagraph(const QString& text, bool bold = false);
 
-    /** Appends a bold paragraph in a colour of its own, set off from the paragraph before it. */
+    /** Appends a bold paragraph in its own colour, with space above it. */
     void addHeading(const QString& text, const QColor& color);
 
     /** Appends a paragraph whose first word, a statement's code, is bold. */
@@ -41,8 +41,8 @@ public:
 
     /**
      * The largest font size, in whole units from 1 to maximum, at which all lines fit into size; 1
-     * if none does. Lines break between words; only a text that would become tiny for the sake of a
-     * very long word breaks within words.
+     * if none does. Lines break between words; they break within words only if a very long word
+     * would make the text too small.
      */
     int fittingSize(const QSizeF& size, qreal maximum) const;
 

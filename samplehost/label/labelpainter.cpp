@@ -33,7 +33,7 @@ constexpr qreal largestIdentifier = 250;
 constexpr qreal largestSignalWord = 420;
 constexpr qreal largestStatement = 290;
 
-/** Where the parts of a label lie. */
+/** The positions of the parts of a label. */
 struct LabelLayout
 {
     QRectF frame;
@@ -165,7 +165,7 @@ void paintPictograms(QPainter& painter, const QRectF& area, const QStringList& n
     for (int i = 0; i < count; ++i) {
         const int row = i / columns;
         const int inRow = std::min(columns, count - row * columns);
-        // A last row that is not full stands in the middle.
+        // An incomplete last row is centered.
         const qreal left = area.center().x() + (i % columns - inRow / 2.0) * side;
         paintPictogram(painter, QRectF(left, area.top() + row * side, side, side), names.at(i));
     }

@@ -19,7 +19,7 @@ namespace SampleHost {
 /** How a GHS label is laid out. */
 struct LabelOptions
 {
-    /** Whether the user's background layer (a pale company watermark) lies under the label. */
+    /** Whether the user's background layer (a pale company watermark) is painted. */
     bool userBackground = false;
     /** Whether the label is wider than high. */
     bool landscape = true;
@@ -32,10 +32,9 @@ QSizeF labelSizeMm(const LabelOptions& options);
 /**
  * Paints the GHS label of a chemical: name, CAS and UN numbers, signal word, pictograms, hazard and
  * precautionary statements with their wording. The label keeps its proportions and is scaled to fit
- * the middle of target, which is in the painter's coordinates; its texts shrink until they fit.
- * Only the label's background is not painted: the paper shows through. The painter's state is
- * restored. An empty target or an inactive painter paints nothing; fields without a value leave
- * their place free.
+ * the middle of target, which is in the painter's coordinates; its texts shrink until they fit. The
+ * background is transparent. Restores the painter's state. Paints nothing if target is empty or the
+ * painter is inactive; the places of fields without a value stay empty.
  */
 void paintLabel(QPainter& painter, const QRectF& target, const Chemical& chemical,
                 const LabelOptions& options = LabelOptions());

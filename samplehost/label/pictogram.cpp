@@ -47,7 +47,7 @@ void paintNamedDiamond(QPainter& painter, const QRectF& square, const QString& n
 
 bool hasPictogram(const QString& name)
 {
-    // A name comes from the user's data, and must not reach other files.
+    // The name comes from the user's data and must not refer to other files.
     static const QRegularExpression shape(QStringLiteral("^[A-Za-z0-9]+$"));
     return shape.match(name).hasMatch() && QFile::exists(pictureFile(name));
 }

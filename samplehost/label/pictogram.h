@@ -18,7 +18,7 @@ bool hasPictogram(const QString& name);
 
 /**
  * Paints the named pictogram as large as fits into the middle of area. A name without a picture is
- * painted as a red diamond with the name in it, so that no hazard goes missing silently.
+ * painted as a red diamond with the name in it, so that no hazard is omitted.
  */
 void paintPictogram(QPainter& painter, const QRectF& area, const QString& name);
 

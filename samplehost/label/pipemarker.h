@@ -10,7 +10,7 @@
 
 namespace SampleHost {
 
-/** What of a pipe marker is printed. The values are those of the panel's "Item To Print". */
+/** The part of a pipe marker that is printed. The values are those of "Item To Print". */
 namespace PipeItem {
 constexpr int Label = 0;        ///< The whole marker.
 constexpr int HighPressure = 1; ///< The tag "HIGH".
@@ -22,9 +22,9 @@ constexpr int LiquidState = 8;  ///< The tag "LIQ".
 /** A marker for one kind of pipe. */
 struct PipeMarker
 {
-    /** What flows in the pipe, in capitals: "AMMONIA", "CHILLED WATER SUPPLY". */
+    /** The content of the pipe, in capitals: "AMMONIA", "CHILLED WATER SUPPLY". */
     QString content;
-    /** The line's service in words, "High Pressure Liquid"; empty when the content says it all. */
+    /** The line's service in words, "High Pressure Liquid"; empty if the content is enough. */
     QString service;
     /** The short name of the line on the marker, "HPL"; may be empty. */
     QString abbreviation;
@@ -37,7 +37,7 @@ struct PipeMarker
     /** Colour of the legend on it. */
     QColor legend = Qt::black;
 
-    /** The name for lists: content, then abbreviation and service as far as there are any. */
+    /** The name for lists: content, abbreviation and service, except empty ones. */
     QString title() const;
 };
 

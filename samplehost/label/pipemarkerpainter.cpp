@@ -14,7 +14,7 @@ namespace SampleHost {
 
 namespace {
 
-// A marker is painted this many units high, whatever its size.
+// The height of a marker in the painter's units, independent of its size.
 constexpr qreal unitHeight = 1000;
 // Height of the field and length of a tag, in heights of the legend's letters and of the field.
 constexpr qreal fieldPerLetter = 2.2;
@@ -133,7 +133,7 @@ void paintContent(QPainter& painter, const QRectF& area, const PipeMarker& marke
               marker.legend);
 }
 
-// Takes a strip of the given width off the left of rest.
+// Removes a strip of the given width from the left of rest.
 QRectF takeLeft(QRectF& rest, qreal width)
 {
     const QRectF strip(rest.topLeft(), QSizeF(width, rest.height()));
@@ -141,7 +141,7 @@ QRectF takeLeft(QRectF& rest, qreal width)
     return strip;
 }
 
-// Takes a strip of the given width off the right of rest.
+// Removes a strip of the given width from the right of rest.
 QRectF takeRight(QRectF& rest, qreal width)
 {
     const QRectF strip(rest.right() - width, rest.top(), width, rest.height());
@@ -170,8 +170,8 @@ void paintWholeMarker(QPainter& painter, const QRectF& area, const PipeMarker& m
     paintContent(painter, rest.adjusted(height * 0.06, 0, -height * 0.06, 0), marker);
 }
 
-// What the parts beside content and arrow add to a marker's length, in heights of the field: the
-// content of an ammonia line gets as much room as that of any other pipe.
+// The length of the parts beside content and arrow, in heights of the field. It is added, so that
+// the content of an ammonia line has as much space as that of any other pipe.
 qreal addedLength(const PipeMarker& marker)
 {
     return (marker.tags & stateTags ? bandWidth : 0) +

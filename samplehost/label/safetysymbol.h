@@ -15,8 +15,8 @@ QT_END_NAMESPACE
 namespace SampleHost {
 
 /**
- * Paints the symbol of an item as large as fits into the middle of area. Symbols without colours of
- * their own are painted in the item's legend colour. The painter's state is restored.
+ * Paints the symbol of an item as large as fits into the middle of area. Symbols without their own
+ * colours are painted in the item's legend colour. Restores the painter's state.
  */
 void paintSafetySymbol(QPainter& painter, const QRectF& area, const CatalogItem& item);
 

@@ -18,8 +18,8 @@ namespace SampleHost {
 QRectF squareIn(const QRectF& area);
 
 /**
- * Paints an SVG file, a resource of this library, as large as fits into the middle of area. What
- * has the color "currentColor" in the file is painted in color.
+ * Paints an SVG file, a resource of this library, as large as fits into the middle of area. The
+ * colour "currentColor" in the file is replaced by color.
  */
 void paintSvgPicture(QPainter& painter, const QRectF& area, const QString& file,
                      const QColor& color = Qt::black);

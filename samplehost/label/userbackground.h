@@ -13,8 +13,8 @@ QT_END_NAMESPACE
 namespace SampleHost {
 
 /**
- * Paints what a user keeps under every label, here a pale company watermark from corner to corner
- * of area. It is painted as shapes, so that it never mixes with the label's text in a PDF file.
+ * Paints a user's background layer, a pale company watermark from corner to corner of area. It is
+ * painted as shapes, so that it is not part of the label's text in a PDF file.
  */
 void paintUserBackground(QPainter& painter, const QRectF& area);
 

@@ -26,7 +26,7 @@ public:
     /** Shows a sheet of sheetMm (millimetres). An empty size, or no function, shows no sheet. */
     void setSheet(const QSizeF& sheetMm, Paint paint);
 
-    /** Where the paper lies in the view; empty without a sheet. */
+    /** The rectangle of the paper in the view; empty without a sheet. */
     QRectF paperRect() const;
 
     QSize sizeHint() const override;

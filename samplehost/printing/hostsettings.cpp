@@ -14,7 +14,7 @@ namespace SampleHost {
 
 namespace {
 
-// Not valid if the labels decide.
+// Invalid for Paper::LabelSize.
 QPageSize pageSizeOf(Paper paper)
 {
     switch (paper) {

@@ -11,12 +11,19 @@
 
 namespace SampleHost {
 
-PrintProgressDialog::PrintProgressDialog(PrintJob& job, QWidget* parent) : QProgressDialog(parent)
+PrintProgressDialog::PrintProgressDialog(PrintJob& job, QWidget* parent)
+    : QProgressDialog(parent), m_bar(findChild<QProgressBar*>())
 {
     setObjectName(QStringLiteral("printProgressDialog"));
     setWindowTitle(tr("Printing"));
     setAttribute(Qt::WA_DeleteOnClose);
-    createWidgets();
+    setMinimumWidth(360);
+    setMaximum(1000);
+    setCancelButtonText(tr("Cancel"));
+    m_bar->setObjectName(QStringLiteral("progressBar"));
+    m_bar->setTextVisible(false);
+    findChild<QLabel*>()->setObjectName(QStringLiteral("progressLabel"));
+    findChild<QPushButton*>()->setObjectName(QStringLiteral("cancelPrintButton"));
     showProgress(0, job.pageCount());
     // Starts the delay only if the value is the minimum.
     setMinimumDuration(showAfter);
@@ -26,22 +33,6 @@ PrintProgressDialog::PrintProgressDialog(PrintJob& job, QWidget* parent) : QProg
     // A job may also be destroyed with its owner, without having finished.
     connect(&job, &PrintJob::finished, this, &QObject::deleteLater);
     connect(&job, &QObject::destroyed, this, &QObject::deleteLater);
-}
-
-void PrintProgressDialog::createWidgets()
-{
-    auto* label = new QLabel;
-    label->setObjectName(QStringLiteral("progressLabel"));
-    setLabel(label);
-    m_bar = new QProgressBar;
-    m_bar->setObjectName(QStringLiteral("progressBar"));
-    m_bar->setTextVisible(false);
-    setBar(m_bar);
-    setMaximum(1000);
-    auto* button = new QPushButton(tr("Cancel"));
-    button->setObjectName(QStringLiteral("cancelPrintButton"));
-    setCancelButton(button);
-    setMinimumWidth(360);
 }
 
 void PrintProgressDialog::showProgress(qint64 pagesDone, qint64 pageCount)

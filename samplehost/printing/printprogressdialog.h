@@ -26,10 +26,9 @@ public:
     explicit PrintProgressDialog(PrintJob& job, QWidget* parent = nullptr);
 
 private:
-    void createWidgets();
     void showProgress(qint64 pagesDone, qint64 pageCount);
 
-    QProgressBar* m_bar = nullptr;
+    QProgressBar* m_bar;
 };
 
 } // namespace SampleHost

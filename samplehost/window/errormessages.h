@@ -12,8 +12,8 @@ namespace SampleHost {
 constexpr int lastPrintError = 25;
 
 /**
- * The text of a print error for the user: what happened and, except for number 0, what to do. A
- * number that stands for no error gives a text that says so.
+ * The text of a print error for the user: what happened and, except for number 0, what to do. For
+ * an unknown number, the text says so.
  */
 QString printErrorMessage(int number);
 

@@ -246,8 +246,14 @@ void TestPrinting::closingTheProgressCancels_data()
     QTest::addColumn<CloseDialog>("close");
     QTest::newRow("close") << CloseDialog([](PrintProgressDialog& dialog) { dialog.close(); });
     QTest::newRow("reject") << CloseDialog([](PrintProgressDialog& dialog) { dialog.reject(); });
-    QTest::newRow("Escape") << CloseDialog(
-        [](PrintProgressDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    // The shortcuts of an inactive window do nothing.
+    for (const bool active : {false, true}) {
+        QTest::newRow(active ? "Escape" : "Escape, inactive")
+            << CloseDialog([active](PrintProgressDialog& dialog) {
+                   QApplication::setActiveWindow(active ? &dialog : nullptr);
+                   QTest::keyClick(&dialog, Qt::Key_Escape);
+               });
+    }
 }
 
 void TestPrinting::closingTheProgressCancels()
