@@ -339,7 +339,7 @@ void TestHostFaultsDatabase::reloadWhilePrinting()
 
 void TestHostFaultsDatabase::databaseIsFreeBeforeAndAfterPrinting()
 {
-    FaultHost host;
+    FaultFixture host;
     const OtherProgram other(host.path("chemicals.db"));
     QVERIFY(other.run("PRAGMA busy_timeout = 0"));
     QVERIFY(host.choose(Printout::Labels));
@@ -353,7 +353,7 @@ void TestHostFaultsDatabase::databaseIsFreeBeforeAndAfterPrinting()
 
 void TestHostFaultsDatabase::deletedWhilePrinting()
 {
-    FaultHost host;
+    FaultFixture host;
     host.click("allRecordsRadio");
     host.panel().setNumberOfCopies(20);
     QSignalSpy ended(&host.labels().controller(), &PrintController::jobEnded);
