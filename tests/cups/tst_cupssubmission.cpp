@@ -58,10 +58,9 @@ void TestCupsSubmission::savedOptionsApply_data()
     QTest::addColumn<QString>("printer");
     QTest::addColumn<qsizetype>("sheets");
 
-    QTest::newRow("queue") << queueName() << qsizetype(2);
-    QTest::newRow("instance") << queueName() + QStringLiteral("/four") << qsizetype(1);
-    QTest::newRow("instance without options")
-        << queueName() + QStringLiteral("/other") << qsizetype(4);
+    addRow("queue", queueName(), qsizetype(2));
+    addRow("instance", queueName() + QStringLiteral("/four"), qsizetype(1));
+    addRow("instance without options", queueName() + QStringLiteral("/other"), qsizetype(4));
 }
 
 void TestCupsSubmission::savedOptionsApply()

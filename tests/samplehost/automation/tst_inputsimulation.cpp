@@ -41,12 +41,12 @@ void TestInputSimulation::givesWhatTypingGives_data()
                                  "1, 2",       "all",        "1-2-3", "1\n2",    "\n", "12x3,4",
                                  "x12,3-4,,5", "1,2,x,3y,4", "\t7\b", "7\u007f8"};
     for (const char* text : texts) {
-        QTest::newRow(text) << QString::fromUtf8(text);
+        addRow(text, QString::fromUtf8(text));
     }
-    QTest::newRow("beyond ASCII") << QStringLiteral("1\u00e9\U0001f600,2\u200f");
-    QTest::newRow("bad at the end") << QStringLiteral("12,").repeated(200) + u'x';
-    QTest::newRow("bad at the start") << u'x' + QStringLiteral("12,").repeated(200);
-    QTest::newRow("too long") << QStringLiteral("1,").repeated(20000);
+    addRow("beyond ASCII", QStringLiteral("1\u00e9\U0001f600,2\u200f"));
+    addRow("bad at the end", QStringLiteral("12,").repeated(200) + u'x');
+    addRow("bad at the start", u'x' + QStringLiteral("12,").repeated(200));
+    addRow("too long", QStringLiteral("1,").repeated(20000));
 }
 
 void TestInputSimulation::givesWhatTypingGives()
@@ -94,10 +94,10 @@ void TestInputSimulation::spinBoxTakesWhatItAccepts_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("value");
-    QTest::newRow("valid") << QStringLiteral("120") << 120;
-    QTest::newRow("too large") << QStringLiteral("1234") << 123;
-    QTest::newRow("with a letter") << QStringLiteral("5x6") << 56;
-    QTest::newRow("letters") << QStringLiteral("many") << 8;
+    addRow("valid", "120", 120);
+    addRow("too large", "1234", 123);
+    addRow("with a letter", "5x6", 56);
+    addRow("letters", "many", 8);
 }
 
 void TestInputSimulation::spinBoxTakesWhatItAccepts()

@@ -194,9 +194,8 @@ void TestRecordReader::ascendingRecordsTakeOneQuery_data()
 {
     QTest::addColumn<QString>("driver");
     QTest::addColumn<QString>("end");
-    QTest::newRow("with a limit clause")
-        << QStringLiteral("QPSQL") << QStringLiteral(" LIMIT 2147483647 OFFSET 7");
-    QTest::newRow("without one") << QStringLiteral("OTHER") << QStringLiteral(" ORDER BY id");
+    addRow("with a limit clause", "QPSQL", " LIMIT 2147483647 OFFSET 7");
+    addRow("without one", "OTHER", " ORDER BY id");
 }
 
 void TestRecordReader::ascendingRecordsTakeOneQuery()

@@ -44,7 +44,7 @@ class TestPdfDocument : public StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init() override;
     void startsClosed();
     void opensDocuments_data();
     void opensDocuments();
@@ -105,9 +105,9 @@ void TestPdfDocument::startsClosed()
 void TestPdfDocument::opensDocuments_data()
 {
     QTest::addColumn<int>("pages");
-    QTest::newRow("1 page") << 1;
-    QTest::newRow("12 pages") << 12;
-    QTest::newRow("300 pages") << 300;
+    addRow("1 page", 1);
+    addRow("12 pages", 12);
+    addRow("300 pages", 300);
 }
 
 void TestPdfDocument::opensDocuments()
@@ -141,16 +141,15 @@ void TestPdfDocument::explainsWhatCannotBeOpened_data()
 
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("problem");
-    QTest::newRow("empty") << QByteArray() << QStringLiteral("The file \"%1\" is empty.");
-    QTest::newRow("garbage") << QByteArray(5000, '\xA7') << damaged;
-    QTest::newRow("a text") << QByteArray("Dear customer,\n") << damaged;
-    QTest::newRow("a header only") << QByteArray("%PDF-1.7\n") << damaged;
-    QTest::newRow("truncated") << halfOf(good) << damaged;
-    QTest::newRow("without its first half") << good.mid(good.size() / 2) << damaged;
-    QTest::newRow("password") << PdfSamples::encrypted(PdfSamples::form(), "secret", true)
-                              << QStringLiteral("The file \"%1\" is protected by a password.");
-    QTest::newRow("no pages") << PdfSamples::pages({})
-                              << QStringLiteral("The file \"%1\" has no pages.");
+    addRow("empty", QByteArray(), "The file \"%1\" is empty.");
+    addRow("garbage", QByteArray(5000, '\xA7'), damaged);
+    addRow("a text", QByteArray("Dear customer,\n"), damaged);
+    addRow("a header only", QByteArray("%PDF-1.7\n"), damaged);
+    addRow("truncated", halfOf(good), damaged);
+    addRow("without its first half", good.mid(good.size() / 2), damaged);
+    addRow("password", PdfSamples::encrypted(PdfSamples::form(), "secret", true),
+           "The file \"%1\" is protected by a password.");
+    addRow("no pages", PdfSamples::pages({}), "The file \"%1\" has no pages.");
 }
 
 void TestPdfDocument::explainsWhatCannotBeOpened()
@@ -208,25 +207,24 @@ void TestPdfDocument::tellsShownPageSizes_data()
 {
     QTest::addColumn<QByteArray>("entries");
     QTest::addColumn<QSizeF>("size");
-    QTest::newRow("plain") << QByteArray() << QSizeF(595, 842);
-    QTest::newRow("turned left") << QByteArray("/Rotate -90") << QSizeF(842, 595);
-    QTest::newRow("upside down") << QByteArray("/Rotate 180") << QSizeF(595, 842);
-    QTest::newRow("turned twice around") << QByteArray("/Rotate 810") << QSizeF(842, 595);
-    QTest::newRow("cropped") << QByteArray("/CropBox [ 100 200 400 600 ]") << QSizeF(300, 400);
-    QTest::newRow("cropped and turned")
-        << QByteArray("/Rotate 270 /CropBox [ 100 200 400 600 ]") << QSizeF(400, 300);
-    QTest::newRow("corners the other way round")
-        << QByteArray("/CropBox [ 400 600 100 200 ]") << QSizeF(300, 400);
-    QTest::newRow("crop reaching beyond the page")
-        << QByteArray("/CropBox [ -100 0 300 9000 ]") << QSizeF(300, 842);
-    QTest::newRow("crop beside the page")
-        << QByteArray("/CropBox [ 1000 1000 1100 1100 ]") << QSizeF(595, 842);
-    QTest::newRow("crop without area")
-        << QByteArray("/CropBox [ 100 100 100 400 ]") << QSizeF(595, 842);
-    QTest::newRow("crop of words") << QByteArray("/CropBox [ /a /b /c /d ]") << QSizeF(595, 842);
-    QTest::newRow("half a turn by words") << QByteArray("/Rotate /Half") << QSizeF(595, 842);
-    QTest::newRow("ten times the unit") << QByteArray("/UserUnit 10") << QSizeF(5950, 8420);
-    QTest::newRow("no unit") << QByteArray("/UserUnit 0") << QSizeF(595, 842);
+    addRow("plain", QByteArray(), QSizeF(595, 842));
+    addRow("turned left", QByteArray("/Rotate -90"), QSizeF(842, 595));
+    addRow("upside down", QByteArray("/Rotate 180"), QSizeF(595, 842));
+    addRow("turned twice around", QByteArray("/Rotate 810"), QSizeF(842, 595));
+    addRow("cropped", QByteArray("/CropBox [ 100 200 400 600 ]"), QSizeF(300, 400));
+    addRow("cropped and turned", QByteArray("/Rotate 270 /CropBox [ 100 200 400 600 ]"),
+           QSizeF(400, 300));
+    addRow("corners the other way round", QByteArray("/CropBox [ 400 600 100 200 ]"),
+           QSizeF(300, 400));
+    addRow("crop reaching beyond the page", QByteArray("/CropBox [ -100 0 300 9000 ]"),
+           QSizeF(300, 842));
+    addRow("crop beside the page", QByteArray("/CropBox [ 1000 1000 1100 1100 ]"),
+           QSizeF(595, 842));
+    addRow("crop without area", QByteArray("/CropBox [ 100 100 100 400 ]"), QSizeF(595, 842));
+    addRow("crop of words", QByteArray("/CropBox [ /a /b /c /d ]"), QSizeF(595, 842));
+    addRow("half a turn by words", QByteArray("/Rotate /Half"), QSizeF(595, 842));
+    addRow("ten times the unit", QByteArray("/UserUnit 10"), QSizeF(5950, 8420));
+    addRow("no unit", QByteArray("/UserUnit 0"), QSizeF(595, 842));
 }
 
 void TestPdfDocument::tellsShownPageSizes()
@@ -288,13 +286,13 @@ void TestPdfDocument::renderRefusesNonsense_data()
 {
     QTest::addColumn<int>("page");
     QTest::addColumn<QSize>("size");
-    QTest::newRow("page before the first") << -1 << QSize(10, 10);
-    QTest::newRow("page after the last") << 3 << QSize(10, 10);
-    QTest::newRow("no size") << 0 << QSize();
-    QTest::newRow("no width") << 0 << QSize(0, 10);
-    QTest::newRow("negative height") << 0 << QSize(10, -10);
-    QTest::newRow("very wide") << 0 << QSize(PdfDocument::longestSide + 1, 1);
-    QTest::newRow("very high") << 0 << QSize(1, 2147483647);
+    addRow("page before the first", -1, QSize(10, 10));
+    addRow("page after the last", 3, QSize(10, 10));
+    addRow("no size", 0, QSize());
+    addRow("no width", 0, QSize(0, 10));
+    addRow("negative height", 0, QSize(10, -10));
+    addRow("very wide", 0, QSize(PdfDocument::longestSide + 1, 1));
+    addRow("very high", 0, QSize(1, 2147483647));
 }
 
 void TestPdfDocument::renderRefusesNonsense()
@@ -317,16 +315,16 @@ void TestPdfDocument::tellsFormFields_data()
     };
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<bool>("fields");
-    QTest::newRow("form") << PdfSamples::form() << true;
-    QTest::newRow("form without appearances") << PdfSamples::formWithoutAppearances() << true;
-    QTest::newRow("plain pages") << PdfSamples::pages({{}, {}}) << false;
-    QTest::newRow("text") << documentWithField("/FT /Tx") << true;
-    QTest::newRow("choice") << documentWithField("/FT /Ch") << true;
-    QTest::newRow("check box") << documentWithField("/FT /Btn") << true;
-    QTest::newRow("radio button") << documentWithField("/FT /Btn /Ff 32768") << true;
-    QTest::newRow("push button") << documentWithField("/FT /Btn /Ff 65536") << false;
-    QTest::newRow("signature") << documentWithField("/FT /Sig") << false;
-    QTest::newRow("no type") << documentWithField("") << false;
+    addRow("form", PdfSamples::form(), true);
+    addRow("form without appearances", PdfSamples::formWithoutAppearances(), true);
+    addRow("plain pages", PdfSamples::pages({{}, {}}), false);
+    addRow("text", documentWithField("/FT /Tx"), true);
+    addRow("choice", documentWithField("/FT /Ch"), true);
+    addRow("check box", documentWithField("/FT /Btn"), true);
+    addRow("radio button", documentWithField("/FT /Btn /Ff 32768"), true);
+    addRow("push button", documentWithField("/FT /Btn /Ff 65536"), false);
+    addRow("signature", documentWithField("/FT /Sig"), false);
+    addRow("no type", documentWithField(""), false);
 }
 
 void TestPdfDocument::tellsFormFields()

@@ -64,7 +64,7 @@ class TestPdfFill : public StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init() override;
     void printsTheWholeForm();
     void printsOnlyWhatIsFilledIn();
     void printsNoPictureOfTheForm();

@@ -46,7 +46,7 @@ class TestPdfHostile : public StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init() override;
     void survivesDamage_data();
     void survivesDamage();
     void survivesCircles_data();
@@ -135,24 +135,23 @@ void TestPdfHostile::survivesCircles_data()
     QTest::addColumn<QByteArray>("resources");
     QTest::addColumn<QByteArray>("field");
     QTest::addColumn<QByteArray>("content");
-    QTest::newRow("resources in a circle")
-        << QByteArray("<< /XObject 6 0 R /Self 6 0 R >>") << QByteArray() << QByteArray("/A Do");
-    QTest::newRow("pages among the resources")
-        << QByteArray("<< /Up 2 0 R /Page 3 0 R /Top 1 0 R >>") << QByteArray() << QByteArray();
-    QTest::newRow("drawing of itself")
-        << QByteArray("<< /XObject << /A 5 0 R >> >>") << QByteArray() << QByteArray("/A Do");
-    QTest::newRow("field above itself")
-        << QByteArray("<< >>") << QByteArray("/Parent 4 0 R /Kids [ 4 0 R ]") << QByteArray();
-    QTest::newRow("appearance of a page")
-        << QByteArray("<< >>") << QByteArray("/AP << /N 3 0 R >>") << QByteArray();
-    QTest::newRow("appearance of itself")
-        << QByteArray("<< >>") << QByteArray("/AP << /N 5 0 R >> /AS /Yes") << QByteArray("/A Do");
-    QTest::newRow("fields of the wrong types")
-        << QByteArray("(text)")
-        << QByteArray("/FT [ /Tx ] /Ff (x) /V << /A /B >> /DA 7 /MK [ ] /AP 3 /Rect [ 0 0 ]")
-        << QByteArray();
-    QTest::newRow("deeply nested")
-        << QByteArray(300, '[') + QByteArray(300, ']') << QByteArray() << QByteArray();
+    addRow("resources in a circle", QByteArray("<< /XObject 6 0 R /Self 6 0 R >>"), QByteArray(),
+           QByteArray("/A Do"));
+    addRow("pages among the resources", QByteArray("<< /Up 2 0 R /Page 3 0 R /Top 1 0 R >>"),
+           QByteArray(), QByteArray());
+    addRow("drawing of itself", QByteArray("<< /XObject << /A 5 0 R >> >>"), QByteArray(),
+           QByteArray("/A Do"));
+    addRow("field above itself", QByteArray("<< >>"), QByteArray("/Parent 4 0 R /Kids [ 4 0 R ]"),
+           QByteArray());
+    addRow("appearance of a page", QByteArray("<< >>"), QByteArray("/AP << /N 3 0 R >>"),
+           QByteArray());
+    addRow("appearance of itself", QByteArray("<< >>"), QByteArray("/AP << /N 5 0 R >> /AS /Yes"),
+           QByteArray("/A Do"));
+    addRow("fields of the wrong types", QByteArray("(text)"),
+           QByteArray("/FT [ /Tx ] /Ff (x) /V << /A /B >> /DA 7 /MK [ ] /AP 3 /Rect [ 0 0 ]"),
+           QByteArray());
+    addRow("deeply nested", QByteArray(300, '[') + QByteArray(300, ']'), QByteArray(),
+           QByteArray());
 }
 
 void TestPdfHostile::survivesCircles()

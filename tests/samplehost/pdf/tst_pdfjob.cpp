@@ -61,7 +61,7 @@ class TestPdfJob : public StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init() override;
     void printsPages_data();
     void printsPages();
     void keepsEachPagesSize();
@@ -134,15 +134,15 @@ void TestPdfJob::printsPages_data()
     QTest::addColumn<int>("pageCount");
     QTest::addColumn<PdfPrintRequest>("request");
     QTest::addColumn<QList<int>>("expected");
-    QTest::newRow("the only page") << 1 << range(1, 99999) << QList<int>{1};
-    QTest::newRow("current page") << 12 << range(7, 7) << QList<int>{7};
-    QTest::newRow("all of 12") << 12 << range(1, 12) << upTo(12);
-    QTest::newRow("all of 300") << 300 << range(1, 300) << upTo(300);
-    QTest::newRow("list in typed order with repetitions")
-        << 12 << list("9,2,2,11-99,1,7-5") << QList<int>{9, 2, 2, 11, 12, 1};
-    QTest::newRow("list of a long document")
-        << 300 << list("300,1,150-152") << QList<int>{300, 1, 150, 151, 152};
-    QTest::newRow("copies") << 12 << list("5,3", 3) << QList<int>{5, 3, 5, 3, 5, 3};
+    addRow("the only page", 1, range(1, 99999), QList<int>{1});
+    addRow("current page", 12, range(7, 7), QList<int>{7});
+    addRow("all of 12", 12, range(1, 12), upTo(12));
+    addRow("all of 300", 300, range(1, 300), upTo(300));
+    addRow("list in typed order with repetitions", 12, list("9,2,2,11-99,1,7-5"),
+           QList<int>{9, 2, 2, 11, 12, 1});
+    addRow("list of a long document", 300, list("300,1,150-152"),
+           QList<int>{300, 1, 150, 151, 152});
+    addRow("copies", 12, list("5,3", 3), QList<int>{5, 3, 5, 3, 5, 3});
 }
 
 void TestPdfJob::printsPages()
@@ -451,17 +451,14 @@ void TestPdfJob::explainsFailures_data()
     QTest::addColumn<PdfPrintRequest>("request");
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("message");
-    QTest::newRow("no such page") << range(13, 20) << QStringLiteral("output.pdf")
-                                  << QStringLiteral("There is no such page. Nothing is printed.");
-    QTest::newRow("reversed range") << range(3, 2) << QStringLiteral("output.pdf")
-                                    << QStringLiteral("There is no such page. Nothing is printed.");
-    QTest::newRow("unreadable list")
-        << list("1;2") << QStringLiteral("output.pdf")
-        << QStringLiteral("The list \"1;2\" cannot be read. Nothing is printed.");
-    QTest::newRow("no such folder") << range(1, 1) << QStringLiteral("no/output.pdf")
-                                    << QStringLiteral("The folder \"%1/no\" does not exist.");
-    QTest::newRow("a folder") << range(1, 1) << QStringLiteral("taken")
-                              << QStringLiteral("The file \"%1/taken\" cannot be written: ");
+    addRow("no such page", range(13, 20), "output.pdf",
+           "There is no such page. Nothing is printed.");
+    addRow("reversed range", range(3, 2), "output.pdf",
+           "There is no such page. Nothing is printed.");
+    addRow("unreadable list", list("1;2"), "output.pdf",
+           "The list \"1;2\" cannot be read. Nothing is printed.");
+    addRow("no such folder", range(1, 1), "no/output.pdf", "The folder \"%1/no\" does not exist.");
+    addRow("a folder", range(1, 1), "taken", "The file \"%1/taken\" cannot be written: ");
 }
 
 void TestPdfJob::explainsFailures()

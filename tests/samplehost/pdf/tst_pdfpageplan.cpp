@@ -56,27 +56,28 @@ void TestPdfPagePlan::namesPages_data()
     QTest::addColumn<int>("pageCount");
     QTest::addColumn<QList<int>>("expected");
 
-    QTest::newRow("current page") << range(3, 3) << 12 << QList<int>{3};
-    QTest::newRow("single page") << range(3, -1) << 12 << QList<int>{3};
-    QTest::newRow("all pages") << range(1, 4) << 4 << QList<int>{1, 2, 3, 4};
-    QTest::newRow("all pages of an unknown count")
-        << range(1, 99999) << 4 << QList<int>{1, 2, 3, 4};
-    QTest::newRow("to beyond the last") << range(3, 9) << 4 << QList<int>{3, 4};
-    QTest::newRow("list in typed order") << list("9,2,5-7") << 12 << QList<int>{9, 2, 5, 6, 7};
-    QTest::newRow("list with repetitions")
-        << list("2,2,1-3,3") << 12 << QList<int>{2, 2, 1, 2, 3, 3};
-    QTest::newRow("list to beyond the last") << list("11-99,1") << 12 << QList<int>{11, 12, 1};
-    QTest::newRow("reversed range in a list") << list("7-5,2") << 12 << QList<int>{2};
-    QTest::newRow("nothing of an item") << list("13,2,20-30") << 12 << QList<int>{2};
-    QTest::newRow("list beats range") << [] {
-        PdfPrintRequest request = range(1, 12);
-        request.pageList = QStringLiteral("4");
-        return request;
-    }() << 12 << QList<int>{4};
-    QTest::newRow("copies are collated") << list("3,1", 3) << 12 << QList<int>{3, 1, 3, 1, 3, 1};
-    QTest::newRow("copies of a page") << range(2, 2, 3) << 12 << QList<int>{2, 2, 2};
-    QTest::newRow("no copies") << range(2, 2, 0) << 12 << QList<int>{2};
-    QTest::newRow("negative copies") << range(1, 2, -5) << 12 << QList<int>{1, 2};
+    addRow("current page", range(3, 3), 12, QList<int>{3});
+    addRow("single page", range(3, -1), 12, QList<int>{3});
+    addRow("all pages", range(1, 4), 4, QList<int>{1, 2, 3, 4});
+    addRow("all pages of an unknown count", range(1, 99999), 4, QList<int>{1, 2, 3, 4});
+    addRow("to beyond the last", range(3, 9), 4, QList<int>{3, 4});
+    addRow("list in typed order", list("9,2,5-7"), 12, QList<int>{9, 2, 5, 6, 7});
+    addRow("list with repetitions", list("2,2,1-3,3"), 12, QList<int>{2, 2, 1, 2, 3, 3});
+    addRow("list to beyond the last", list("11-99,1"), 12, QList<int>{11, 12, 1});
+    addRow("reversed range in a list", list("7-5,2"), 12, QList<int>{2});
+    addRow("nothing of an item", list("13,2,20-30"), 12, QList<int>{2});
+    addRow(
+        "list beats range",
+        [] {
+            PdfPrintRequest request = range(1, 12);
+            request.pageList = QStringLiteral("4");
+            return request;
+        }(),
+        12, QList<int>{4});
+    addRow("copies are collated", list("3,1", 3), 12, QList<int>{3, 1, 3, 1, 3, 1});
+    addRow("copies of a page", range(2, 2, 3), 12, QList<int>{2, 2, 2});
+    addRow("no copies", range(2, 2, 0), 12, QList<int>{2});
+    addRow("negative copies", range(1, 2, -5), 12, QList<int>{1, 2});
 }
 
 void TestPdfPagePlan::namesPages()
@@ -101,21 +102,20 @@ void TestPdfPagePlan::explainsEmptyPlans_data()
     QTest::addColumn<QString>("text");
 
     const QString noPage = QStringLiteral("There is no such page. Nothing is printed.");
-    QTest::newRow("reversed range") << range(5, 3) << 12 << Problem::NoSuchRecord << noPage;
-    QTest::newRow("beyond the last") << range(13, 20) << 12 << Problem::NoSuchRecord << noPage;
-    QTest::newRow("before the first") << range(-1, 3) << 12 << Problem::NoSuchRecord << noPage;
-    QTest::newRow("no list after all") << range(0, 0) << 12 << Problem::NoSuchRecord << noPage;
-    QTest::newRow("no pages") << range(1, 99999) << 0 << Problem::NoSuchRecord << noPage;
-    QTest::newRow("negative page count") << range(1, 1) << -3 << Problem::NoSuchRecord << noPage;
-    QTest::newRow("list of none") << list("13,7-5") << 12 << Problem::NoSuchRecord
-                                  << QStringLiteral("The list \"13,7-5\" names none of the 12 "
-                                                    "pages. Nothing is printed.");
-    QTest::newRow("unreadable list")
-        << list("1,,2") << 12 << Problem::UnreadableList
-        << QStringLiteral("The list \"1,,2\" cannot be read. Nothing is printed.");
-    QTest::newRow("words") << list("%1 %2") << 12 << Problem::UnreadableList
-                           << QStringLiteral("The list \"%1 %2\" cannot be read. Nothing is "
-                                             "printed.");
+    addRow("reversed range", range(5, 3), 12, Problem::NoSuchRecord, noPage);
+    addRow("beyond the last", range(13, 20), 12, Problem::NoSuchRecord, noPage);
+    addRow("before the first", range(-1, 3), 12, Problem::NoSuchRecord, noPage);
+    addRow("no list after all", range(0, 0), 12, Problem::NoSuchRecord, noPage);
+    addRow("no pages", range(1, 99999), 0, Problem::NoSuchRecord, noPage);
+    addRow("negative page count", range(1, 1), -3, Problem::NoSuchRecord, noPage);
+    addRow("list of none", list("13,7-5"), 12, Problem::NoSuchRecord,
+           "The list \"13,7-5\" names none of the 12 "
+           "pages. Nothing is printed.");
+    addRow("unreadable list", list("1,,2"), 12, Problem::UnreadableList,
+           "The list \"1,,2\" cannot be read. Nothing is printed.");
+    addRow("words", list("%1 %2"), 12, Problem::UnreadableList,
+           "The list \"%1 %2\" cannot be read. Nothing is "
+           "printed.");
 }
 
 void TestPdfPagePlan::explainsEmptyPlans()

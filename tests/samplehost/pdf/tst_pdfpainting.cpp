@@ -67,7 +67,7 @@ class TestPdfPainting : public StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init() override;
     void paintsWhatTheFileShows_data();
     void paintsWhatTheFileShows();
     void turnsThePaper();
@@ -116,11 +116,11 @@ void TestPdfPainting::paintsWhatTheFileShows_data()
     QTest::addColumn<bool>("rotated180");
     QTest::addColumn<QRectF>("mark");
     const QSizeF large(800, 1500);
-    QTest::newRow("own paper") << QSizeF() << false << false << QRectF(40, 520, 100, 50);
-    QTest::newRow("own paper, 180") << QSizeF() << false << true << QRectF(260, 30, 100, 50);
-    QTest::newRow("own size") << large << false << false << QRectF(240, 970, 100, 50);
-    QTest::newRow("fitted") << large << true << false << QRectF(80, 1190, 200, 100);
-    QTest::newRow("fitted, 180") << large << true << true << QRectF(520, 210, 200, 100);
+    addRow("own paper", QSizeF(), false, false, QRectF(40, 520, 100, 50));
+    addRow("own paper, 180", QSizeF(), false, true, QRectF(260, 30, 100, 50));
+    addRow("own size", large, false, false, QRectF(240, 970, 100, 50));
+    addRow("fitted", large, true, false, QRectF(80, 1190, 200, 100));
+    addRow("fitted, 180", large, true, true, QRectF(520, 210, 200, 100));
 }
 
 void TestPdfPainting::paintsWhatTheFileShows()

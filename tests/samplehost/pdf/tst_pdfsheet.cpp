@@ -41,7 +41,7 @@ class TestPdfSheet : public StrictTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init() override;
     void placesPages_data();
     void placesPages();
     void mapsCorners_data();
@@ -94,34 +94,29 @@ void TestPdfSheet::placesPages_data()
         made.unprintable = unprintable;
         return made;
     };
-    QTest::newRow("own paper") << QSizeF(300, 500) << options(QSizeF(), false, {})
-                               << QSizeF(300, 500) << QRectF(0, 0, 300, 500);
-    QTest::newRow("own paper, fitted") << QSizeF(300, 500) << options(QSizeF(), true, {})
-                                       << QSizeF(300, 500) << QRectF(0, 0, 300, 500);
-    QTest::newRow("small page") << QSizeF(300, 500) << options(paper, false, {}) << paper
-                                << QRectF(150, 150, 300, 500);
-    QTest::newRow("small page keeps its size within margins")
-        << QSizeF(300, 500) << options(paper, false, margins) << paper
-        << QRectF(150, 150, 300, 500);
-    QTest::newRow("large page") << QSizeF(700, 1000) << options(paper, false, {}) << paper
-                                << QRectF(-50, -100, 700, 1000);
-    QTest::newRow("scaled up") << QSizeF(300, 500) << options(paper, true, {}) << paper
-                               << QRectF(60, 0, 480, 800);
-    QTest::newRow("scaled down") << QSizeF(1200, 1400) << options(paper, true, {}) << paper
-                                 << QRectF(0, 50, 600, 700);
-    QTest::newRow("scaled within margins")
-        << QSizeF(280, 370) << options(paper, true, margins) << paper << QRectF(10, 20, 560, 740);
-    QTest::newRow("margins larger than the paper")
-        << QSizeF(300, 400) << options(paper, true, QMarginsF(300, 400, 300, 400)) << paper
-        << QRectF(0, 0, 600, 800);
-    QTest::newRow("lying page turns the paper") << QSizeF(500, 300) << options(paper, false, {})
-                                                << QSizeF(800, 600) << QRectF(150, 150, 500, 300);
-    QTest::newRow("upright page turns the paper")
-        << QSizeF(300, 500) << options(QSizeF(800, 600), true, {}) << paper
-        << QRectF(60, 0, 480, 800);
-    QTest::newRow("square page leaves the paper")
-        << QSizeF(300, 300) << options(QSizeF(800, 600), true, {}) << QSizeF(800, 600)
-        << QRectF(100, 0, 600, 600);
+    addRow("own paper", QSizeF(300, 500), options(QSizeF(), false, {}), QSizeF(300, 500),
+           QRectF(0, 0, 300, 500));
+    addRow("own paper, fitted", QSizeF(300, 500), options(QSizeF(), true, {}), QSizeF(300, 500),
+           QRectF(0, 0, 300, 500));
+    addRow("small page", QSizeF(300, 500), options(paper, false, {}), paper,
+           QRectF(150, 150, 300, 500));
+    addRow("small page keeps its size within margins", QSizeF(300, 500),
+           options(paper, false, margins), paper, QRectF(150, 150, 300, 500));
+    addRow("large page", QSizeF(700, 1000), options(paper, false, {}), paper,
+           QRectF(-50, -100, 700, 1000));
+    addRow("scaled up", QSizeF(300, 500), options(paper, true, {}), paper, QRectF(60, 0, 480, 800));
+    addRow("scaled down", QSizeF(1200, 1400), options(paper, true, {}), paper,
+           QRectF(0, 50, 600, 700));
+    addRow("scaled within margins", QSizeF(280, 370), options(paper, true, margins), paper,
+           QRectF(10, 20, 560, 740));
+    addRow("margins larger than the paper", QSizeF(300, 400),
+           options(paper, true, QMarginsF(300, 400, 300, 400)), paper, QRectF(0, 0, 600, 800));
+    addRow("lying page turns the paper", QSizeF(500, 300), options(paper, false, {}),
+           QSizeF(800, 600), QRectF(150, 150, 500, 300));
+    addRow("upright page turns the paper", QSizeF(300, 500), options(QSizeF(800, 600), true, {}),
+           paper, QRectF(60, 0, 480, 800));
+    addRow("square page leaves the paper", QSizeF(300, 300), options(QSizeF(800, 600), true, {}),
+           QSizeF(800, 600), QRectF(100, 0, 600, 600));
 }
 
 void TestPdfSheet::placesPages()
@@ -146,14 +141,14 @@ void TestPdfSheet::mapsCorners_data()
     QTest::addColumn<bool>("rotated180");
     QTest::addColumn<QPointF>("lowerLeft");
     QTest::addColumn<QPointF>("upperRight");
-    QTest::newRow("upright") << 0 << false << QPointF(300, 200) << QPointF(700, 800);
-    QTest::newRow("turned right") << 1 << false << QPointF(200, 700) << QPointF(800, 300);
-    QTest::newRow("upside down") << 2 << false << QPointF(700, 800) << QPointF(300, 200);
-    QTest::newRow("turned left") << 3 << false << QPointF(800, 300) << QPointF(200, 700);
-    QTest::newRow("upright, 180") << 0 << true << QPointF(700, 800) << QPointF(300, 200);
-    QTest::newRow("turned right, 180") << 1 << true << QPointF(800, 300) << QPointF(200, 700);
-    QTest::newRow("upside down, 180") << 2 << true << QPointF(300, 200) << QPointF(700, 800);
-    QTest::newRow("turned left, 180") << 3 << true << QPointF(200, 700) << QPointF(800, 300);
+    addRow("upright", 0, false, QPointF(300, 200), QPointF(700, 800));
+    addRow("turned right", 1, false, QPointF(200, 700), QPointF(800, 300));
+    addRow("upside down", 2, false, QPointF(700, 800), QPointF(300, 200));
+    addRow("turned left", 3, false, QPointF(800, 300), QPointF(200, 700));
+    addRow("upright, 180", 0, true, QPointF(700, 800), QPointF(300, 200));
+    addRow("turned right, 180", 1, true, QPointF(800, 300), QPointF(200, 700));
+    addRow("upside down, 180", 2, true, QPointF(300, 200), QPointF(700, 800));
+    addRow("turned left, 180", 3, true, QPointF(200, 700), QPointF(800, 300));
 }
 
 void TestPdfSheet::mapsCorners()
@@ -182,19 +177,15 @@ void TestPdfSheet::printsWhatWasLaidOut_data()
     QTest::addColumn<QRectF>("mark");
 
     const QSizeF large(800, 1500);
-    QTest::newRow("own paper") << QSizeF() << false << false << QSizeF(400, 600)
-                               << QRectF(40, 520, 100, 50);
-    QTest::newRow("own paper, 180")
-        << QSizeF() << false << true << QSizeF(400, 600) << QRectF(260, 30, 100, 50);
-    QTest::newRow("own size, centred")
-        << large << false << false << large << QRectF(240, 970, 100, 50);
-    QTest::newRow("own size, 180") << large << false << true << large << QRectF(460, 480, 100, 50);
-    QTest::newRow("fitted up") << large << true << false << large << QRectF(80, 1190, 200, 100);
-    QTest::newRow("fitted up, 180") << large << true << true << large << QRectF(520, 210, 200, 100);
-    QTest::newRow("fitted down") << QSizeF(200, 400) << true << false << QSizeF(200, 400)
-                                 << QRectF(20, 310, 50, 25);
-    QTest::newRow("fitted on lying paper")
-        << QSizeF(1500, 800) << true << false << large << QRectF(80, 1190, 200, 100);
+    addRow("own paper", QSizeF(), false, false, QSizeF(400, 600), QRectF(40, 520, 100, 50));
+    addRow("own paper, 180", QSizeF(), false, true, QSizeF(400, 600), QRectF(260, 30, 100, 50));
+    addRow("own size, centred", large, false, false, large, QRectF(240, 970, 100, 50));
+    addRow("own size, 180", large, false, true, large, QRectF(460, 480, 100, 50));
+    addRow("fitted up", large, true, false, large, QRectF(80, 1190, 200, 100));
+    addRow("fitted up, 180", large, true, true, large, QRectF(520, 210, 200, 100));
+    addRow("fitted down", QSizeF(200, 400), true, false, QSizeF(200, 400), QRectF(20, 310, 50, 25));
+    addRow("fitted on lying paper", QSizeF(1500, 800), true, false, large,
+           QRectF(80, 1190, 200, 100));
 }
 
 void TestPdfSheet::printsWhatWasLaidOut()
@@ -222,12 +213,12 @@ void TestPdfSheet::printsWhatWasLaidOut()
 void TestPdfSheet::printsTurnedPages_data()
 {
     QTest::addColumn<QByteArray>("entries");
-    QTest::newRow("plain") << QByteArray();
-    QTest::newRow("turned right") << QByteArray("/Rotate 90");
-    QTest::newRow("upside down") << QByteArray("/Rotate 180");
-    QTest::newRow("turned left") << QByteArray("/Rotate 270");
-    QTest::newRow("cropped") << QByteArray("/CropBox [ 20 10 300 400 ]");
-    QTest::newRow("cropped and turned") << QByteArray("/Rotate 90 /CropBox [ 20 10 300 400 ]");
+    addRow("plain", QByteArray());
+    addRow("turned right", QByteArray("/Rotate 90"));
+    addRow("upside down", QByteArray("/Rotate 180"));
+    addRow("turned left", QByteArray("/Rotate 270"));
+    addRow("cropped", QByteArray("/CropBox [ 20 10 300 400 ]"));
+    addRow("cropped and turned", QByteArray("/Rotate 90 /CropBox [ 20 10 300 400 ]"));
 }
 
 // On paper of its own every page looks exactly as viewers show it.
