@@ -1,17 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/pdf/pdfdocument.h"
-#include "samplehost/pdf/pdfprinting.h"
-#include "samplehost/support/pdfoutput.h"
-#include "samplehost/support/pdfsamples.h"
-#include "support/stricttest.h"
+#include "samplehost/pdf/pdftest.h"
 
-#include <QtCore/QTemporaryDir>
 #include <QtPdf/QPdfDocument>
 #include <QtPdf/QPdfSelection>
-
-#include <memory>
 
 using namespace SampleHost;
 
@@ -59,12 +52,11 @@ const QColor textBlue(0, 0, 255);
 
 } // namespace
 
-class TestPdfFill : public StrictTest
+class TestPdfFill : public PdfTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() override;
     void printsTheWholeForm();
     void printsOnlyWhatIsFilledIn();
     void printsNoPictureOfTheForm();
@@ -75,35 +67,7 @@ private Q_SLOTS:
     void fitsAndRotates();
     void documentWithoutFieldsIsPrintedWhole();
     void previewShowsOnlyTheFilling();
-
-private:
-    bool open(const QByteArray& bytes);
-    bool print(const PdfPrintRequest& request);
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    QString m_output;
-    PdfDocument m_document;
 };
-
-void TestPdfFill::init()
-{
-    StrictTest::init();
-    m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_folder->isValid());
-    m_output = m_folder->filePath(QStringLiteral("output.pdf"));
-}
-
-bool TestPdfFill::open(const QByteArray& bytes)
-{
-    const QString path = m_folder->filePath(QStringLiteral("input.pdf"));
-    QString problem;
-    return PdfSamples::write(path, bytes) && m_document.open(path, problem);
-}
-
-bool TestPdfFill::print(const PdfPrintRequest& request)
-{
-    return PdfOutput::completes(*makePdfFileJob(m_document, request, m_output));
-}
 
 void TestPdfFill::printsTheWholeForm()
 {

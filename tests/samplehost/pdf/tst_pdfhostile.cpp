@@ -1,17 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/pdf/pdfdocument.h"
-#include "samplehost/pdf/pdfprinting.h"
-#include "samplehost/support/pdfoutput.h"
-#include "samplehost/support/pdfsamples.h"
-#include "support/stricttest.h"
+#include "samplehost/pdf/pdftest.h"
 
 #include <QtCore/QRandomGenerator>
-#include <QtCore/QTemporaryDir>
 #include <QtPdf/QPdfDocument>
-
-#include <memory>
 
 using namespace SampleHost;
 using Outcome = PrintJob::Outcome;
@@ -41,7 +34,7 @@ QByteArray damaged(const QByteArray& document, QRandomGenerator& random)
 
 } // namespace
 
-class TestPdfHostile : public StrictTest
+class TestPdfHostile : public PdfTest
 {
     Q_OBJECT
 
@@ -56,19 +49,12 @@ private Q_SLOTS:
 private:
     void useUp(PdfDocument& document);
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-    QString m_input;
-    QString m_output;
     int m_printed = 0;
 };
 
 void TestPdfHostile::init()
 {
-    StrictTest::init();
-    m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_folder->isValid());
-    m_input = m_folder->filePath(QStringLiteral("input.pdf"));
-    m_output = m_folder->filePath(QStringLiteral("output.pdf"));
+    PdfTest::init();
     m_printed = 0;
 }
 
@@ -180,21 +166,18 @@ void TestPdfHostile::survivesCircles()
 
 void TestPdfHostile::survivesAFileThatChanges()
 {
-    QVERIFY(PdfSamples::writeNumbered(m_input, 12));
-    PdfDocument document;
-    QString problem;
-    QVERIFY(document.open(m_input, problem));
+    QVERIFY(openNumbered(12));
     QFile file(m_input);
     QVERIFY(file.resize(100));
     PdfPrintRequest request;
     request.startPage = 1;
     request.endPage = 12;
-    const PdfOutput::End end = PdfOutput::run(*makePdfFileJob(document, request, m_output));
+    const PdfOutput::End end = PdfOutput::run(*job(request));
     QCOMPARE(end.outcome, Outcome::Failed);
     QCOMPARE(end.message, QStringLiteral("The file of the document was changed. Open it again to "
                                          "print it."));
     QVERIFY(!QFile::exists(m_output));
-    document.render(3, QSize(40, 50));
+    m_document.render(3, QSize(40, 50));
 }
 
 QTEST_MAIN(TestPdfHostile)

@@ -1,19 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/pdf/pdfdocument.h"
-#include "samplehost/pdf/pdfprinting.h"
-#include "samplehost/support/pdfoutput.h"
-#include "samplehost/support/pdfsamples.h"
-#include "support/stricttest.h"
+#include "samplehost/pdf/pdftest.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QTemporaryDir>
 #include <QtCore/QTimer>
 #include <QtPdf/QPdfDocument>
 #include <QtTest/QSignalSpy>
-
-#include <memory>
 
 using namespace SampleHost;
 using Outcome = PrintJob::Outcome;
@@ -56,12 +48,11 @@ PdfPrintRequest list(const char* text, int copies = 1)
 
 } // namespace
 
-class TestPdfJob : public StrictTest
+class TestPdfJob : public PdfTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() override;
     void printsPages_data();
     void printsPages();
     void keepsEachPagesSize();
@@ -87,47 +78,8 @@ private Q_SLOTS:
     void closedDocumentFailsTheJob();
 
 private:
-    bool openNumbered(int pages);
-    bool openBytes(const QByteArray& bytes);
-    std::unique_ptr<PrintJob> job(const PdfPrintRequest& request)
-    {
-        return makePdfFileJob(m_document, request, m_output);
-    }
     std::unique_ptr<PrintJob> longJob();
-    QStringList filesLeft() const;
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    QString m_input;
-    QString m_output;
-    PdfDocument m_document;
-    QString m_problem;
 };
-
-void TestPdfJob::init()
-{
-    StrictTest::init();
-    m_document.close();
-    m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_folder->isValid());
-    QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("out")));
-    m_input = m_folder->filePath(QStringLiteral("input.pdf"));
-    m_output = m_folder->filePath(QStringLiteral("out/output.pdf"));
-}
-
-bool TestPdfJob::openNumbered(int pages)
-{
-    return PdfSamples::writeNumbered(m_input, pages) && m_document.open(m_input, m_problem);
-}
-
-bool TestPdfJob::openBytes(const QByteArray& bytes)
-{
-    return PdfSamples::write(m_input, bytes) && m_document.open(m_input, m_problem);
-}
-
-QStringList TestPdfJob::filesLeft() const
-{
-    return QDir(m_folder->filePath(QStringLiteral("out"))).entryList(QDir::Files | QDir::Hidden);
-}
 
 void TestPdfJob::printsPages_data()
 {
@@ -164,7 +116,7 @@ void TestPdfJob::printsPages()
 void TestPdfJob::keepsEachPagesSize()
 {
     QVERIFY(openNumbered(4));
-    QVERIFY(PdfOutput::completes(*job(list("4,1-3"))));
+    QVERIFY(print(list("4,1-3")));
     const QList<int> pages = {3, 0, 1, 2};
     for (int sheet = 0; sheet < 4; ++sheet) {
         QCOMPARE(PdfOutput::pageSize(m_output, sheet), PdfSamples::numberedSize(pages.at(sheet)));
@@ -176,7 +128,7 @@ void TestPdfJob::keepsEachPagesSize()
 void TestPdfJob::keepsFontsAndTitle()
 {
     QVERIFY(openNumbered(12));
-    QVERIFY(PdfOutput::completes(*job(range(1, 12))));
+    QVERIFY(print(range(1, 12)));
     QFile file(m_output);
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray bytes = file.readAll();
@@ -208,8 +160,8 @@ void TestPdfJob::keepsLayers()
     bytes.addStream("/OC /On BDC 10 10 20 20 re f EMC /OC /Off BDC 60 60 20 20 re f EMC");
     bytes.add("<< /Type /OCG /Name (shown) >>");
     bytes.add("<< /Type /OCG /Name (hidden) >>");
-    QVERIFY(openBytes(bytes.file()));
-    QVERIFY(PdfOutput::completes(*job(range(1, 1))));
+    QVERIFY(open(bytes.file()));
+    QVERIFY(print(range(1, 1)));
     const QRectF ink = PdfOutput::ink(m_output);
     QVERIFY2(PdfOutput::agree(ink, QRectF(10, 70, 20, 20)), PdfOutput::described(ink).constData());
 }
@@ -227,8 +179,8 @@ void TestPdfJob::keepsLayersOfAnnotations()
     bytes.add("<< /Type /OCG /Name (shown) >>");
     bytes.add("<< /Type /OCG /Name (hidden) >>");
     bytes.addStream("0 0 10 10 re f", "/Subtype /Form /BBox [ 0 0 10 10 ]");
-    QVERIFY(openBytes(bytes.file()));
-    QVERIFY(PdfOutput::completes(*job(range(1, 1))));
+    QVERIFY(open(bytes.file()));
+    QVERIFY(print(range(1, 1)));
     QVERIFY(PdfOutput::agree(PdfOutput::ink(m_output, 0), QRectF(10, 70, 20, 20)));
 }
 
@@ -242,8 +194,8 @@ void TestPdfJob::joinsContentsInParts()
     bytes.addStream("10 10 20");
     bytes.addStream("20 re f");
     bytes.add("<< /Type /Page /Parent 2 0 R >>");
-    QVERIFY(openBytes(bytes.file()));
-    QVERIFY(PdfOutput::completes(*job(range(1, 2))));
+    QVERIFY(open(bytes.file()));
+    QVERIFY(print(range(1, 2)));
     QVERIFY(PdfOutput::agree(PdfOutput::ink(m_output, 0), QRectF(10, 70, 20, 20)));
     QVERIFY(PdfOutput::ink(m_output, 1).isEmpty());
     QCOMPARE(PdfOutput::pageSize(m_output, 1), QSizeF(100, 100));
@@ -254,7 +206,7 @@ void TestPdfJob::printsVeryManySheets()
     QVERIFY(openNumbered(12));
     PdfPrintRequest request = range(1, 12);
     request.copies = 999;
-    QVERIFY(PdfOutput::completes(*job(request)));
+    QVERIFY(print(request));
     QPdfDocument printed;
     QCOMPARE(printed.load(m_output), QPdfDocument::Error::None);
     QCOMPARE(printed.pageCount(), 12 * 999);
@@ -305,7 +257,7 @@ void TestPdfJob::cancelLeavesNothing()
     QCOMPARE(filesLeft(), QStringList());
 
     // The document is none the worse for it.
-    QVERIFY(PdfOutput::completes(*job(list("300"))));
+    QVERIFY(print(list("300")));
     QCOMPARE(PdfOutput::texts(m_output), numbered({300}));
 }
 
@@ -423,20 +375,20 @@ void TestPdfJob::printsOverItsOwnFile()
     QCOMPARE(PdfOutput::texts(m_input), numbered({12, 3}));
     // The open document is still the old one.
     QCOMPARE(m_document.pageCount(), 12);
-    QVERIFY(PdfOutput::completes(*job(list("5"))));
+    QVERIFY(print(list("5")));
     QCOMPARE(PdfOutput::texts(m_output), numbered({5}));
 }
 
 void TestPdfJob::printsWhatNeedsNoPassword()
 {
-    QVERIFY(openBytes(PdfSamples::encrypted(PdfSamples::form(), QByteArray(), true)));
-    QVERIFY(PdfOutput::completes(*job(range(2, 2))));
+    QVERIFY(open(PdfSamples::encrypted(PdfSamples::form(), QByteArray(), true)));
+    QVERIFY(print(range(2, 2)));
     QCOMPARE(PdfOutput::texts(m_output), QStringList{QStringLiteral("Terms printed")});
 }
 
 void TestPdfJob::refusesWhatItsAuthorForbids()
 {
-    QVERIFY(openBytes(PdfSamples::encrypted(PdfSamples::form(), QByteArray(), false)));
+    QVERIFY(open(PdfSamples::encrypted(PdfSamples::form(), QByteArray(), false)));
     const QString said =
         QStringLiteral("The author of the document does not allow it to be printed.");
     QCOMPARE(pdfPrintProblem(m_document, range(1, 1)), said);
@@ -488,8 +440,8 @@ void TestPdfJob::damagedPageFailsTheJob()
     bytes.add("<< /Type /Page /Parent 2 0 R >>");
     bytes.add("<< /Type /Page /Parent 2 0 R /Contents [ 5 0 R 5 0 R ] >>");
     bytes.addStream("no compressed data", "/Filter /FlateDecode");
-    QVERIFY(openBytes(bytes.file()));
-    QVERIFY(PdfOutput::completes(*job(range(1, 1))));
+    QVERIFY(open(bytes.file()));
+    QVERIFY(print(range(1, 1)));
     QVERIFY(QFile::remove(m_output));
     const PdfOutput::End end = PdfOutput::run(*job(range(1, 2)));
     QCOMPARE(end.outcome, Outcome::Failed);

@@ -1,19 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/pdf/pdfdocument.h"
-#include "samplehost/pdf/pdfprinting.h"
-#include "samplehost/support/pdfoutput.h"
-#include "samplehost/support/pdfsamples.h"
-#include "support/stricttest.h"
+#include "samplehost/pdf/pdftest.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QTemporaryDir>
 #include <QtGui/QPageLayout>
 #include <QtGui/QPdfWriter>
 #include <QtTest/QSignalSpy>
-
-#include <memory>
 
 using namespace SampleHost;
 using Outcome = PrintJob::Outcome;
@@ -62,12 +54,11 @@ private:
 
 } // namespace
 
-class TestPdfPainting : public StrictTest
+class TestPdfPainting : public PdfTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() override;
     void paintsWhatTheFileShows_data();
     void paintsWhatTheFileShows();
     void turnsThePaper();
@@ -79,29 +70,8 @@ private Q_SLOTS:
     void explainsFailures();
 
 private:
-    bool open(const QByteArray& bytes);
     bool paint(const PdfPrintRequest& request);
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    QString m_output;
-    PdfDocument m_document;
 };
-
-void TestPdfPainting::init()
-{
-    StrictTest::init();
-    m_document.close();
-    m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_folder->isValid());
-    m_output = m_folder->filePath(QStringLiteral("output.pdf"));
-}
-
-bool TestPdfPainting::open(const QByteArray& bytes)
-{
-    const QString path = m_folder->filePath(QStringLiteral("input.pdf"));
-    QString problem;
-    return PdfSamples::write(path, bytes) && m_document.open(path, problem);
-}
 
 bool TestPdfPainting::paint(const PdfPrintRequest& request)
 {
@@ -181,10 +151,7 @@ void TestPdfPainting::fillsThePrintableArea()
 
 void TestPdfPainting::changesThePaperFromPageToPage()
 {
-    const QString path = m_folder->filePath(QStringLiteral("numbered.pdf"));
-    QString problem;
-    QVERIFY(PdfSamples::writeNumbered(path, 4));
-    QVERIFY(m_document.open(path, problem));
+    QVERIFY(openNumbered(4));
     PdfPrintRequest request;
     request.pageList = QStringLiteral("4,1,3");
     QVERIFY(paint(request));
@@ -193,7 +160,7 @@ void TestPdfPainting::changesThePaperFromPageToPage()
         QCOMPARE(PdfOutput::pageSize(m_output, sheet).toSize(),
                  PdfSamples::numberedSize(pages.at(sheet)).toSize());
         const QRectF ink = PdfOutput::ink(m_output, sheet);
-        QVERIFY2(PdfOutput::agree(ink, PdfOutput::ink(path, pages.at(sheet))),
+        QVERIFY2(PdfOutput::agree(ink, PdfOutput::ink(m_input, pages.at(sheet))),
                  PdfOutput::described(ink).constData());
     }
 }
@@ -237,16 +204,11 @@ void TestPdfPainting::paintsOnlyTheFilling()
 
 void TestPdfPainting::cancelLeavesNothing()
 {
-    const QString path = m_folder->filePath(QStringLiteral("numbered.pdf"));
-    QString problem;
-    QVERIFY(PdfSamples::writeNumbered(path, 300));
-    QVERIFY(m_document.open(path, problem));
+    QVERIFY(openNumbered(300));
     PdfPrintRequest request;
     request.startPage = 1;
     request.endPage = 300;
-    QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("out")));
-    const QString output = m_folder->filePath(QStringLiteral("out/output.pdf"));
-    const auto job = makePdfPrinterJob(m_document, request, std::make_unique<PdfTarget>(output));
+    const auto job = makePdfPrinterJob(m_document, request, std::make_unique<PdfTarget>(m_output));
     QCOMPARE(job->pageCount(), qint64(300));
     QSignalSpy progress(job.get(), &PrintJob::progressChanged);
     QSignalSpy finished(job.get(), &PrintJob::finished);
@@ -259,8 +221,7 @@ void TestPdfPainting::cancelLeavesNothing()
     QVERIFY(done < 300);
     job->cancel();
     QCOMPARE(finished.at(0).at(0).value<Outcome>(), Outcome::Cancelled);
-    QCOMPARE(QDir(m_folder->filePath(QStringLiteral("out"))).entryList(QDir::Files | QDir::Hidden),
-             QStringList());
+    QCOMPARE(filesLeft(), QStringList());
 }
 
 void TestPdfPainting::explainsFailures()

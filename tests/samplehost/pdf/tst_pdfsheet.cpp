@@ -1,16 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/pdf/pdfdocument.h"
-#include "samplehost/pdf/pdfprinting.h"
+#include "samplehost/pdf/pdftest.h"
 #include "samplehost/pdf/sheets/sheetlayout.h"
-#include "samplehost/support/pdfoutput.h"
-#include "samplehost/support/pdfsamples.h"
-#include "support/stricttest.h"
-
-#include <QtCore/QTemporaryDir>
-
-#include <memory>
 
 using namespace SampleHost;
 
@@ -36,12 +28,11 @@ PageBox box(const QSizeF& size, int turns = 0)
 
 } // namespace
 
-class TestPdfSheet : public StrictTest
+class TestPdfSheet : public PdfTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() override;
     void placesPages_data();
     void placesPages();
     void mapsCorners_data();
@@ -53,30 +44,7 @@ private Q_SLOTS:
     void cropsPages();
     void rotatesTheText();
     void previewShowsTheSheet();
-
-private:
-    bool print(const QByteArray& document, const PdfPrintRequest& request);
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    QString m_output;
-    PdfDocument m_document;
 };
-
-void TestPdfSheet::init()
-{
-    StrictTest::init();
-    m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_folder->isValid());
-    m_output = m_folder->filePath(QStringLiteral("output.pdf"));
-}
-
-bool TestPdfSheet::print(const QByteArray& document, const PdfPrintRequest& request)
-{
-    const QString path = m_folder->filePath(QStringLiteral("input.pdf"));
-    QString problem;
-    return PdfSamples::write(path, document) && m_document.open(path, problem) &&
-           PdfOutput::completes(*makePdfFileJob(m_document, request, m_output));
-}
 
 void TestPdfSheet::placesPages_data()
 {
@@ -201,7 +169,8 @@ void TestPdfSheet::printsWhatWasLaidOut()
     request.rotated180 = rotated180;
     PdfSamples::Page page = marked();
     page.content = "0 g 40 30 100 50 re f";
-    QVERIFY(print(PdfSamples::pages({page}), request));
+    QVERIFY(open(PdfSamples::pages({page})));
+    QVERIFY(print(request));
 
     const QSizeF printed = PdfOutput::pageSize(m_output);
     QVERIFY(qAbs(printed.width() - sheet.width()) < 0.01);
@@ -225,7 +194,8 @@ void TestPdfSheet::printsTurnedPages_data()
 void TestPdfSheet::printsTurnedPages()
 {
     QFETCH(QByteArray, entries);
-    QVERIFY(print(PdfSamples::pages({marked(entries.constData())}), PdfPrintRequest()));
+    QVERIFY(open(PdfSamples::pages({marked(entries.constData())})));
+    QVERIFY(print(PdfPrintRequest()));
     const QImage shown = PdfOutput::picture(m_document.path());
     const QImage printed = PdfOutput::picture(m_output);
     QVERIFY(!shown.isNull());
@@ -247,7 +217,8 @@ void TestPdfSheet::cropsPages()
     page.content = "0 g 0 0 400 600 re f";
     PdfPrintRequest request;
     request.paperMm = QSizeF(600, 800) / pointsPerMm;
-    QVERIFY(print(PdfSamples::pages({page}), request));
+    QVERIFY(open(PdfSamples::pages({page})));
+    QVERIFY(print(request));
     const QRectF ink = PdfOutput::ink(m_output);
     QVERIFY2(PdfOutput::agree(ink, QRectF(200, 250, 200, 300)),
              PdfOutput::described(ink).constData());
@@ -257,7 +228,8 @@ void TestPdfSheet::rotatesTheText()
 {
     PdfPrintRequest request;
     request.rotated180 = true;
-    QVERIFY(print(PdfSamples::pages({marked()}), request));
+    QVERIFY(open(PdfSamples::pages({marked()})));
+    QVERIFY(print(request));
     QCOMPARE(PdfOutput::texts(m_output), QStringList{QStringLiteral("Marked")});
     const QImage upright = PdfOutput::picture(m_document.path());
     const QImage turned = PdfOutput::picture(m_output).mirrored(true, true);
@@ -271,7 +243,8 @@ void TestPdfSheet::rotatesTheText()
 void TestPdfSheet::previewShowsTheSheet()
 {
     PdfPrintRequest request;
-    QVERIFY(print(PdfSamples::pages({marked()}), request));
+    QVERIFY(open(PdfSamples::pages({marked()})));
+    QVERIFY(print(request));
     request.paperMm = QSizeF(800, 1500) / pointsPerMm;
     request.fitToPage = true;
     request.rotated180 = true;
