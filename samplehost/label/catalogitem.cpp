@@ -17,7 +17,7 @@ constexpr QSizeF wideSign(254.0, 127.0);
 constexpr QSizeF highSign(101.6, 304.8);
 constexpr QSizeF squareLabel(101.6, 101.6);
 
-CatalogItem sign(const QString& text, CatalogSymbol symbol, const QColor& field,
+CatalogItem sign(const QString& text, const QString& symbol, const QColor& field,
                  const QColor& legend, const QSizeF& sizeMm)
 {
     CatalogItem item;
@@ -29,7 +29,7 @@ CatalogItem sign(const QString& text, CatalogSymbol symbol, const QColor& field,
     return item;
 }
 
-CatalogItem warning(const QString& header, const QString& text, CatalogSymbol symbol,
+CatalogItem warning(const QString& header, const QString& text, const QString& symbol,
                     const QColor& headerField, const QColor& headerLegend)
 {
     CatalogItem item = sign(text, symbol, Qt::white, Qt::black, mediumSign);
@@ -41,26 +41,27 @@ CatalogItem warning(const QString& header, const QString& text, CatalogSymbol sy
 
 CatalogItem hazardLabel(const QString& text, const QString& pictogram)
 {
-    CatalogItem item = sign(text, CatalogSymbol::Pictogram, Qt::white, Qt::black, squareLabel);
+    CatalogItem item = sign(text, QString(), Qt::white, Qt::black, squareLabel);
     item.pictogram = pictogram;
     return item;
 }
 
 QList<CatalogItem> makeItems()
 {
-    using Symbol = CatalogSymbol;
     return {
-        sign(QStringLiteral("EXIT"), Symbol::Arrow, safetyGreen, Qt::white, wideSign),
-        sign(QStringLiteral("NO SMOKING"), Symbol::NoSmoking, Qt::white, Qt::black, mediumSign),
-        sign(QStringLiteral("EYE WASH STATION"), Symbol::EyeWash, safetyGreen, Qt::white,
+        sign(QStringLiteral("EXIT"), QStringLiteral("arrow"), safetyGreen, Qt::white, wideSign),
+        sign(QStringLiteral("NO SMOKING"), QStringLiteral("nosmoking"), Qt::white, Qt::black,
              mediumSign),
-        sign(QStringLiteral("FIRST AID"), Symbol::FirstAid, safetyGreen, Qt::white, mediumSign),
-        sign(QStringLiteral("FIRE EXTINGUISHER"), Symbol::Extinguisher, safetyRed, Qt::white,
-             highSign),
-        warning(QStringLiteral("DANGER"), QStringLiteral("HIGH VOLTAGE"), Symbol::HighVoltage,
-                safetyRed, Qt::white),
-        warning(QStringLiteral("CAUTION"), QStringLiteral("HOT SURFACE"), Symbol::HotSurface,
-                safetyYellow, Qt::black),
+        sign(QStringLiteral("EYE WASH STATION"), QStringLiteral("eyewash"), safetyGreen, Qt::white,
+             mediumSign),
+        sign(QStringLiteral("FIRST AID"), QStringLiteral("firstaid"), safetyGreen, Qt::white,
+             mediumSign),
+        sign(QStringLiteral("FIRE EXTINGUISHER"), QStringLiteral("extinguisher"), safetyRed,
+             Qt::white, highSign),
+        warning(QStringLiteral("DANGER"), QStringLiteral("HIGH VOLTAGE"),
+                QStringLiteral("highvoltage"), safetyRed, Qt::white),
+        warning(QStringLiteral("CAUTION"), QStringLiteral("HOT SURFACE"),
+                QStringLiteral("hotsurface"), safetyYellow, Qt::black),
         hazardLabel(QStringLiteral("FLAMMABLE LIQUID"), QStringLiteral("GHS02")),
         hazardLabel(QStringLiteral("COMPRESSED GAS"), QStringLiteral("GHS04")),
         hazardLabel(QStringLiteral("CORROSIVE"), QStringLiteral("GHS05")),

@@ -11,18 +11,6 @@
 
 namespace SampleHost {
 
-/** The picture on a catalogue item. */
-enum class CatalogSymbol {
-    Arrow,        ///< An arrow to the exit.
-    NoSmoking,    ///< A cigarette in a prohibition ring.
-    EyeWash,      ///< An eye over two jets of water.
-    FirstAid,     ///< A cross.
-    Extinguisher, ///< A fire extinguisher.
-    HighVoltage,  ///< A lightning bolt in a warning triangle.
-    HotSurface,   ///< Rising heat in a warning triangle.
-    Pictogram     ///< The GHS pictogram that the item names.
-};
-
 /** A ready-made sign or hazard label, which is sold in sizes that the buyer chooses. */
 struct CatalogItem
 {
@@ -30,8 +18,9 @@ struct CatalogItem
     QString text;
     /** The signal word in the band at the top, "DANGER"; empty without a band. */
     QString header;
-    CatalogSymbol symbol = CatalogSymbol::Arrow;
-    /** Name of the GHS pictogram, for CatalogSymbol::Pictogram. */
+    /** Name of the SVG file of the symbol; empty for a GHS pictogram. */
+    QString symbol;
+    /** Name of the GHS pictogram. */
     QString pictogram;
     /** Colour of the field. */
     QColor field = Qt::white;

@@ -4,7 +4,8 @@
 #include "samplehost/label/catalogpainter.h"
 
 #include "samplehost/label/fittedtext.h"
-#include "samplehost/label/safetysymbol.h"
+#include "samplehost/label/pictogram.h"
+#include "samplehost/label/svgpicture.h"
 
 #include <QtCore/QStringList>
 #include <QtGui/QPainter>
@@ -77,7 +78,12 @@ void paintBody(QPainter& painter, const QRectF& body, const CatalogItem& item, q
         symbol.moveTop(room.top() + (rest - text.height()) / 2);
         text.moveTop(symbol.bottom() + padding / 2);
     }
-    paintSafetySymbol(painter, symbol, item);
+    if (item.symbol.isEmpty()) {
+        paintPictogram(painter, symbol, item.pictogram);
+    } else {
+        const QString file = QStringLiteral(":/symbols/%1.svg").arg(item.symbol);
+        paintSvgPicture(painter, symbol, file, item.legend);
+    }
     paintText(painter, text, item.text, item.legend);
 }
 

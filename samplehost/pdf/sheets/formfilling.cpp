@@ -4,13 +4,14 @@
 #include "samplehost/pdf/sheets/formfilling.h"
 
 #include "samplehost/pdf/sheets/annotationpage.h"
-#include "samplehost/pdf/sheets/fillmark.h"
 #include "samplehost/pdf/sheets/filltext.h"
 #include "samplehost/pdf/sheets/pdfsource.h"
 
+#include <qpdf/QPDFMatrix.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
 
-#include <exception>
+#include <algorithm>
+#include <cmath>
 
 namespace SampleHost {
 
@@ -36,17 +37,30 @@ bool isTicked(Widget& widget, Field& field)
     return field.isCheckbox() && value.isName() && value.getName() != "/Off";
 }
 
-// The character that the field wants from the font of dingbats.
-FillMark markOf(Widget& widget, Field& field)
+// The operators that draw the mark of a field in a square from 0, 0 to 1, 1.
+std::string strokesOf(Widget& widget, Field& field)
 {
     QPDFObjectHandle look = widget.getObjectHandle().getKey("/MK");
     QPDFObjectHandle caption =
         look.isDictionary() ? look.getKey("/CA") : QPDFObjectHandle::newNull();
+    // The character that the field wants from the font of dingbats.
     const std::string style = caption.isString() ? caption.getStringValue() : std::string();
     if (style == "l" || (style.empty() && field.isRadioButton())) {
-        return FillMark::Dot;
+        // A line without length is a dot under a round pen.
+        return "0.5 w 0.5 0.5 m 0.5 0.5 l S";
     }
-    return style == "8" ? FillMark::Cross : FillMark::Check;
+    return style == "8" ? "0.12 w 0.2 0.2 m 0.8 0.8 l 0.2 0.8 m 0.8 0.2 l S"
+                        : "0.14 w 0.2 0.5 m 0.42 0.22 l 0.8 0.8 l S";
+}
+
+// The operators that draw a black mark in the middle of a field, whatever the field's own style.
+std::string markOf(Widget& widget, Field& field)
+{
+    const QPDFObjectHandle::Rectangle box = widget.getRect();
+    const double side = std::min(std::abs(box.urx - box.llx), std::abs(box.ury - box.lly));
+    const QPDFMatrix place(side, 0, 0, side, (box.llx + box.urx - side) / 2,
+                           (box.lly + box.ury - side) / 2);
+    return "q " + place.unparse() + " cm 0 G 1 J 1 j [] 0 d " + strokesOf(widget, field) + " Q\n";
 }
 
 // Adds the text that an appearance draws; false if it draws none.
@@ -69,7 +83,7 @@ bool addTextOf(AnnotationPage& filling, Widget& widget)
 void addMark(AnnotationPage& filling, Widget& widget, Field& field)
 {
     if (isTicked(widget, field) && !addTextOf(filling, widget)) {
-        filling.draw(fillMark(markOf(widget, field), widget.getRect()));
+        filling.draw(markOf(widget, field));
     }
 }
 

@@ -8,6 +8,7 @@
 #include "samplehost/support/hostfixture.h"
 #include "support/stricttest.h"
 
+#include <QtCore/QFile>
 #include <QtGui/QPainter>
 #include <QtGui/QPdfWriter>
 
@@ -67,7 +68,9 @@ void TestCatalogItem::itemsAreComplete()
     QCOMPARE(CatalogSize::problem(item.sizeMm, true), QString());
     QVERIFY(item.legend != item.field);
     QCOMPARE(item.header.isEmpty(), !item.headerField.isValid());
-    QCOMPARE(item.symbol == CatalogSymbol::Pictogram, hasPictogram(item.pictogram));
+    QCOMPARE(item.symbol.isEmpty(), hasPictogram(item.pictogram));
+    QCOMPARE(!item.symbol.isEmpty(),
+             QFile::exists(QStringLiteral(":/symbols/%1.svg").arg(item.symbol)));
 }
 
 void TestCatalogItem::itemsAreFoundByName()
