@@ -103,9 +103,7 @@ bool TestCupsDocuments::openFramed(const QList<QSizeF>& sizes) const
 
 void TestCupsDocuments::printsPages_data()
 {
-    QTest::addColumn<QString>("pages");
-    QTest::addColumn<int>("copies");
-    QTest::addColumn<QString>("printed");
+    addColumns<QString, int, QString>("pages", "copies", "printed");
 
     addRow("all", QString(), 1, "0 1 2 3");
     addRow("list", "4,1-2", 1, "3 0 1");
@@ -160,8 +158,7 @@ void TestCupsDocuments::printsSheetsAsInAFile()
 void TestCupsDocuments::pagesAreWhole_data()
 {
     using Sizes = QList<QSizeF>;
-    QTest::addColumn<Sizes>("pages");
-    QTest::addColumn<QSizeF>("paper");
+    addColumns<Sizes, QSizeF>("pages", "paper");
 
     addRow("a paper that the queue knows", Sizes{{421, 595}, {421, 595}}, QSizeF(421, 595));
     addRow("a paper that it does not know", Sizes{{298, 420}, {298, 420}}, QSizeF(298, 420));

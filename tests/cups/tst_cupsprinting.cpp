@@ -112,9 +112,7 @@ void TestCupsPrinting::theQueueIsFound()
 
 void TestCupsPrinting::printsRecords_data()
 {
-    QTest::addColumn<QString>("choice");
-    QTest::addColumn<int>("copies");
-    QTest::addColumn<QString>("records");
+    addColumns<QString, int, QString>("choice", "copies", "records");
 
     addRow("current", "current", 1, "3");
     addRow("list", "1,4-5", 1, "1 4 5");
@@ -158,8 +156,7 @@ void TestCupsPrinting::printsRecords()
 
 void TestCupsPrinting::printsSheets_data()
 {
-    QTest::addColumn<QString>("mode");
-    QTest::addColumn<QString>("printed");
+    addColumns<QString, QString>("mode", "printed");
 
     addRow("sequencing", "sequencingRadio", "0 1");
     addRow("replicating", "replicatingRadio", "0 1 2 3 4");

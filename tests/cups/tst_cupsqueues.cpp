@@ -103,9 +103,7 @@ bool TestCupsQueues::choiceIsKept() const
 
 void TestCupsQueues::statusFollowsTheQueue_data()
 {
-    QTest::addColumn<bool>("stopped");
-    QTest::addColumn<bool>("rejecting");
-    QTest::addColumn<QString>("status");
+    addColumns<bool, bool, QString>("stopped", "rejecting", "status");
 
     addRow("stopped", true, false, "Offline, Unavailable");
     addRow("rejecting", false, true, "Online, Unavailable");
@@ -149,10 +147,7 @@ void TestCupsQueues::stoppedQueueKeepsTheJob()
 
 void TestCupsQueues::refusalIsExplained_data()
 {
-    QTest::addColumn<int>("trouble");
-    QTest::addColumn<bool>("whilePrinting");
-    QTest::addColumn<QString>("reason");
-    QTest::addColumn<QString>("status");
+    addColumns<int, bool, QString, QString>("trouble", "whilePrinting", "reason", "status");
 
     const QString unknown =
         QStringLiteral("The printer \"Hall\" is not known to the system any more.");
@@ -224,8 +219,7 @@ void TestCupsQueues::addedQueueIsFound()
 
 void TestCupsQueues::goneServerIsExplained_data()
 {
-    QTest::addColumn<bool>("whilePrinting");
-    QTest::addColumn<QString>("reason");
+    addColumns<bool, QString>("whilePrinting", "reason");
 
     addRow("before printing", false, "The printer \"Hall\" is not known to the system any more.");
     addRow("while printing", true, "The printer \"Hall\" did not take the job: ");

@@ -55,8 +55,7 @@ void TestCupsSubmission::init()
 
 void TestCupsSubmission::savedOptionsApply_data()
 {
-    QTest::addColumn<QString>("printer");
-    QTest::addColumn<qsizetype>("sheets");
+    addColumns<QString, qsizetype>("printer", "sheets");
 
     addRow("queue", queueName(), qsizetype(2));
     addRow("instance", queueName() + QStringLiteral("/four"), qsizetype(1));

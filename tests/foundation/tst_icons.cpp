@@ -119,8 +119,7 @@ void tst_Icons::initTestCase()
 
 void tst_Icons::icon_data()
 {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QSize>("size");
+    addColumns<QString, QSize>("path", "size");
     for (const IconRow& row : icons)
         QTest::newRow(row.name) << prefix + QLatin1String(row.name) << QSize(row.width, row.height);
 }
@@ -159,8 +158,7 @@ void tst_Icons::nothingElseStandsUnderThePrefix()
 
 void tst_Icons::variantsDiffer_data()
 {
-    QTest::addColumn<QByteArray>("one");
-    QTest::addColumn<QByteArray>("other");
+    addColumns<QByteArray, QByteArray>("one", "other");
     const auto row = [](const char* one, const char* other) {
         QTest::addRow("%s, %s", one, other) << QByteArray(one) << QByteArray(other);
     };

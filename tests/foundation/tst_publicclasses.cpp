@@ -22,8 +22,7 @@ private Q_SLOTS:
 
 void tst_PublicClasses::aClassAddsOnePointerToItsBase_data()
 {
-    QTest::addColumn<std::size_t>("size");
-    QTest::addColumn<std::size_t>("baseSize");
+    addColumns<std::size_t, std::size_t>("size", "baseSize");
     addRow("PrintWidget", sizeof(PrintWidget), sizeof(PrintWidgetInterface));
     addRow("QuickPrintWidget", sizeof(QuickPrintWidget), sizeof(PrintWidgetInterface));
     addRow("MultiPagePrintWidget", sizeof(MultiPagePrintWidget), sizeof(PrintWidgetInterface));

@@ -108,8 +108,7 @@ void tst_RecordList::expressionIsBuiltOnce()
 
 void tst_RecordList::grammar_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("valid");
+    addColumns<QString, bool>("text", "valid");
     const auto valid = [](const char* text) {
         QTest::addRow("valid: %s", text) << QString::fromUtf8(text) << true;
     };
@@ -134,9 +133,7 @@ void tst_RecordList::grammar()
 
 void tst_RecordList::classify_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("records");
-    QTest::addColumn<Extent>("extent");
+    addColumns<QString, int, Extent>("text", "records", "extent");
 
     const auto one = [](const char* text, int records) {
         QTest::addRow("one: '%s' of %d", text, records)
@@ -239,8 +236,7 @@ void tst_RecordList::classifyAgreesWithThePlainRules()
 
 void tst_RecordList::classifyReadsHugeTextsQuickly_data()
 {
-    QTest::addColumn<QString>("piece");
-    QTest::addColumn<Extent>("extent");
+    addColumns<QString, Extent>("piece", "extent");
     addRow("commas", ",", Extent::OneRecord);
     addRow("hyphens", "-", Extent::OneRecord);
     addRow("digits", "7", Extent::OneRecord);
@@ -264,10 +260,7 @@ void tst_RecordList::classifyReadsHugeTextsQuickly()
 
 void tst_RecordList::firstPage_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("pages");
-    QTest::addColumn<bool>("hasItem");
-    QTest::addColumn<int>("page");
+    addColumns<QString, int, bool, int>("text", "pages", "hasItem", "page");
     const auto row = [](const char* text, int pages, int page) {
         QTest::addRow("'%s' of %d", text, pages)
             << QString::fromUtf8(text) << pages << true << page;

@@ -79,9 +79,7 @@ private Q_SLOTS:
 
 void tst_RecordListExpansion::expand_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("records");
-    QTest::addColumn<QString>("expected");
+    addColumns<QString, int, QString>("text", "records", "expected");
     const auto row = [](const char* text, int records, const char* expected) {
         QTest::addRow("%s of %d", text, records)
             << QString::fromLatin1(text) << records << QString::fromLatin1(expected);

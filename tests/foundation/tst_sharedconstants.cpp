@@ -173,10 +173,7 @@ void tst_SharedConstants::paletteHasThirteenAlignedEntries()
 
 void tst_SharedConstants::palette_data()
 {
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("code");
-    QTest::addColumn<QColor>("color");
+    addColumns<int, QString, QString, QColor>("index", "name", "code", "color");
 
     auto row = [index = 0](const char* name, const char* code, int rgb) mutable {
         QTest::newRow(name) << index++ << QString::fromLatin1(name) << QString::fromLatin1(code)
@@ -220,9 +217,7 @@ void tst_SharedConstants::theLastPaletteEntryIsClearNotTransparent()
 
 void tst_SharedConstants::namedColours_data()
 {
-    QTest::addColumn<QColor>("constant");
-    QTest::addColumn<QColor>("expected");
-    QTest::addColumn<int>("index");
+    addColumns<QColor, QColor, int>("constant", "expected", "index");
 
     addRow("yellow", yellowColor, QColor(0xfe, 0xdb, 0x00), 4);
     addRow("sky blue", skyBlueColor, QColor(0x41, 0xb6, 0xe6), 9);

@@ -74,8 +74,7 @@ void end(Held& held, const QByteArray& ending)
 
 void tst_StepButtons::addPanels(const QByteArrayList& endings)
 {
-    QTest::addColumn<Create>("create");
-    QTest::addColumn<QByteArray>("ending");
+    addColumns<Create, QByteArray>("create", "ending");
     for (const QByteArray& ending : endings) {
         QTest::addRow("print panel %s", ending.constData()) << Create(newPrintPanel) << ending;
         QTest::addRow("quick panel %s", ending.constData()) << Create(newQuickPanel) << ending;

@@ -50,8 +50,7 @@ std::ptrdiff_t offsetOf(Member member)
 
 void tst_VirtualOrder::operationsFollowThoseOfQWidgetInTheirOrder_data()
 {
-    QTest::addColumn<std::ptrdiff_t>("offset");
-    QTest::addColumn<int>("place");
+    addColumns<std::ptrdiff_t, int>("offset", "place");
     int place = 0;
     const auto row = [&place](const char* name, auto member) {
         QTest::newRow(name) << offsetOf(member) << place++;

@@ -158,8 +158,7 @@ void TestColorMenu::namesAndCodesAreIndexAligned()
 
 void TestColorMenu::surplusEntriesAreIgnored_data()
 {
-    QTest::addColumn<QList<QString>>("names");
-    QTest::addColumn<QList<QString>>("codes");
+    addColumns<QList<QString>, QList<QString>>("names", "codes");
     const QString name = QStringLiteral("Cherry");
     const QString code = QStringLiteral("#dc0b0b");
     addRow("more names", QList<QString>{name, name, name}, QList<QString>{code});
@@ -189,8 +188,7 @@ void TestColorMenu::invalidCodesAreLeftOut()
 
 void TestColorMenu::knownCodesGetNames_data()
 {
-    QTest::addColumn<QString>("code");
-    QTest::addColumn<QString>("name");
+    addColumns<QString, QString>("code", "name");
     const auto row = [](const char* code, const char* name) {
         QTest::newRow(code) << QString::fromLatin1(code) << QString::fromLatin1(name);
     };
@@ -406,8 +404,7 @@ void TestColorMenu::enterDoesNotReachTheDialog()
 
 void TestColorMenu::arrowKeysStayInTheMenu_data()
 {
-    QTest::addColumn<int>("start");
-    QTest::addColumn<int>("key");
+    addColumns<int, int>("start", "key");
     addRow("left of the first", 0, int(Qt::Key_Left));
     addRow("above the first row", 3, int(Qt::Key_Up));
     addRow("right of the last", 8, int(Qt::Key_Right));

@@ -66,8 +66,7 @@ void TestEditorCommon::fontsFollowTheApplicationsFont()
 
 void TestEditorCommon::whiteSpace_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("white");
+    addColumns<QString, bool>("text", "white");
     addRow("null", QString(), true);
     addRow("empty", "", true);
     addRow("blank", " ", true);
@@ -90,8 +89,7 @@ void TestEditorCommon::whiteSpace()
 
 void TestEditorCommon::moduleTypes_data()
 {
-    QTest::addColumn<int>("type");
-    QTest::addColumn<int>("value");
+    addColumns<int, int>("type", "value");
     addRow("Unspecified", int(JxModuleInfo::Unspecified), 0);
     addRow("JxLabelEditor", int(JxModuleInfo::JxLabelEditor), 1);
     addRow("GHS", int(JxModuleInfo::GHS), 2);
@@ -121,8 +119,7 @@ void TestEditorCommon::moduleTypesAreComplete()
 
 void TestEditorCommon::imagesAreThere_data()
 {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QSize>("size");
+    addColumns<QString, QSize>("file", "size");
     const auto row = [](const char* file, int width, int height) {
         QTest::newRow(file) << QString::fromLatin1(file) << QSize(width, height);
     };

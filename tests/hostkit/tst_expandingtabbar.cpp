@@ -89,8 +89,7 @@ struct Bar : ExpandingTabBar
 
 void TestExpandingTabBar::rectangleShowsItsColor_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("tabText");
+    addColumns<QString, QString>("text", "tabText");
     for (const char* text : {"#dc0b0b", "#00FFFF", "#0018a8", "#FFFFFE"}) {
         QTest::addRow("%s beside a picture", text) << QString::fromLatin1(text) << "!";
         QTest::addRow("%s beside a text", text) << QString::fromLatin1(text) << "x";
@@ -220,8 +219,7 @@ void TestExpandingTabBar::rectanglesFollowTheirTabs()
 
 void TestExpandingTabBar::pictureStandsForAGlyph_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("file");
+    addColumns<QString, QString>("text", "file");
     addRow("ribbon", "!", ":/hostkit/ribbon.png");
     addRow("blank ribbon", QString(QChar(blankRibbonGlyph)), ":/hostkit/blank-ribbon.png");
     addRow("supply", QString(QChar(supplyGlyph)), ":/hostkit/supply.png");

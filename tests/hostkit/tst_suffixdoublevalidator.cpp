@@ -54,8 +54,7 @@ Q_DECLARE_METATYPE(QValidator::State)
 
 void TestSuffixDoubleValidator::judgesAWidth_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QValidator::State>("state");
+    addColumns<QString, QValidator::State>("text", "state");
     const auto row = [](const char* text, QValidator::State state) {
         QTest::addRow("'%s'", text) << QString::fromUtf8(text) << state;
     };
@@ -132,11 +131,8 @@ void TestSuffixDoubleValidator::judgesAWidth()
 
 void TestSuffixDoubleValidator::judgesByItsBounds_data()
 {
-    QTest::addColumn<double>("bottom");
-    QTest::addColumn<double>("top");
-    QTest::addColumn<int>("decimals");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QValidator::State>("state");
+    addColumns<double, double, int, QString, QValidator::State>("bottom", "top", "decimals", "text",
+                                                                "state");
     const auto row = [](double bottom, double top, int decimals, const char* text,
                         QValidator::State state) {
         QTest::addRow("%g to %g, %d decimals: '%s'", bottom, top, decimals, text)
@@ -256,10 +252,7 @@ void TestSuffixDoubleValidator::emptySuffixAllowsNothingBehindTheNumber()
 
 void TestSuffixDoubleValidator::numbersBeyondADoubleAreJudgedByTheirSize_data()
 {
-    QTest::addColumn<double>("bottom");
-    QTest::addColumn<double>("top");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QValidator::State>("state");
+    addColumns<double, double, QString, QValidator::State>("bottom", "top", "text", "state");
     constexpr double infinite = std::numeric_limits<double>::infinity();
     const QString large(400, QLatin1Char('9'));
     const QString small = QStringLiteral("0.") + QString(400, QLatin1Char('0')) + QLatin1Char('1');
@@ -288,8 +281,7 @@ void TestSuffixDoubleValidator::numbersBeyondADoubleAreJudgedByTheirSize()
 
 void TestSuffixDoubleValidator::hugeTextsAreJudgedQuickly_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QValidator::State>("state");
+    addColumns<QString, QValidator::State>("text", "state");
     constexpr int huge = 1 << 20;
     addRow("nines", QString(huge, QLatin1Char('9')), invalid);
     addRow("zeros", QString(huge, QLatin1Char('0')), acceptable);
@@ -321,9 +313,7 @@ void TestSuffixDoubleValidator::hugeTextsAreJudgedQuickly()
 
 void TestSuffixDoubleValidator::typingIntoALineEdit_data()
 {
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("acceptable");
+    addColumns<QString, QString, bool>("typed", "text", "acceptable");
     const auto row = [](const char* typed, const char* text, bool satisfied) {
         QTest::newRow(typed) << QString::fromLatin1(typed) << QString::fromLatin1(text)
                              << satisfied;

@@ -72,8 +72,7 @@ void tst_MultiPageCopies::readsTheText()
 
 void tst_MultiPageCopies::setsAnyNumber_data()
 {
-    QTest::addColumn<int>("number");
-    QTest::addColumn<QString>("text");
+    addColumns<int, QString>("number", "text");
     addRow("one", 1, "1");
     addRow("most", 999, "999");
     addRow("more than the user may ask for", 1500, "1500");
@@ -94,9 +93,7 @@ void tst_MultiPageCopies::setsAnyNumber()
 
 void tst_MultiPageCopies::steps_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("more");
-    QTest::addColumn<QString>("less");
+    addColumns<QString, QString, QString>("text", "more", "less");
     addRow("one", "1", "2", "1");
     addRow("two", "2", "3", "1");
     addRow("998", "998", "999", "997");
@@ -164,8 +161,7 @@ void tst_MultiPageCopies::typingIsLimited()
 
 void tst_MultiPageCopies::whatCanBeTypedIsRead_data()
 {
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("typed");
+    addColumns<QString, QString>("language", "typed");
     addRow("group separator", "en", "3,3");
     addRow("another one", "de", "3.3");
     addRow("other digits", "ar_EG", "\u06633\u06643");

@@ -190,8 +190,7 @@ void tst_MultiPageHostileHost::numbersWithoutSense()
 
 void tst_MultiPageHostileHost::dialogAtAPlaceBeyondAnyScreen_data()
 {
-    QTest::addColumn<int>("place");
-    QTest::addColumn<int>("expected");
+    addColumns<int, int>("place", "expected");
     addRow("highest", highest, QWIDGETSIZE_MAX);
     addRow("lowest", lowest, -QWIDGETSIZE_MAX);
 }

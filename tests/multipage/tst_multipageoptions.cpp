@@ -82,8 +82,7 @@ void tst_MultiPageOptions::keyboardIsReported()
 
 void tst_MultiPageOptions::formFillOption_data()
 {
-    QTest::addColumn<bool>("visible");
-    QTest::addColumn<bool>("checked");
+    addColumns<bool, bool>("visible", "checked");
     addRow("shown, checked", true, true);
     addRow("shown, unchecked", true, false);
     addRow("hidden, checked", false, true);

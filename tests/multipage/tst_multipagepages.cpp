@@ -135,8 +135,7 @@ void tst_MultiPagePages::radiosAreOneExclusiveGroup()
 
 void tst_MultiPagePages::pageInfoForcesOneReport_data()
 {
-    QTest::addColumn<int>("current");
-    QTest::addColumn<int>("count");
+    addColumns<int, int>("current", "count");
     addRow("page 3 of 10", 3, 10);
     addRow("page 1 of 1, where it was", 1, 1);
     addRow("page 0", 0, 10);
@@ -164,9 +163,7 @@ void tst_MultiPagePages::pageInfoForcesOneReport()
 
 void tst_MultiPagePages::pageInfoReportsTheSamePageAgain_data()
 {
-    QTest::addColumn<int>("choice");
-    QTest::addColumn<QString>("list");
-    QTest::addColumn<int>("reported");
+    addColumns<int, QString, int>("choice", "list", "reported");
     addRow("current page", int(Current), QString(), 3);
     addRow("all pages", int(All), QString(), 1);
     addRow("empty selection", int(Selection), QString(), 3);
@@ -188,10 +185,7 @@ void tst_MultiPagePages::pageInfoReportsTheSamePageAgain()
 
 void tst_MultiPagePages::pageInfoOfASelectionMayReportTwice_data()
 {
-    QTest::addColumn<QString>("list");
-    QTest::addColumn<int>("current");
-    QTest::addColumn<int>("count");
-    QTest::addColumn<QList<int>>("reported");
+    addColumns<QString, int, int, QList<int>>("list", "current", "count", "reported");
     const auto row = [](const char* name, const QString& list, int current, int count,
                         const QList<int>& reported) {
         QTest::newRow(name) << list << current << count << reported;
@@ -231,10 +225,7 @@ void tst_MultiPagePages::pageInfoEnablesTheWholeFrame()
 
 void tst_MultiPagePages::currentIndexReports_data()
 {
-    QTest::addColumn<int>("choice");
-    QTest::addColumn<QString>("list");
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QList<int>>("reported");
+    addColumns<int, QString, int, QList<int>>("choice", "list", "index", "reported");
     const auto row = [](const char* name, int choice, const QString& list, int index,
                         const QList<int>& reported) {
         QTest::newRow(name) << choice << list << index << reported;
@@ -297,8 +288,7 @@ void tst_MultiPagePages::clicksOnTheRadios()
 
 void tst_MultiPagePages::listIsEnabledForTheSelectionOnly_data()
 {
-    QTest::addColumn<int>("choice");
-    QTest::addColumn<bool>("enabled");
+    addColumns<int, bool>("choice", "enabled");
     addRow("current page", int(Current), false);
     addRow("all pages", int(All), false);
     addRow("selection", int(Selection), true);
@@ -340,10 +330,7 @@ void tst_MultiPagePages::checkRangeUpdateLeavesTheListAsItIs()
 
 void tst_MultiPagePages::updatesReport_data()
 {
-    QTest::addColumn<int>("choice");
-    QTest::addColumn<QString>("list");
-    QTest::addColumn<QList<int>>("changed");
-    QTest::addColumn<QList<int>>("forced");
+    addColumns<int, QString, QList<int>, QList<int>>("choice", "list", "changed", "forced");
     const auto row = [](const char* name, int choice, const QString& list,
                         const QList<int>& changed, const QList<int>& forced) {
         QTest::newRow(name) << choice << list << changed << forced;
@@ -463,9 +450,7 @@ void tst_MultiPagePages::parseReturnsWhetherTheStartChanged()
 
 void tst_MultiPagePages::printRequests_data()
 {
-    QTest::addColumn<int>("choice");
-    QTest::addColumn<QString>("list");
-    QTest::addColumn<Request>("request");
+    addColumns<int, QString, Request>("choice", "list", "request");
     const auto row = [](const char* name, int choice, const QString& list, const Request& request) {
         QTest::newRow(name) << choice << list << request;
     };

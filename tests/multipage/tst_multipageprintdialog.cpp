@@ -412,8 +412,7 @@ void tst_MultiPagePrintDialog::escapeHidesOnly()
 
 void tst_MultiPagePrintDialog::signalMoveMovesTheDialog_data()
 {
-    QTest::addColumn<int>("x");
-    QTest::addColumn<int>("y");
+    addColumns<int, int>("x", "y");
     addRow("somewhere", 123, 45);
     addRow("the corner", 0, 0);
     addRow("off the screen", -300, 2000);

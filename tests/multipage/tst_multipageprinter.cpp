@@ -69,10 +69,7 @@ private Q_SLOTS:
 
 void tst_MultiPagePrinter::listReplacesAndSelects_data()
 {
-    QTest::addColumn<QStringList>("list");
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QStringList>("items");
-    QTest::addColumn<int>("current");
+    addColumns<QStringList, int, QStringList, int>("list", "index", "items", "current");
     const QStringList none;
     const QStringList noPrinter = {QStringLiteral("No printer")};
     addRow("first", names(), 0, names(), 0);
@@ -128,8 +125,7 @@ void tst_MultiPagePrinter::noPrinterIsAPlainItem()
 
 void tst_MultiPagePrinter::selectionByName_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("current");
+    addColumns<QString, int>("name", "current");
     addRow("exact", "Beta", 1);
     addRow("the other case", "alpha", 2);
     addRow("differs only in case", "BETA", -1);
@@ -228,8 +224,7 @@ void tst_MultiPagePrinter::indexChangeIsReportedOnceHoweverOftenTheListWasFilled
 
 void tst_MultiPagePrinter::slotReportsTheItemsText_data()
 {
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QString>("name");
+    addColumns<int, QString>("index", "name");
     addRow("first", 0, "Alpha");
     addRow("fourth", 3, "Beta");
     addRow("none", -1, QString());

@@ -277,8 +277,7 @@ void tst_MultiPagePrintWidget::parseAnswersThroughTheMetaObject()
 
 void tst_MultiPagePrintWidget::buttonsEnabling_data()
 {
-    QTest::addColumn<int>("operation");
-    QTest::addColumn<bool>("enabled");
+    addColumns<int, bool>("operation", "enabled");
     addRow("enablePrintButtons", 0, true);
     addRow("enableAllButtons", 1, true);
     addRow("disablePrintButtons", 2, false);

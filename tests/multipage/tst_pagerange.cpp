@@ -21,11 +21,7 @@ private Q_SLOTS:
 
 void tst_PageRange::listedPagesOf_data()
 {
-    QTest::addColumn<QString>("list");
-    QTest::addColumn<int>("current");
-    QTest::addColumn<int>("count");
-    QTest::addColumn<int>("start");
-    QTest::addColumn<int>("end");
+    addColumns<QString, int, int, int, int>("list", "current", "count", "start", "end");
     constexpr int highest = std::numeric_limits<int>::max();
 
     addRow("empty: the current page", QString(), 3, 10, 3, 3);

@@ -33,8 +33,7 @@ private Q_SLOTS:
 
 void tst_PopupHost::hostMayDeleteThePopupInItsSignals_data()
 {
-    QTest::addColumn<QByteArray>("signal");
-    QTest::addColumn<QByteArray>("button");
+    addColumns<QByteArray, QByteArray>("signal", "button");
     const QByteArray print = SIGNAL(previewPrintSignal(int, int, QString));
     const QByteArray turn = SIGNAL(orientationChangedSignal(int));
     const QByteArray hidden = SIGNAL(popupHideSignal());

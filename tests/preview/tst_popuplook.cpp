@@ -85,8 +85,7 @@ void tst_PopupLook::buttonTexts()
 
 void tst_PopupLook::styleSheets_data()
 {
-    QTest::addColumn<QByteArray>("button");
-    QTest::addColumn<QByteArray>("role");
+    addColumns<QByteArray, QByteArray>("button", "role");
     addRow("zoom in", QByteArray("zoomInButton"), QByteArray("zoomInButton"));
     addRow("zoom out", QByteArray("zoomOutButton"), QByteArray("zoomOutButton"));
     addRow("fit", QByteArray("fitButton"), QByteArray("fitButton"));

@@ -48,9 +48,7 @@ void tst_PopupTitle::initTestCase()
 
 void tst_PopupTitle::placeMarkersInAUnitStayText_data()
 {
-    QTest::addColumn<bool>("printedSizeOnly");
-    QTest::addColumn<bool>("metric");
-    QTest::addColumn<QString>("title");
+    addColumns<bool, bool, QString>("printedSizeOnly", "metric", "title");
     addRow("printed size, millimetres", true, true,
            "Print Preview (3 mm%1%2%3%4%5 X 1 mm%1%2%3%4%5)");
     addRow("printed size, inches", true, false,

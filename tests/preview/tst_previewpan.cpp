@@ -163,9 +163,7 @@ void tst_PreviewPan::everyButtonDrags()
 
 void tst_PreviewPan::positionsAreRoundedToWholePixels_data()
 {
-    QTest::addColumn<QPointF>("from");
-    QTest::addColumn<QPointF>("to");
-    QTest::addColumn<QPoint>("moved");
+    addColumns<QPointF, QPointF, QPoint>("from", "to", "moved");
     addRow("down", QPointF(10.4, 10.4), QPointF(30.3, 40.2), QPoint(20, 30));
     addRow("up", QPointF(10.6, 10.6), QPointF(30.7, 40.9), QPoint(20, 30));
     addRow("halves away from zero", QPointF(10.5, -10.5), QPointF(10.0, -10.0), QPoint(-1, 1));

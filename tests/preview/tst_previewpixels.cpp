@@ -129,9 +129,7 @@ private:
 
 void tst_PreviewPixels::addWalks()
 {
-    QTest::addColumn<quint32>("seed");
-    QTest::addColumn<QSize>("imageSize");
-    QTest::addColumn<QSize>("viewSize");
+    addColumns<quint32, QSize, QSize>("seed", "imageSize", "viewSize");
     const QSize images[] = {QSize(40, 30), QSize(81, 57), QSize(300, 20), QSize(1, 1)};
     const QSize views[] = {QSize(200, 200), QSize(151, 98)};
     quint32 seed = 20240;

@@ -120,9 +120,7 @@ void tst_PreviewView::sharesThePictureInsteadOfCopyingIt()
 
 void tst_PreviewView::startsAtScaleOneAroundTheIntegerCentre_data()
 {
-    QTest::addColumn<QSize>("viewSize");
-    QTest::addColumn<QSize>("imageSize");
-    QTest::addColumn<QRect>("expected");
+    addColumns<QSize, QSize, QRect>("viewSize", "imageSize", "expected");
     // The centre of a view is ((width - 1) / 2, (height - 1) / 2), as whole numbers.
     addRow("odd view, even image", QSize(101, 61), QSize(10, 4), QRect(45, 28, 10, 4));
     addRow("even view, even image", QSize(100, 60), QSize(10, 4), QRect(44, 27, 10, 4));
@@ -157,9 +155,7 @@ void tst_PreviewView::zoomOutBeforeTheFirstFitIsHarmless()
 
 void tst_PreviewView::fitShowsTheWholeImage_data()
 {
-    QTest::addColumn<QSize>("viewSize");
-    QTest::addColumn<QSize>("imageSize");
-    QTest::addColumn<QSize>("expected");
+    addColumns<QSize, QSize, QSize>("viewSize", "imageSize", "expected");
     addRow("wide image fits across", QSize(201, 201), QSize(400, 100), QSize(201, 50));
     addRow("tall image fits down", QSize(201, 201), QSize(100, 400), QSize(50, 201));
     addRow("small image grows", QSize(201, 201), QSize(3, 3), QSize(201, 201));
@@ -359,8 +355,7 @@ void tst_PreviewView::scaleByIgnoresWhatIsNoNumber()
 
 void tst_PreviewView::wheelIsOneStepWhateverItsDelta_data()
 {
-    QTest::addColumn<QPoint>("delta");
-    QTest::addColumn<int>("expected");
+    addColumns<QPoint, int>("delta", "expected");
     addRow("one notch away", QPoint(0, 120), 110);
     addRow("smallest turn away", QPoint(0, 1), 110);
     addRow("many notches away", QPoint(0, 12000), 110);

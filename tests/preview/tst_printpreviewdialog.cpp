@@ -148,11 +148,8 @@ void tst_PrintPreviewDialog::startsHiddenWithItsNameAndSize()
 
 void tst_PrintPreviewDialog::titleNamesTheSizes_data()
 {
-    QTest::addColumn<QSizeF>("design");
-    QTest::addColumn<QSizeF>("printed");
-    QTest::addColumn<bool>("printedOnly");
-    QTest::addColumn<bool>("metric");
-    QTest::addColumn<QString>("title");
+    addColumns<QSizeF, QSizeF, bool, bool, QString>("design", "printed", "printedOnly", "metric",
+                                                    "title");
     addRow("inches, both", QSizeF(4, 2), QSizeF(3.5, 1.75), false, false,
            "Print Preview (Design: 4.00\" X 2.00\"  Printed: 3.50\" X 1.75\")");
     addRow("inches, printed only", QSizeF(4, 2), QSizeF(3.5, 1.75), true, false,
@@ -198,9 +195,7 @@ void tst_PrintPreviewDialog::titleNamesTheSizes()
 
 void tst_PrintPreviewDialog::titleSurvivesAnyNumber_data()
 {
-    QTest::addColumn<double>("length");
-    QTest::addColumn<QString>("inches");
-    QTest::addColumn<QString>("millimetres");
+    addColumns<double, QString, QString>("length", "inches", "millimetres");
     addRow("not a number", std::numeric_limits<double>::quiet_NaN(), "nan", "nan");
     addRow("infinite", std::numeric_limits<double>::infinity(), "inf", "inf");
     addRow("large", 1e15, "1000000000000000.00", "1000000000000000");
@@ -227,9 +222,7 @@ void tst_PrintPreviewDialog::titleSurvivesAnyNumber()
 
 void tst_PrintPreviewDialog::printHandsBackTheRange_data()
 {
-    QTest::addColumn<int>("start");
-    QTest::addColumn<int>("end");
-    QTest::addColumn<QString>("list");
+    addColumns<int, int, QString>("start", "end", "list");
     addRow("one record", 5, -1, QString());
     addRow("all records", 1, 99999, QString());
     addRow("a list", 0, 0, "1,4-5");
@@ -462,8 +455,7 @@ void tst_PrintPreviewDialog::mouseMoveSlotPlacesThePopup()
 
 void tst_PrintPreviewDialog::placesBeyondAnyScreenKeepTheSize_data()
 {
-    QTest::addColumn<int>("place");
-    QTest::addColumn<int>("expected");
+    addColumns<int, int>("place", "expected");
     addRow("highest", std::numeric_limits<int>::max(), QWIDGETSIZE_MAX);
     addRow("lowest", std::numeric_limits<int>::min(), -QWIDGETSIZE_MAX);
 }

@@ -145,8 +145,7 @@ void tst_Ammonia::setModuleBuildsHiddenAndDisconnected()
 
 void tst_Ammonia::entriesFollowTheMask_data()
 {
-    QTest::addColumn<int>("mask");
-    QTest::addColumn<QStringList>("expected");
+    addColumns<int, QStringList>("mask", "expected");
     const QString label = QStringLiteral("Label=0");
     const QString high = QStringLiteral("High Pressure Tag=1");
     const QString low = QStringLiteral("Low Pressure Tag=2");
@@ -236,9 +235,7 @@ void tst_Ammonia::setModuleAfterTagsStartsOverHidden()
 
 void tst_Ammonia::theUsersChoiceIsReportedByItsValue_data()
 {
-    QTest::addColumn<int>("mask");
-    QTest::addColumn<int>("index");
-    QTest::addColumn<int>("value");
+    addColumns<int, int, int>("mask", "index", "value");
     addRow("third entry of 5 is 4", 5, 2, 4);
     addRow("second entry of 5 is 1", 5, 1, 1);
     addRow("second entry of 8 is 8", 8, 1, 8);
@@ -307,8 +304,7 @@ void tst_Ammonia::withoutTagsTheComboIsDisconnected()
 
 void tst_Ammonia::negativeIndexIsIgnored_data()
 {
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QList<QVariantList>>("emitted");
+    addColumns<int, QList<QVariantList>>("index", "emitted");
     addRow("-1", -1, QList<QVariantList>());
     addRow("lowest", INT_MIN, QList<QVariantList>());
     addRow("first", 0, QList<QVariantList>{QVariantList{0}});

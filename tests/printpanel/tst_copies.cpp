@@ -87,9 +87,7 @@ void tst_Copies::copiesSpinBox()
 
 void tst_Copies::stepButtons_data()
 {
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<int>("characters");
-    QTest::addColumn<QString>("image");
+    addColumns<QByteArray, int, QString>("name", "characters", "image");
     addRow("plus", QByteArray("plusButton"), 222, ":/Size/SizeIcons/plus.png");
     addRow("minus", QByteArray("minusButton"), 225, ":/Size/SizeIcons/minus.png");
 }
@@ -151,8 +149,7 @@ void tst_Copies::aHeldStepButtonRepeats()
 
 void tst_Copies::setNumberOfCopies_data()
 {
-    QTest::addColumn<int>("asked");
-    QTest::addColumn<int>("copies");
+    addColumns<int, int>("asked", "copies");
     const auto row = [](int asked, int copies) { QTest::addRow("%d", asked) << asked << copies; };
     row(1, 1);
     row(7, 7);

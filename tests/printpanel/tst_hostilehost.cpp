@@ -117,8 +117,7 @@ void tst_HostileHost::deletedInAHandler()
 
 void tst_HostileHost::deletedByAMouseClick_data()
 {
-    QTest::addColumn<QByteArray>("button");
-    QTest::addColumn<QByteArray>("signal");
+    addColumns<QByteArray, QByteArray>("button", "signal");
     addRow("print", QByteArray("PrintButton"),
            QByteArray(SIGNAL(widgetPrintSignal(int, int, QString))));
     addRow("preview", QByteArray("PreviewButton"),

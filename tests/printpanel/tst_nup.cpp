@@ -140,8 +140,7 @@ void tst_Nup::radios()
 
 void tst_Nup::pictures_data()
 {
-    QTest::addColumn<QByteArray>("buddy");
-    QTest::addColumn<QString>("sheet");
+    addColumns<QByteArray, QString>("buddy", "sheet");
     addRow("replicatingIconLabel", QByteArray("replicatingRadio"),
            "QLabel { width: 78px; height: 36px; }\n QLabel { border-image: "
            "url(:/printicons/printericons/replicating.png); }\n QLabel::disabled { "
@@ -194,9 +193,7 @@ void tst_Nup::group()
 
 void tst_Nup::visibility_data()
 {
-    QTest::addColumn<bool>("asked");
-    QTest::addColumn<bool>("sectionEnabled");
-    QTest::addColumn<bool>("visible");
+    addColumns<bool, bool, bool>("asked", "sectionEnabled", "visible");
     addRow("shown", true, true, true);
     addRow("hidden", false, true, false);
     addRow("section disabled keeps it hidden", true, false, false);
@@ -243,12 +240,8 @@ void tst_Nup::enablingTheSectionDoesNotShowTheFrame()
 
 void tst_Nup::rules_data()
 {
-    QTest::addColumn<bool>("dynamicLength");
-    QTest::addColumn<int>("records");
-    QTest::addColumn<bool>("sequencingChosen");
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<bool>("sequencing");
-    QTest::addColumn<int>("tip");
+    addColumns<bool, int, bool, bool, bool, int>("dynamicLength", "records", "sequencingChosen",
+                                                 "enabled", "sequencing", "tip");
     constexpr int none = -1;
     addRow("dynamic, several", true, 10, false, false, false, 2);
     addRow("dynamic, several, sequencing chosen", true, 10, true, false, false, 2);
@@ -386,9 +379,7 @@ void tst_Nup::dynamicLengthIsRemembered()
 
 void tst_Nup::option_data()
 {
-    QTest::addColumn<bool>("sequencing");
-    QTest::addColumn<bool>("visible");
-    QTest::addColumn<bool>("option");
+    addColumns<bool, bool, bool>("sequencing", "visible", "option");
     addRow("sequencing", true, true, true);
     addRow("replicating", false, true, false);
     addRow("sequencing, hidden", true, false, false);

@@ -46,8 +46,7 @@ private Q_SLOTS:
 
 void tst_NupOverride::rulesRunInTheOverride_data()
 {
-    QTest::addColumn<Step>("step");
-    QTest::addColumn<int>("calls");
+    addColumns<Step, int>("step", "calls");
     addRow("a radio is clicked", &clickAllRecords, 1);
     addRow("the text changes", &changeTheText, 1);
     addRow("setRangeValues", &tellTheRange, 1);

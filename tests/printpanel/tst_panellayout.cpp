@@ -184,8 +184,7 @@ void tst_PanelLayout::setUpState(PrintPanelFixture& panel, const QString& state)
 
 void tst_PanelLayout::extraHeightGoesToTheBottomSeparator_data()
 {
-    QTest::addColumn<bool>("testControls");
-    QTest::addColumn<QString>("state");
+    addColumns<bool, QString>("testControls", "state");
     addRow("plain", false, QString());
     addRow("test controls", true, QString());
     addRow("N-up", false, "nup");

@@ -118,8 +118,7 @@ private Q_SLOTS:
 
 void tst_PanelTexts::everyTextIsLookedUpWithItsKey_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("comment");
+    addColumns<QString, QString>("text", "comment");
     for (const TextRow& row : texts)
         QTest::newRow(row.text) << QString::fromUtf8(row.text) << QString::fromUtf8(row.comment);
 }
@@ -183,9 +182,7 @@ void tst_PanelTexts::labelsShowTheirTranslation()
 
 void tst_PanelTexts::propertiesShowTheirTranslation_data()
 {
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<QByteArray>("property");
-    QTest::addColumn<QString>("shown");
+    addColumns<QByteArray, QByteArray, QString>("name", "property", "shown");
     const auto row = [](const char* name, const char* property, const char* text,
                         const char* comment) {
         QTest::addRow("%s.%s", name, property)

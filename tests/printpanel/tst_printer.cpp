@@ -185,10 +185,7 @@ void tst_Printer::preferencesButtonEmitsOpenPreferences()
 
 void tst_Printer::status_data()
 {
-    QTest::addColumn<bool>("offline");
-    QTest::addColumn<bool>("remote");
-    QTest::addColumn<bool>("unavailable");
-    QTest::addColumn<QString>("text");
+    addColumns<bool, bool, bool, QString>("offline", "remote", "unavailable", "text");
     addRow("nothing", false, false, false, "Online");
     addRow("offline", true, false, false, "Offline");
     addRow("remote", false, true, false, "Remote");

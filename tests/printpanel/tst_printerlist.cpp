@@ -92,8 +92,7 @@ void tst_PrinterList::emptyListShowsNoPrinter()
 
 void tst_PrinterList::indexSelectsThePrinter_data()
 {
-    QTest::addColumn<int>("index");
-    QTest::addColumn<int>("current");
+    addColumns<int, int>("index", "current");
     addRow("first", 0, 0);
     addRow("last", 2, 2);
     addRow("none", -1, -1);
@@ -245,8 +244,7 @@ void tst_PrinterList::theConnectionStandsOnceAfterEveryHostOperation()
 
 void tst_PrinterList::slotTakesTheTextAtItsIndex_data()
 {
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QString>("text");
+    addColumns<int, QString>("index", "text");
     addRow("an item that is not the current one", 2, "Gamma");
     addRow("no item", -1, QString());
     addRow("beyond the last", 3, QString());

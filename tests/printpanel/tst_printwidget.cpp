@@ -111,10 +111,7 @@ void tst_PrintWidget::buttonsAtConstruction()
 
 void tst_PrintWidget::buttonsEnabling_data()
 {
-    QTest::addColumn<bool>("enabledBefore");
-    QTest::addColumn<int>("operation");
-    QTest::addColumn<bool>("requests");
-    QTest::addColumn<bool>("preferences");
+    addColumns<bool, int, bool, bool>("enabledBefore", "operation", "requests", "preferences");
 
     addRow("enablePrintButtons leaves preferences disabled", false, 0, true, false);
     addRow("enableAllButtons", false, 1, true, true);

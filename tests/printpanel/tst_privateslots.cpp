@@ -44,8 +44,7 @@ private Q_SLOTS:
 
 void tst_PrivateSlots::requestSlotsAskForTheRecords_data()
 {
-    QTest::addColumn<QByteArray>("slot");
-    QTest::addColumn<QByteArray>("signal");
+    addColumns<QByteArray, QByteArray>("slot", "signal");
     addRow("printSlot", QByteArray(SLOT(printSlot())),
            QByteArray(SIGNAL(widgetPrintSignal(int, int, QString))));
     addRow("printPreviewSlot", QByteArray(SLOT(printPreviewSlot())),
@@ -137,8 +136,7 @@ void tst_PrivateSlots::ammoniaPrintComboChangedReportsTheTag()
 
 void tst_PrivateSlots::colorSelectionSlotsReportTheColor_data()
 {
-    QTest::addColumn<QByteArray>("slot");
-    QTest::addColumn<QStringList>("reported");
+    addColumns<QByteArray, QStringList>("slot", "reported");
     addRow("ribbon1ColorSelectionSlot", QByteArray(SLOT(ribbon1ColorSelectionSlot(QString))),
            colors({"#fedb00", "#248d4f", "#ffffff"}));
     addRow("ribbon2ColorSelectionSlot", QByteArray(SLOT(ribbon2ColorSelectionSlot(QString))),

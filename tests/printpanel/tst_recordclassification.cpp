@@ -55,9 +55,7 @@ void tst_RecordClassification::programmaticCheckDoesNotClassify()
 
 void tst_RecordClassification::classification_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("records");
-    QTest::addColumn<bool>("several");
+    addColumns<QString, int, bool>("text", "records", "several");
     const auto one = [](const char* text, int records) {
         QTest::addRow("one: '%s' of %d", text, records)
             << QString::fromUtf8(text) << records << false;

@@ -79,9 +79,7 @@ void tst_Records::caption()
 
 void tst_Records::radios_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("id");
-    QTest::addColumn<bool>("checked");
+    addColumns<QString, int, bool>("text", "id", "checked");
     addRow("currentRecordRadio", "Current Record", 0, true);
     addRow("allRecordsRadio", "All Records", 1, false);
     addRow("recordListRadio", "Range or List of Records:", 2, false);
@@ -152,10 +150,7 @@ void tst_Records::nupRulesDoNotRunAtConstruction()
 
 void tst_Records::setRangeValues_data()
 {
-    QTest::addColumn<int>("currentIndex");
-    QTest::addColumn<int>("lastIndex");
-    QTest::addColumn<int>("current");
-    QTest::addColumn<int>("count");
+    addColumns<int, int, int, int>("currentIndex", "lastIndex", "current", "count");
     addRow("one record", 0, 0, 1, 1);
     addRow("third of ten", 2, 9, 3, 10);
     addRow("last of ten", 9, 9, 10, 10);
@@ -192,8 +187,7 @@ void tst_Records::setRangeValuesEnablesAndDisablesTheSection()
 
 void tst_Records::updateCurrentRangeIndex_data()
 {
-    QTest::addColumn<QByteArray>("checked");
-    QTest::addColumn<Pair>("range");
+    addColumns<QByteArray, Pair>("checked", "range");
     addRow("current record moves both", QByteArray("currentRecordRadio"), Pair(7, 7));
     addRow("all records stay", QByteArray("allRecordsRadio"), Pair(1, 10));
     addRow("empty list is the current record", QByteArray("recordListRadio"), Pair(7, 7));
@@ -252,8 +246,7 @@ void tst_Records::listEditIsEnabledWhenNoRadioIsChecked()
 
 void tst_Records::typing_data()
 {
-    QTest::addColumn<QString>("keys");
-    QTest::addColumn<QString>("text");
+    addColumns<QString, QString>("keys", "text");
     const auto row = [](const char* keys, const char* text) {
         QTest::addRow("%s", keys) << QString::fromLatin1(keys) << QString::fromLatin1(text);
     };

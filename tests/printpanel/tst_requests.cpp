@@ -108,9 +108,7 @@ void tst_Requests::disabledButtonsEmitNothing()
 
 void tst_Requests::request_data()
 {
-    QTest::addColumn<QByteArray>("radio");
-    QTest::addColumn<QString>("list");
-    QTest::addColumn<Request>("expected");
+    addColumns<QByteArray, QString, Request>("radio", "list", "expected");
     const QByteArray current("currentRecordRadio");
     const QByteArray all("allRecordsRadio");
     const QByteArray list("recordListRadio");

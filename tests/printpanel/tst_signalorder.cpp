@@ -23,11 +23,8 @@ private Q_SLOTS:
 
 void tst_SignalOrder::tabShowsTheColorWhenTheHostIsNotified_data()
 {
-    QTest::addColumn<QStringList>("loaded");
-    QTest::addColumn<QByteArray>("menu");
-    QTest::addColumn<QString>("color");
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QString>("expected");
+    addColumns<QStringList, QByteArray, QString, int, QString>("loaded", "menu", "color", "index",
+                                                               "expected");
     const auto row = [](const char* name, std::initializer_list<const char*> loaded,
                         const char* menu, const char* color, int index, const QString& expected) {
         QTest::newRow(name) << colors(loaded) << QByteArray(menu) << QString::fromLatin1(color)

@@ -238,9 +238,7 @@ void tst_Supply::tinyLadderClickIsReported()
 
 void tst_Supply::tabs_data()
 {
-    QTest::addColumn<QStringList>("loaded");
-    QTest::addColumn<bool>("twoRibbons");
-    QTest::addColumn<QStringList>("expected");
+    addColumns<QStringList, bool, QStringList>("loaded", "twoRibbons", "expected");
     const auto row = [](const char* name, const QStringList& loaded, bool two,
                         const QStringList& expected) {
         QTest::newRow(name) << loaded << two << expected;

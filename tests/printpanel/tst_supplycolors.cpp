@@ -162,11 +162,8 @@ void tst_SupplyColors::setColorPaletteEmitsNothing()
 
 void tst_SupplyColors::pick_data()
 {
-    QTest::addColumn<QByteArray>("menu");
-    QTest::addColumn<QByteArray>("color");
-    QTest::addColumn<QList<QStringList>>("reported");
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QString>("tabAfter");
+    addColumns<QByteArray, QByteArray, QList<QStringList>, int, QString>(
+        "menu", "color", "reported", "index", "tabAfter");
     const auto row = [](const char* name, const char* menu, const char* color,
                         const QList<QStringList>& reported, int index, const QString& tabAfter) {
         QTest::newRow(name) << QByteArray(menu) << QByteArray(color) << reported << index
@@ -218,9 +215,7 @@ void tst_SupplyColors::pick()
 
 void tst_SupplyColors::pickingTransparentForABlankRibbonReportsAgain_data()
 {
-    QTest::addColumn<QByteArray>("menu");
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QString>("toolTip");
+    addColumns<QByteArray, int, QString>("menu", "index", "toolTip");
     addRow("ribbon 1", QByteArray("ribbon1Menu"), 0, "Blank Ribbon1");
     addRow("ribbon 2", QByteArray("ribbon2Menu"), 1, "Blank Ribbon2");
 }

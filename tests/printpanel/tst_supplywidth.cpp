@@ -108,9 +108,7 @@ void tst_SupplyWidth::widthValidator()
 
 void tst_SupplyWidth::width_data()
 {
-    QTest::addColumn<double>("width");
-    QTest::addColumn<int>("metric");
-    QTest::addColumn<QString>("text");
+    addColumns<double, int, QString>("width", "metric", "text");
     addRow("12 mm", 12.0, 1, "12.00");
     addRow("4 in", 4.0, 0, "4.00");
     addRow("rounded down", 4.124, 0, "4.12");
@@ -139,8 +137,7 @@ void tst_SupplyWidth::width()
 
 void tst_SupplyWidth::widthSuffix_data()
 {
-    QTest::addColumn<int>("metric");
-    QTest::addColumn<QString>("suffix");
+    addColumns<int, QString>("metric", "suffix");
     addRow("0 is inches", 0, " in");
     addRow("1 is millimetres", 1, " mm");
     addRow("any other is millimetres", 255, " mm");
@@ -164,8 +161,7 @@ void tst_SupplyWidth::widthSuffix()
 
 void tst_SupplyWidth::editedWidth_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QList<QVariantList>>("emitted");
+    addColumns<QString, QList<QVariantList>>("text", "emitted");
     const auto emits = [](const char* text, double width) {
         QTest::addRow("'%s'", text)
             << QString::fromLatin1(text) << QList<QVariantList>{QVariantList{width}};

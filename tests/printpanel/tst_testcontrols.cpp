@@ -163,8 +163,7 @@ void tst_TestControls::showEmitsTheNumber()
 
 void tst_TestControls::numberStaysInItsRange_data()
 {
-    QTest::addColumn<int>("asked");
-    QTest::addColumn<int>("number");
+    addColumns<int, int>("asked", "number");
     addRow("26", 26, 25);
     addRow("-1", -1, 0);
     addRow("highest", INT_MAX, 25);

@@ -42,8 +42,7 @@ private Q_SLOTS:
 
 void tst_QuickPrintHost::hostMayDeleteThePanelInItsSignals_data()
 {
-    QTest::addColumn<QByteArray>("signal");
-    QTest::addColumn<QByteArray>("button");
+    addColumns<QByteArray, QByteArray>("signal", "button");
     addRow("print", QByteArray(SIGNAL(widgetPrintSignal(int, int, QString))),
            QByteArray("printButton"));
     addRow("resize", QByteArray(SIGNAL(resizeSignal(QSizeF))), QByteArray("resizeButton"));

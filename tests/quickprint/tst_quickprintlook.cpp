@@ -300,8 +300,7 @@ void tst_QuickPrintLook::focusGoesFromTopToBottom()
 
 void tst_QuickPrintLook::controlsDoNotOverlapAndAreNotCut_data()
 {
-    QTest::addColumn<int>("module");
-    QTest::addColumn<QString>("printer");
+    addColumns<int, QString>("module", "printer");
     addRow("with resize", 6, "Label Printer 3");
     addRow("without resize", 7, "Label Printer 3");
     addRow("long name", 6, QString(50, u'W') + u' ' + QString(50, u'i'));

@@ -167,8 +167,7 @@ void tst_QuickPrintWidget::stateAtTheStart()
 
 void tst_QuickPrintWidget::resizeFrameIsForTwoModules_data()
 {
-    QTest::addColumn<int>("module");
-    QTest::addColumn<bool>("visible");
+    addColumns<int, bool>("module", "visible");
     const char* const names[] = {"Unspecified", "JxLabelEditor", "GHS",           "ArcFlashMain",
                                  "PipeMarking", "NFPAMain",      "JxCatalog",     "QuickPrint",
                                  "PDFViewer",   "JavaScript",    "GraphicsViewer"};
@@ -207,10 +206,7 @@ void tst_QuickPrintWidget::resizeFrameComesAndGoesWithTheModule()
 void tst_QuickPrintWidget::buttonsAreEnabledAndDisabled_data()
 {
     using Operation = void (PrintWidgetInterface::*)();
-    QTest::addColumn<Operation>("operation");
-    QTest::addColumn<bool>("before");
-    QTest::addColumn<bool>("print");
-    QTest::addColumn<bool>("open");
+    addColumns<Operation, bool, bool, bool>("operation", "before", "print", "open");
     using Panel = PrintWidgetInterface;
     addRow("enable print", Operation(&Panel::enablePrintButtons), false, true, false);
     addRow("enable all", Operation(&Panel::enableAllButtons), false, true, true);
@@ -236,8 +232,7 @@ void tst_QuickPrintWidget::buttonsAreEnabledAndDisabled()
 
 void tst_QuickPrintWidget::copiesAreClamped_data()
 {
-    QTest::addColumn<int>("given");
-    QTest::addColumn<int>("shown");
+    addColumns<int, int>("given", "shown");
     addRow("0", 0, 1);
     addRow("1", 1, 1);
     addRow("17", 17, 17);
@@ -290,9 +285,7 @@ void tst_QuickPrintWidget::heldStepButtonRepeats()
 
 void tst_QuickPrintWidget::canvasSizeIsShownWithTwoDecimals_data()
 {
-    QTest::addColumn<QSizeF>("size");
-    QTest::addColumn<QString>("length");
-    QTest::addColumn<QString>("width");
+    addColumns<QSizeF, QString, QString>("size", "length", "width");
     addRow("rounded", QSizeF(3.14159, 2), "3.14", "2.00");
     addRow("rounded up", QSizeF(9.996, 0.005001), "10.00", "0.01");
     addRow("no thousands separator", QSizeF(12345.6, 1e6), "12345.60", "1000000.00");
@@ -317,8 +310,7 @@ void tst_QuickPrintWidget::canvasSizeIsShownWithTwoDecimals()
 
 void tst_QuickPrintWidget::canvasSizeIsReadFromTheFields_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<double>("expected");
+    addColumns<QString, double>("text", "expected");
     addRow("number", "2.5", 2.5);
     addRow("whole number", "7", 7.0);
     addRow("blanks around", " 3.25 ", 3.25);

@@ -74,9 +74,7 @@ void tst_WrappedLabel::asksForNoWidthAndOneLine()
 
 void tst_WrappedLabel::takesTheLinesThatTheTextNeeds_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("lines");
-    QTest::addColumn<int>("inked");
+    addColumns<QString, int, int>("text", "lines", "inked");
     addRow("empty", QString(), 1, 0);
     addRow("one word", "MMMM", 1, 1);
     addRow("two words on two lines", "MMMMMM MMMMMM", 2, 2);

@@ -23,6 +23,13 @@ protected Q_SLOTS:
     virtual void cleanup() {}
 };
 
+/** Adds columns of test data: for each type the name in its place. */
+template <typename... Types, typename... Names>
+void addColumns(const Names*... names)
+{
+    (QTest::addColumn<Types>(names), ...);
+}
+
 /** Adds a row of test data. Plain texts become QStrings. */
 template <typename... Values>
 void addRow(const char* name, const Values&... values)

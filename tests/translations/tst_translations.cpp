@@ -90,9 +90,7 @@ private Q_SLOTS:
 
 void TranslationsTest::everyTextIsTranslatedWithItsBlanksAndPlaceholders_data()
 {
-    QTest::addColumn<QString>("source");
-    QTest::addColumn<QString>("translation");
-    QTest::addColumn<bool>("finished");
+    addColumns<QString, QString, bool>("source", "translation", "finished");
     int row = 0;
     for (const QString& file : translationFiles()) {
         const QList<Message> messages =

@@ -54,8 +54,7 @@ namespace {
 
 void addHostRows()
 {
-    QTest::addColumn<HostAct>("act");
-    QTest::addColumn<QByteArray>("signal");
+    addColumns<HostAct, QByteArray>("act", "signal");
     const QByteArray shown = SIGNAL(printWidgetShowSignal());
     const QByteArray left = SIGNAL(focusLost());
     const auto row = [](const char* name, HostAct act, const QByteArray& signal) {

@@ -152,8 +152,7 @@ void tst_DeletedParents::panelInADialogFirst()
 
 void tst_DeletedParents::partFirst_data()
 {
-    QTest::addColumn<Create>("create");
-    QTest::addColumn<QString>("name");
+    addColumns<Create, QString>("create", "name");
     const QList<PanelKind> kinds = panelKinds();
     for (const PanelKind& kind : kinds) {
         const std::unique_ptr<QWidget> panel(kind.create());

@@ -54,8 +54,7 @@ QDialog* newDialog()
 
 void addEndRows()
 {
-    QTest::addColumn<End>("end");
-    QTest::addColumn<QByteArray>("signal");
+    addColumns<End, QByteArray>("end", "signal");
     struct Row
     {
         const char* name;

@@ -28,9 +28,7 @@ private Q_SLOTS:
 
 void tst_DyingPanel::emitsNothing_data()
 {
-    QTest::addColumn<Create>("create");
-    QTest::addColumn<QByteArray>("edit");
-    QTest::addColumn<QByteArray>("signal");
+    addColumns<Create, QByteArray, QByteArray>("create", "edit", "signal");
     addRow("print panel", Create(newPrintPanel), QByteArray("supplyWidthEdit"),
            QByteArray(SIGNAL(supplyWidthChangedSignal(double))));
     addRow("multi-page panel", Create(newMultiPagePanel), QByteArray("copiesEdit"),

@@ -145,8 +145,7 @@ void tst_KitLifetime::everythingInAPanelIsDeletedWithIt()
 
 void tst_KitLifetime::inAnyOrder_data()
 {
-    QTest::addColumn<int>("first");
-    QTest::addColumn<bool>("backwards");
+    addColumns<int, bool>("first", "backwards");
     const Kit kit;
     for (int first = 0; first < kit.parts.size(); ++first) {
         const char* name = kit.parts.at(first)->metaObject()->className();

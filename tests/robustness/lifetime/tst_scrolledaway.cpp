@@ -48,10 +48,7 @@ struct Scrolled
 
 void tst_ScrolledAway::byADragOnThePanel_data()
 {
-    QTest::addColumn<QByteArray>("pressed");
-    QTest::addColumn<bool>("wholeArea");
-    QTest::addColumn<bool>("sideways");
-    QTest::addColumn<bool>("atOnce");
+    addColumns<QByteArray, bool, bool, bool>("pressed", "wholeArea", "sideways", "atOnce");
     for (const char* name : {"PrintButton", "PreferencesButton", "stackGroup", "#000000"}) {
         for (const int choice : {0, 1, 2, 3, 4, 5, 6, 7}) {
             const bool wholeArea = (choice & 1) != 0;

@@ -134,8 +134,7 @@ QString tst_Markup::imageText() const
 
 void tst_Markup::addRows()
 {
-    QTest::addColumn<int>("panel");
-    QTest::addColumn<QString>("text");
+    addColumns<int, QString>("panel", "text");
     const QString file =
         QUrl::fromLocalFile(folder.filePath(QStringLiteral("picture.png"))).toString();
     const QList<std::pair<const char*, QString>> texts = {

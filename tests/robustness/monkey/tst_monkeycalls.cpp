@@ -34,9 +34,7 @@ namespace {
 
 void addPanels()
 {
-    QTest::addColumn<const QMetaObject*>("meta");
-    QTest::addColumn<QByteArrayList>("headers");
-    QTest::addColumn<Monkey::HostCalls>("calls");
+    addColumns<const QMetaObject*, QByteArrayList, Monkey::HostCalls>("meta", "headers", "calls");
     const QByteArray base = "foundation/printwidgetinterface.h";
     addRow("PrintWidget", &PrintWidget::staticMetaObject,
            QByteArrayList{base, "printpanel/printwidget.h"}, Monkey::printWidgetCalls());

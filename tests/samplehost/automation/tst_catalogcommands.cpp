@@ -25,9 +25,7 @@ private Q_SLOTS:
 
 void TestCatalogCommands::printsFromThePreview_data()
 {
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<int>("pages");
-    QTest::addColumn<QSizeF>("size");
+    addColumns<QString, int, QSizeF>("arguments", "pages", "size");
 
     addRow("as designed", "--print 1,4-5", 3, QSizeF(102, 76));
     addRow("landscape", "--print 1,4-5 --landscape", 3, QSizeF(102, 76));
@@ -86,9 +84,7 @@ void TestCatalogCommands::previewRefusesWhatThePanelRefuses()
 
 void TestCatalogCommands::printsItems_data()
 {
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<QStringList>("pages");
-    QTest::addColumn<QSizeF>("size");
+    addColumns<QString, QStringList, QSizeF>("arguments", "pages", "size");
 
     addRow("listed size", "--catalog EXIT", QStringList{QStringLiteral("EXIT")}, QSizeF(254, 127));
     addRow("any case", "--catalog no_Smoking", QStringList{QStringLiteral("NOSMOKING")},
@@ -112,8 +108,7 @@ void TestCatalogCommands::printsItems()
 
 void TestCatalogCommands::refusesBadItems_data()
 {
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<QString>("reason");
+    addColumns<QString, QString>("arguments", "reason");
 
     const QString noLength =
         QStringLiteral("The length has to be a number greater than 0. Nothing is printed.\n");

@@ -92,8 +92,7 @@ void TestInputSimulation::validTextIsInsertedAtOnce()
 
 void TestInputSimulation::spinBoxTakesWhatItAccepts_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("value");
+    addColumns<QString, int>("text", "value");
     addRow("valid", "120", 120);
     addRow("too large", "1234", 123);
     addRow("with a letter", "5x6", 56);

@@ -72,8 +72,7 @@ void TestPdfCommands::readsACommand()
 
 void TestPdfCommands::reportsProblems_data()
 {
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<QString>("problem");
+    addColumns<QString, QString>("line", "problem");
 
     addRow("no document", "--pages 1 --output o.pdf", "--pages needs --document FILE.pdf.");
     addRow("option alone", "--rotate180", "--rotate180 needs --document FILE.pdf.");
@@ -111,9 +110,7 @@ void TestPdfCommands::needsNoDisplay()
 
 void TestPdfCommands::printsPages_data()
 {
-    QTest::addColumn<int>("pages");
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<QString>("printed");
+    addColumns<int, QString, QString>("pages", "arguments", "printed");
 
     addRow("list", 12, "--pages 5-9,2", "Page 5|Page 6|Page 7|Page 8|Page 9|Page 2");
     addRow("list with copies", 12, "--pages 3,1 --copies 2", "Page 3|Page 1|Page 3|Page 1");
@@ -141,8 +138,7 @@ void TestPdfCommands::printsPages()
 
 void TestPdfCommands::printsNothingForPagesThatDoNotExist_data()
 {
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<QString>("reason");
+    addColumns<QString, QString>("arguments", "reason");
 
     const QString none =
         QStringLiteral("The list \"%1\" names none of the 12 pages. Nothing is printed.\n");
@@ -174,8 +170,7 @@ void TestPdfCommands::printsNothingForPagesThatDoNotExist()
 
 void TestPdfCommands::failuresAreExplained_data()
 {
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<QString>("reason");
+    addColumns<QString, QString>("arguments", "reason");
 
     addRow("missing", "--document gone.pdf --all-pages --output out.pdf",
            "The file \"gone.pdf\" does not exist.\n");
@@ -270,8 +265,7 @@ void TestPdfCommands::savesAPictureOfTheDialog()
 
 void TestPdfCommands::savesPicturesOfTheStates_data()
 {
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<bool>("dialog");
+    addColumns<QString, bool>("arguments", "dialog");
 
     addRow("dialog", "--state multipage", true);
     addRow("dialog, given document", "--state multipage --document in.pdf", true);

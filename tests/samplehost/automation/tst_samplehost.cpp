@@ -60,8 +60,7 @@ void TestSampleHost::printsTheTypedList()
 
 void TestSampleHost::printsLists_data()
 {
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<QString>("records");
+    addColumns<QString, QString>("arguments", "records");
 
     addRow("typed order", "--print 3,1-2", "3 1 2");
     addRow("repeated", "--print 2,2,1-2", "2 2 1 2");
@@ -85,8 +84,7 @@ void TestSampleHost::printsLists()
 
 void TestSampleHost::printsNothingForListsThatNameNothing_data()
 {
-    QTest::addColumn<QString>("list");
-    QTest::addColumn<QString>("reason");
+    addColumns<QString, QString>("list", "reason");
 
     const QString unreadable = QStringLiteral("The list \"%1\" cannot be read");
     addRow("unfinished", "1,", unreadable);
@@ -175,9 +173,7 @@ void TestSampleHost::printsToAFile()
 
 void TestSampleHost::failuresAreExplained_data()
 {
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QString>("reason");
+    addColumns<QString, int, QString>("arguments", "code", "reason");
 
     addRow("folder", "--all --output missing/out.pdf", 1,
            "The folder \"%1/missing\" does not exist.\n");

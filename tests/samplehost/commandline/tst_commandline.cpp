@@ -99,10 +99,7 @@ void TestCommandLine::readsACatalogueItem()
 
 void TestCommandLine::readsRecords_data()
 {
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<Records>("records");
-    QTest::addColumn<int>("current");
-    QTest::addColumn<bool>("headless");
+    addColumns<QString, Records, int, bool>("line", "records", "current", "headless");
 
     addRow("all", "--all --output x.pdf", Records::All, 1, true);
     addRow("current", "--current 12 --output x.pdf", Records::Current, 12, true);
@@ -150,8 +147,7 @@ void TestCommandLine::testControlsFollowWhatNeedsThem()
 
 void TestCommandLine::reportsProblems_data()
 {
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<QString>("problem");
+    addColumns<QString, QString>("line", "problem");
 
     addRow("two selections", "--all --print 1 --output x.pdf",
            "Only one of --print, --all and --current can be used.");
@@ -204,8 +200,7 @@ void TestCommandLine::reportsProblems()
 
 void TestCommandLine::recognisesWorkWithoutAUser_data()
 {
-    QTest::addColumn<QByteArrayList>("arguments");
-    QTest::addColumn<bool>("headless");
+    addColumns<QByteArrayList, bool>("arguments", "headless");
 
     addRow("nothing", QByteArrayList{}, false);
     addRow("print", QByteArrayList{"--print", "1"}, true);

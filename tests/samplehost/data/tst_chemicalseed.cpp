@@ -330,8 +330,7 @@ void TestChemicalSeed::knownChemicalsAreComplete()
 
 void TestChemicalSeed::casCheckDigitRejectsWrongNumbers_data()
 {
-    QTest::addColumn<QString>("number");
-    QTest::addColumn<bool>("valid");
+    addColumns<QString, bool>("number", "valid");
     addRow("water", "7732-18-5", true);
     addRow("caffeine", "58-08-2", true);
     addRow("wrong check digit", "7732-18-4", false);
@@ -349,8 +348,7 @@ void TestChemicalSeed::casCheckDigitRejectsWrongNumbers()
 
 void TestChemicalSeed::rulesDeriveKnownLabels_data()
 {
-    QTest::addColumn<QStringList>("hazards");
-    QTest::addColumn<QStringList>("pictograms");
+    addColumns<QStringList, QStringList>("hazards", "pictograms");
     addRow("skull drops the exclamation mark", words("H270 H280 H315 H319 H331 H335 H400"),
            words("GHS03 GHS04 GHS06 GHS09"));
     addRow("corrosion drops it for irritation", words("H225 H315 H318"), words("GHS02 GHS05"));

@@ -192,8 +192,7 @@ void TestRecordReader::init()
 
 void TestRecordReader::ascendingRecordsTakeOneQuery_data()
 {
-    QTest::addColumn<QString>("driver");
-    QTest::addColumn<QString>("end");
+    addColumns<QString, QString>("driver", "end");
     addRow("with a limit clause", "QPSQL", " LIMIT 2147483647 OFFSET 7");
     addRow("without one", "OTHER", " ORDER BY id");
 }

@@ -264,8 +264,7 @@ void TestRecordSource::missingValuesAreEmpty()
 
 void TestRecordSource::indexWithoutRecordIsAnError_data()
 {
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QString>("expected");
+    addColumns<int, QString>("index", "expected");
     const int count = static_cast<int>(ChemicalSeed::load().size());
     addRow("just beyond the end", count, QStringLiteral("There is no record %1.").arg(count + 1));
     addRow("negative", -1, "There is no record 0.");
@@ -287,8 +286,7 @@ void TestRecordSource::indexWithoutRecordIsAnError()
 
 void TestRecordSource::unusableFileIsReportedAndLeftAlone_data()
 {
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("reason");
+    addColumns<QByteArray, QString>("content", "reason");
     addRow("text", QByteArray(2000, 'x'), "not a database");
     addRow("damaged header", QByteArray("SQLite format 3\0\1\2\3", 19), "not a database");
     addRow("nothing in it", QByteArray(), "no such table");

@@ -47,9 +47,7 @@ void TestHostFaultsDisk::addKinds()
 
 void TestHostFaultsDisk::printing_data()
 {
-    QTest::addColumn<Printout>("printout");
-    QTest::addColumn<Kind>("kind");
-    QTest::addColumn<int>("bytesLeft");
+    addColumns<Printout, Kind, int>("printout", "kind", "bytesLeft");
     const std::pair<const char*, Printout> printouts[] = {
         {"labels", Printout::Labels},      {"sheets", Printout::Sheets},
         {"test file", Printout::TestFile}, {"catalogue item", Printout::Item},
@@ -138,8 +136,7 @@ void TestHostFaultsDisk::settings()
 
 void TestHostFaultsDisk::firstStart_data()
 {
-    QTest::addColumn<Kind>("kind");
-    QTest::addColumn<int>("bytesLeft");
+    addColumns<Kind, int>("kind", "bytesLeft");
     const auto kinds = FullDisk::kinds();
     for (const Kind kind : kinds) {
         for (const int left : {0, 4096, 16384}) {
@@ -179,9 +176,7 @@ void TestHostFaultsDisk::firstStart()
 
 void TestHostFaultsDisk::program_data()
 {
-    QTest::addColumn<Kind>("kind");
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<QString>("file");
+    addColumns<Kind, QString, QString>("kind", "arguments", "file");
     const std::pair<const char*, const char*> commands[] = {
         {"--all --output disk/out", "disk/out"},
         {"--print 1-9 --nup 2x2 --sequence --output disk/out", "disk/out"},

@@ -69,8 +69,7 @@ private:
 
 void TestHostFaultsDocument::addBroken()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("problem");
+    addColumns<QByteArray, QString>("bytes", "problem");
     const QString damaged =
         QStringLiteral("The file \"%1\" is not a PDF document, or it is damaged.");
     const QByteArray good = PdfSamples::form();

@@ -98,8 +98,7 @@ private Q_SLOTS:
 
 void TestHostFaultsOutput::obstacle_data()
 {
-    QTest::addColumn<Printout>("printout");
-    QTest::addColumn<Obstacle>("obstacle");
+    addColumns<Printout, Obstacle>("printout", "obstacle");
     const auto all = obstacles();
     for (const Obstacle& obstacle : all) {
         QTest::addRow("labels, %s", obstacle.name) << Printout::Labels << obstacle;
@@ -164,9 +163,7 @@ void TestHostFaultsOutput::readOnlyDisk()
 
 void TestHostFaultsOutput::programMeetsObstacle_data()
 {
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<QString>("option");
-    QTest::addColumn<Obstacle>("obstacle");
+    addColumns<QString, QString, Obstacle>("arguments", "option", "obstacle");
     const QString output = QStringLiteral("--output");
     const auto all = obstacles();
     for (const Obstacle& obstacle : all) {
@@ -200,9 +197,7 @@ void TestHostFaultsOutput::programMeetsObstacle()
 
 void TestHostFaultsOutput::filesInUseAreKept_data()
 {
-    QTest::addColumn<Printout>("printout");
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("message");
+    addColumns<Printout, QString, QString>("printout", "file", "message");
     const QString data = QStringLiteral("Writing \"%1\" would replace the database of the labels. "
                                         "Choose another file.");
     const QString document =

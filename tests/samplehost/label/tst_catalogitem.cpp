@@ -189,9 +189,7 @@ void TestCatalogItem::designFollowsTheSelection()
 
 void TestCatalogItem::sizesAreJudged_data()
 {
-    QTest::addColumn<QSizeF>("size");
-    QTest::addColumn<bool>("metric");
-    QTest::addColumn<QString>("problem");
+    addColumns<QSizeF, bool, QString>("size", "metric", "problem");
 
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const double infinity = std::numeric_limits<double>::infinity();

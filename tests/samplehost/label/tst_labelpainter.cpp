@@ -221,8 +221,7 @@ void TestLabelPainter::labelIsFourByThreeInches()
 
 void TestLabelPainter::pictureHasTheWantedSize_data()
 {
-    QTest::addColumn<QSize>("wanted");
-    QTest::addColumn<QSize>("expected");
+    addColumns<QSize, QSize>("wanted", "expected");
     addRow("usual", QSize(400, 300), QSize(400, 300));
     addRow("one pixel", QSize(1, 1), QSize(1, 1));
     addRow("flat", QSize(500, 3), QSize(500, 3));
@@ -247,8 +246,7 @@ void TestLabelPainter::pictureHasTheWantedSize()
 
 void TestLabelPainter::everyTextIsRealTextInPdf_data()
 {
-    QTest::addColumn<int>("index");
-    QTest::addColumn<bool>("landscape");
+    addColumns<int, bool>("index", "landscape");
     const QList<Chemical> seed = ChemicalSeed::load();
     for (int i = 0; i < seed.size(); ++i) {
         QTest::addRow("%s, landscape", qPrintable(seed.at(i).name)) << i << true;
@@ -485,9 +483,7 @@ void TestLabelPainter::wordIsBrokenBeforeItBecomesTiny()
 
 void TestLabelPainter::pipeMarkerSizeFollowsThePipe_data()
 {
-    QTest::addColumn<qreal>("diameter");
-    QTest::addColumn<qreal>("letters");
-    QTest::addColumn<qreal>("length");
+    addColumns<qreal, qreal, qreal>("diameter", "letters", "length");
     addRow("thin", 21.3, 13.0, 203.0);
     addRow("limit of the thin", 32.0, 13.0, 203.0);
     addRow("two inches", 50.0, 19.0, 203.0);
@@ -565,9 +561,7 @@ void TestLabelPainter::wholeMarkerShowsAllItsParts()
 
 void TestLabelPainter::tagShowsItsWordOnItsColor_data()
 {
-    QTest::addColumn<int>("item");
-    QTest::addColumn<QString>("word");
-    QTest::addColumn<QColor>("color");
+    addColumns<int, QString, QColor>("item", "word", "color");
     addRow("high pressure", 1, "HIGH", QColor(0xdc, 0x0b, 0x0b));
     addRow("low pressure", 2, "LOW", QColor(0x24, 0x8d, 0x4f));
     addRow("vapor state", 4, "VAP", QColor(0x41, 0xb6, 0xe6));
@@ -594,8 +588,7 @@ void TestLabelPainter::tagShowsItsWordOnItsColor()
 
 void TestLabelPainter::itemThatAMarkerDoesNotHavePaintsNothing_data()
 {
-    QTest::addColumn<QString>("abbreviation");
-    QTest::addColumn<int>("item");
+    addColumns<QString, int>("abbreviation", "item");
     addRow("tag of the other pressure", "HPL", 2);
     addRow("tag of the other state", "HPL", 4);
     addRow("two tags at once", "HPL", 9);

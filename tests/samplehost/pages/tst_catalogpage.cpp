@@ -167,9 +167,7 @@ void TestCatalogPage::resizedItemIsPrinted()
 
 void TestCatalogPage::badSizesAreAnswered_data()
 {
-    QTest::addColumn<QString>("length");
-    QTest::addColumn<QString>("width");
-    QTest::addColumn<QString>("message");
+    addColumns<QString, QString, QString>("length", "width", "message");
 
     const QString noLength = QStringLiteral("The length has to be a number greater than 0.");
     const QString noWidth = QStringLiteral("The width has to be a number greater than 0.");

@@ -121,8 +121,7 @@ void TestPdfPage::opensTheDocumentOfTheCommandLine()
 
 void TestPdfPage::keepsTheDocumentWhenAFileCannotBeOpened_data()
 {
-    QTest::addColumn<QByteArray>("contents");
-    QTest::addColumn<QString>("problem");
+    addColumns<QByteArray, QString>("contents", "problem");
 
     const QString broken =
         QStringLiteral("The file \"%1\" is not a PDF document, or it is damaged.");

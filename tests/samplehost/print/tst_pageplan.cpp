@@ -62,11 +62,7 @@ private:
 
 void TestPagePlan::readsRequests_data()
 {
-    QTest::addColumn<int>("start");
-    QTest::addColumn<int>("end");
-    QTest::addColumn<QString>("list");
-    QTest::addColumn<int>("recordCount");
-    QTest::addColumn<QString>("pages");
+    addColumns<int, int, QString, int, QString>("start", "end", "list", "recordCount", "pages");
 
     const auto none = QString();
     addRow("only the current record", 3, -1, none, 10, "3");
@@ -114,8 +110,7 @@ void TestPagePlan::customListWinsOverSequence()
 
 void TestPagePlan::printsEachLabelAsOftenAsThereAreCopies_data()
 {
-    QTest::addColumn<int>("copies");
-    QTest::addColumn<QString>("pages");
+    addColumns<int, QString>("copies", "pages");
 
     addRow("one", 1, "5 1 2");
     addRow("three", 3, "5 5 5 1 1 1 2 2 2");
@@ -146,11 +141,7 @@ void TestPagePlan::replicatingFillsAPageWithOneRecord()
 
 void TestPagePlan::sequencingFillsPagesInTurn_data()
 {
-    QTest::addColumn<QString>("list");
-    QTest::addColumn<int>("rows");
-    QTest::addColumn<int>("columns");
-    QTest::addColumn<int>("copies");
-    QTest::addColumn<QString>("pages");
+    addColumns<QString, int, int, int, QString>("list", "rows", "columns", "copies", "pages");
 
     addRow("last page part full", "1-5", 2, 2, 1, "1,2,3,4 5");
     addRow("exactly full", "1-4", 2, 1, 1, "1,2 3,4");
@@ -175,11 +166,8 @@ void TestPagePlan::sequencingFillsPagesInTurn()
 
 void TestPagePlan::namesTheProblem_data()
 {
-    QTest::addColumn<int>("start");
-    QTest::addColumn<int>("end");
-    QTest::addColumn<QString>("list");
-    QTest::addColumn<int>("recordCount");
-    QTest::addColumn<PagePlan::Problem>("problem");
+    addColumns<int, int, QString, int, PagePlan::Problem>("start", "end", "list", "recordCount",
+                                                          "problem");
 
     const auto unreadable = PagePlan::Problem::UnreadableList;
     const auto nothing = PagePlan::Problem::NoSuchRecord;
@@ -249,8 +237,7 @@ void TestPagePlan::answersNothingForPagesThatDoNotExist()
 
 void TestPagePlan::readsLayouts_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("read");
+    addColumns<QString, QString>("text", "read");
 
     addRow("single", "1x1", "1x1");
     addRow("rows first", "3x2", "3x2");

@@ -216,8 +216,7 @@ void TestPrintJob::destructionLeavesNothing()
 
 void TestPrintJob::unwritablePathIsExplained_data()
 {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("message");
+    addColumns<QString, QString>("path", "message");
 
     addRow("no such folder", "missing/labels.pdf", "The folder \"%1/missing\" does not exist.");
     addRow("a folder", "taken.pdf", "The file \"%1/taken.pdf\" cannot be written: ");

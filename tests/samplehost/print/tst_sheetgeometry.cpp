@@ -51,10 +51,7 @@ void TestSheetGeometry::labelsKeepTheirSizeOnLargePaper()
 
 void TestSheetGeometry::labelsStayOnThePaper_data()
 {
-    QTest::addColumn<QSizeF>("label");
-    QTest::addColumn<QSizeF>("paper");
-    QTest::addColumn<int>("rows");
-    QTest::addColumn<int>("columns");
+    addColumns<QSizeF, QSizeF, int, int>("label", "paper", "rows", "columns");
 
     addRow("shrunk", QSizeF(200, 150), QSizeF(210, 297), 4, 2);
     addRow("hundred", QSizeF(100, 75), QSizeF(210, 297), 10, 10);

@@ -123,9 +123,7 @@ void TestLabelPreview::opensOverTheWindow()
 
 void TestLabelPreview::handsTheRangeBack_data()
 {
-    QTest::addColumn<QString>("radio");
-    QTest::addColumn<QString>("list");
-    QTest::addColumn<QString>("arguments");
+    addColumns<QString, QString, QString>("radio", "list", "arguments");
 
     addRow("current", "currentRecordRadio", QString(), "(1, -1, \"\")");
     addRow("list", "recordListRadio", "3,1-2", "(0, 0, \"3,1-2\")");

@@ -64,12 +64,8 @@ private Q_SLOTS:
 
 void TestOrientation::sheetsTurn_data()
 {
-    QTest::addColumn<int>("rows");
-    QTest::addColumn<int>("columns");
-    QTest::addColumn<QSizeF>("paper");
-    QTest::addColumn<bool>("portrait");
-    QTest::addColumn<QSizeF>("sheet");
-    QTest::addColumn<QSizeF>("label");
+    addColumns<int, int, QSizeF, bool, QSizeF, QSizeF>("rows", "columns", "paper", "portrait",
+                                                       "sheet", "label");
 
     const QSizeF a4(210, 297);
     addRow("as designed", 1, 1, QSizeF(), false, QSizeF(60, 40), QSizeF(60, 40));
@@ -114,8 +110,7 @@ void TestOrientation::turnedLabelsReadUpwards()
 
 void TestOrientation::picturesKeepTheProportions_data()
 {
-    QTest::addColumn<QSize>("room");
-    QTest::addColumn<QSize>("size");
+    addColumns<QSize, QSize>("room", "size");
 
     addRow("wide", QSize(1000, 40), QSize(60, 40));
     addRow("high", QSize(60, 1000), QSize(60, 40));

@@ -46,9 +46,7 @@ private:
 
 void TestPdfPrinting::printsTypedLists_data()
 {
-    QTest::addColumn<int>("pages");
-    QTest::addColumn<QString>("list");
-    QTest::addColumn<QString>("printed");
+    addColumns<int, QString, QString>("pages", "list", "printed");
 
     addRow("1 page", 1, "1", "1");
     addRow("1 page twice", 1, "1,1", "1 1");
@@ -79,8 +77,7 @@ void TestPdfPrinting::printsTypedLists()
 
 void TestPdfPrinting::refusesListsThatNameNothing_data()
 {
-    QTest::addColumn<QString>("list");
-    QTest::addColumn<QString>("reason");
+    addColumns<QString, QString>("list", "reason");
 
     addRow("reversed", "5-2", "The list \"5-2\" names none of the 12 pages. Nothing is printed.");
     addRow("unfinished", "4-", "The list \"4-\" cannot be read. Nothing is printed.");
@@ -100,8 +97,7 @@ void TestPdfPrinting::refusesListsThatNameNothing()
 
 void TestPdfPrinting::printsTheCurrentPage_data()
 {
-    QTest::addColumn<int>("pages");
-    QTest::addColumn<int>("current");
+    addColumns<int, int>("pages", "current");
     addRow("1 page", 1, 1);
     addRow("12 pages", 12, 8);
     addRow("300 pages", 300, 300);

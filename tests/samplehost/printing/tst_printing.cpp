@@ -106,9 +106,7 @@ void TestPrinting::printsCopies()
 
 void TestPrinting::printsSheets_data()
 {
-    QTest::addColumn<QString>("mode");
-    QTest::addColumn<int>("pageCount");
-    QTest::addColumn<QList<int>>("labelsOfRecord1");
+    addColumns<QString, int, QList<int>>("mode", "pageCount", "labelsOfRecord1");
 
     addRow("sequencing", "sequencingRadio", 2, QList<int>{1, 0});
     addRow("replicating", "replicatingRadio", 5, QList<int>{4, 0, 0, 0, 0});
@@ -178,8 +176,7 @@ void TestPrinting::printsUserBackgroundOnlyIfChecked()
 
 void TestPrinting::refusesListsThatNameNothing_data()
 {
-    QTest::addColumn<QString>("list");
-    QTest::addColumn<QString>("reason");
+    addColumns<QString, QString>("list", "reason");
 
     addRow("unfinished", "1,", "The list \"1,\" cannot be read. Nothing is printed.");
     addRow("reversed", "5-4", "The list \"5-4\" names none of the %1 records. Nothing is printed.");

@@ -56,8 +56,7 @@ void TestEventLog::listsEverySignal()
 void TestEventLog::writesArguments_data()
 {
     using Emit = std::function<void(PrintWidget&)>;
-    QTest::addColumn<Emit>("emitSignal");
-    QTest::addColumn<QString>("line");
+    addColumns<Emit, QString>("emitSignal", "line");
 
     const auto row = [](const char* name, const Emit& emitSignal, const char* line) {
         addRow(name, emitSignal, line);

@@ -58,8 +58,7 @@ void TestHostTools::trigger(const char* name) const
 
 void TestHostTools::countsPages_data()
 {
-    QTest::addColumn<QString>("list");
-    QTest::addColumn<QString>("message");
+    addColumns<QString, QString>("list", "message");
 
     addRow("current", QString(), "1 page would be printed.");
     addRow("list", "1,4-5", "3 pages would be printed.");

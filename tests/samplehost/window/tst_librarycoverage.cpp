@@ -143,8 +143,7 @@ const QObject* TestLibraryCoverage::object(const QString& name) const
 
 void TestLibraryCoverage::everySignalIsConnected_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("signalCount");
+    addColumns<QString, int>("name", "signalCount");
 
     addRow("labels", "labels", 12);
     addRow("pipes", "pipes", 12);
@@ -174,8 +173,7 @@ void TestLibraryCoverage::everySignalIsConnected()
 
 void TestLibraryCoverage::signalsAreAnsweredBesidesBeingLogged_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("signature");
+    addColumns<QString, QByteArray>("name", "signature");
 
     const auto add = [](const char* name, const QByteArrayList& signatures) {
         for (const QByteArray& signature : signatures) {
@@ -219,8 +217,7 @@ void TestLibraryCoverage::signalsAreAnsweredBesidesBeingLogged()
 
 void TestLibraryCoverage::everyOperationIsUsed_data()
 {
-    QTest::addColumn<QString>("header");
-    QTest::addColumn<int>("least");
+    addColumns<QString, int>("header", "least");
 
     addRow("interface", "foundation/printwidgetinterface.h", 24);
     addRow("print settings", "printpanel/printwidget.h", 30);
