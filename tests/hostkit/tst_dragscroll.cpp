@@ -69,6 +69,15 @@ struct Scrolled
     QWidget* contents = new QWidget;
 };
 
+// With a button that counts its clicks.
+struct ScrolledButton : Scrolled
+{
+    ScrolledButton() { showWith(button); }
+
+    DragScrollButton* button = new DragScrollButton(nullptr);
+    QSignalSpy clicked{button, SIGNAL(clicked(bool))};
+};
+
 const QPoint startOffset(100, 100);
 const QPoint middle(100, 100);
 } // namespace
@@ -110,10 +119,8 @@ void TestDragScroll::dragScrollsTheEnclosingArea()
 
 void TestDragScroll::dragScrollsBothWays()
 {
-    Scrolled scrolled;
-    auto* button = new DragScrollButton(nullptr);
-    scrolled.showWith(button);
-    MouseDrag drag(button, middle);
+    ScrolledButton scrolled;
+    MouseDrag drag(scrolled.button, middle);
     drag.moveBy(25, -35);
     QCOMPARE(scrolled.offset(), startOffset + QPoint(-25, 35));
     drag.release();
@@ -121,69 +128,57 @@ void TestDragScroll::dragScrollsBothWays()
 
 void TestDragScroll::draggedButtonIsReleasedButNotClicked()
 {
-    Scrolled scrolled;
-    auto* button = new DragScrollButton(nullptr);
-    QSignalSpy pressed(button, SIGNAL(pressed()));
-    QSignalSpy released(button, SIGNAL(released()));
-    QSignalSpy clicked(button, SIGNAL(clicked(bool)));
-    scrolled.showWith(button);
-    MouseDrag drag(button, middle);
-    QVERIFY(button->isDown());
+    ScrolledButton scrolled;
+    QSignalSpy pressed(scrolled.button, SIGNAL(pressed()));
+    QSignalSpy released(scrolled.button, SIGNAL(released()));
+    MouseDrag drag(scrolled.button, middle);
+    QVERIFY(scrolled.button->isDown());
     drag.moveBy(0, -40);
-    QVERIFY(!button->isDown());
+    QVERIFY(!scrolled.button->isDown());
     drag.moveBy(0, -60);
     drag.release();
     QCOMPARE(pressed.count(), 1);
     QCOMPARE(released.count(), 1);
-    QCOMPARE(clicked.count(), 0);
-    QVERIFY(!button->isDown());
+    QCOMPARE(scrolled.clicked.count(), 0);
+    QVERIFY(!scrolled.button->isDown());
 }
 
 void TestDragScroll::shortMoveIsAClick()
 {
-    Scrolled scrolled;
-    auto* button = new DragScrollButton(nullptr);
-    QSignalSpy clicked(button, SIGNAL(clicked(bool)));
-    scrolled.showWith(button);
-    MouseDrag drag(button, middle);
+    ScrolledButton scrolled;
+    MouseDrag drag(scrolled.button, middle);
     drag.moveBy(2, 3);
     drag.release();
-    QCOMPARE(clicked.count(), 1);
+    QCOMPARE(scrolled.clicked.count(), 1);
     QCOMPARE(scrolled.offset(), startOffset);
 }
 
 void TestDragScroll::nextPressAfterADragClicks()
 {
-    Scrolled scrolled;
-    auto* button = new DragScrollButton(nullptr);
-    QSignalSpy clicked(button, SIGNAL(clicked(bool)));
-    scrolled.showWith(button);
-    MouseDrag drag(button, middle);
+    ScrolledButton scrolled;
+    MouseDrag drag(scrolled.button, middle);
     drag.moveBy(0, -40);
     drag.release();
-    MouseDrag click(button, middle);
+    MouseDrag click(scrolled.button, middle);
     click.release();
-    QCOMPARE(clicked.count(), 1);
+    QCOMPARE(scrolled.clicked.count(), 1);
 }
 
 void TestDragScroll::dragStopsAutoRepeat()
 {
-    Scrolled scrolled;
-    auto* button = new DragScrollButton(nullptr);
-    button->setAutoRepeat(true);
-    button->setAutoRepeatDelay(1);
-    button->setAutoRepeatInterval(1);
-    QSignalSpy clicked(button, SIGNAL(clicked()));
-    scrolled.showWith(button);
-    MouseDrag drag(button, middle);
-    QTRY_VERIFY(clicked.count() > 2);
+    ScrolledButton scrolled;
+    scrolled.button->setAutoRepeat(true);
+    scrolled.button->setAutoRepeatDelay(1);
+    scrolled.button->setAutoRepeatInterval(1);
+    MouseDrag drag(scrolled.button, middle);
+    QTRY_VERIFY(scrolled.clicked.count() > 2);
     drag.moveBy(0, -40);
-    const qsizetype before = clicked.count();
+    const qsizetype before = scrolled.clicked.count();
     QTest::qWait(30);
     drag.moveBy(0, -50);
     QTest::qWait(30);
     drag.release();
-    QCOMPARE(clicked.count(), before);
+    QCOMPARE(scrolled.clicked.count(), before);
     QCOMPARE(scrolled.offset(), startOffset + QPoint(0, 50));
 }
 
@@ -255,11 +250,9 @@ void TestDragScroll::areaBeyondTheButtonsWindowDoesNotScroll()
 
 void TestDragScroll::rightButtonDoesNotScroll()
 {
-    Scrolled scrolled;
-    auto* button = new DragScrollButton(nullptr);
-    scrolled.showWith(button);
+    ScrolledButton scrolled;
     QWindow* window = scrolled.area.windowHandle();
-    const QPoint start = button->mapTo(&scrolled.area, middle);
+    const QPoint start = scrolled.button->mapTo(&scrolled.area, middle);
     QTest::mousePress(window, Qt::RightButton, {}, start);
     QTest::mouseMove(window, start - QPoint(0, 60));
     QTest::mouseRelease(window, Qt::RightButton, {}, start - QPoint(0, 60));
@@ -268,18 +261,15 @@ void TestDragScroll::rightButtonDoesNotScroll()
 
 void TestDragScroll::hidingDuringTheDragEndsIt()
 {
-    Scrolled scrolled;
-    auto* button = new DragScrollButton(nullptr);
-    QSignalSpy clicked(button, SIGNAL(clicked()));
-    scrolled.showWith(button);
-    MouseDrag drag(button, middle);
+    ScrolledButton scrolled;
+    MouseDrag drag(scrolled.button, middle);
     drag.moveBy(0, -40);
-    button->hide();
-    button->show();
-    moveMouse(button, middle + QPoint(0, -80), Qt::LeftButton);
+    scrolled.button->hide();
+    scrolled.button->show();
+    moveMouse(scrolled.button, middle + QPoint(0, -80), Qt::LeftButton);
     QCOMPARE(scrolled.offset(), startOffset + QPoint(0, 40));
     drag.release();
-    QCOMPARE(clicked.count(), 0);
+    QCOMPARE(scrolled.clicked.count(), 0);
 }
 
 void TestDragScroll::areaDeletedDuringTheDragDoesNotMatter()
