@@ -21,27 +21,19 @@
 
 namespace {
 
-/** Counts the signals of a panel. */
-class SignalCounter
+/** A panel that counts its signals. */
+class CountedPanel : public QuickPrintFixture
 {
 public:
-    explicit SignalCounter(QuickPrintWidget& panel)
-        : printed(&panel, &PrintWidgetInterface::widgetPrintSignal),
-          previewed(&panel, &PrintWidgetInterface::printPreviewSignal),
-          moduleOpened(&panel, &PrintWidgetInterface::openModuleSignal),
-          resized(&panel, &QuickPrintWidget::resizeSignal)
-    {
-    }
-
     qsizetype total() const
     {
         return printed.size() + previewed.size() + moduleOpened.size() + resized.size();
     }
 
-    QSignalSpy printed;
-    QSignalSpy previewed;
-    QSignalSpy moduleOpened;
-    QSignalSpy resized;
+    QSignalSpy printed{this, &PrintWidgetInterface::widgetPrintSignal};
+    QSignalSpy previewed{this, &PrintWidgetInterface::printPreviewSignal};
+    QSignalSpy moduleOpened{this, &PrintWidgetInterface::openModuleSignal};
+    QSignalSpy resized{this, &QuickPrintWidget::resizeSignal};
 };
 
 const QColor ground(Qt::magenta);
@@ -342,33 +334,31 @@ void tst_QuickPrintWidget::canvasSizeIsReadFromTheFields()
 
 void tst_QuickPrintWidget::resizeReportsWhatWasTyped()
 {
-    QuickPrintFixture panel;
-    SignalCounter counter(panel);
+    CountedPanel panel;
     panel.show();
     QTest::keyClicks(panel.lengthEdit(), QStringLiteral("4.25"));
     QTest::keyClicks(panel.widthEdit(), QStringLiteral("1.5"));
-    QCOMPARE(counter.total(), 0);
+    QCOMPARE(panel.total(), 0);
     click(panel.button("resizeButton"));
-    QCOMPARE(counter.total(), 1);
-    QCOMPARE(counter.resized.size(), 1);
-    QCOMPARE(counter.resized.last().first().toSizeF(), QSizeF(4.25, 1.5));
+    QCOMPARE(panel.total(), 1);
+    QCOMPARE(panel.resized.size(), 1);
+    QCOMPARE(panel.resized.last().first().toSizeF(), QSizeF(4.25, 1.5));
 }
 
 void tst_QuickPrintWidget::resizeReportsBadSizesToo()
 {
-    QuickPrintFixture panel;
-    SignalCounter counter(panel);
+    CountedPanel panel;
     panel.show();
     panel.setCanvasSize(QSizeF(3, 2));
     panel.lengthEdit()->clear();
     QTest::keyClicks(panel.lengthEdit(), QStringLiteral("abc"));
     QCOMPARE(panel.lengthEdit()->text(), QStringLiteral("abc"));
     click(panel.button("resizeButton"));
-    QCOMPARE(counter.resized.last().first().toSizeF(), QSizeF(-1.0, 2.0));
+    QCOMPARE(panel.resized.last().first().toSizeF(), QSizeF(-1.0, 2.0));
     panel.widthEdit()->clear();
     panel.resizeSlot();
-    QCOMPARE(counter.resized.size(), 2);
-    QCOMPARE(counter.resized.last().first().toSizeF(), QSizeF(-1.0, -1.0));
+    QCOMPARE(panel.resized.size(), 2);
+    QCOMPARE(panel.resized.last().first().toSizeF(), QSizeF(-1.0, -1.0));
 }
 
 void tst_QuickPrintWidget::printAsksForTheShownLabel_data()
@@ -381,35 +371,33 @@ void tst_QuickPrintWidget::printAsksForTheShownLabel_data()
 void tst_QuickPrintWidget::printAsksForTheShownLabel()
 {
     QFETCH(const int, copies);
-    QuickPrintFixture panel;
-    SignalCounter counter(panel);
+    CountedPanel panel;
     panel.show();
     panel.setNumberOfCopies(copies);
     panel.updateCurrentRangeIndex(4);
     click(panel.button("printButton"));
-    QCOMPARE(counter.total(), 0);
+    QCOMPARE(panel.total(), 0);
     panel.enablePrintButtons();
     click(panel.button("printButton"));
-    QCOMPARE(counter.total(), 1);
-    QCOMPARE(counter.printed.size(), 1);
-    QCOMPARE(counter.printed.last(), QVariantList({-1, -1, QString()}));
+    QCOMPARE(panel.total(), 1);
+    QCOMPARE(panel.printed.size(), 1);
+    QCOMPARE(panel.printed.last(), QVariantList({-1, -1, QString()}));
     panel.disableAllButtons();
     panel.printSlot();
-    QCOMPARE(counter.printed.size(), 2);
-    QCOMPARE(counter.printed.last(), QVariantList({-1, -1, QString()}));
+    QCOMPARE(panel.printed.size(), 2);
+    QCOMPARE(panel.printed.last(), QVariantList({-1, -1, QString()}));
 }
 
 void tst_QuickPrintWidget::openInEditorAsksForTheModule()
 {
-    QuickPrintFixture panel;
-    SignalCounter counter(panel);
+    CountedPanel panel;
     panel.show();
     click(panel.button("openInEditorButton"));
-    QCOMPARE(counter.moduleOpened.size(), 1);
-    QCOMPARE(counter.total(), 1);
+    QCOMPARE(panel.moduleOpened.size(), 1);
+    QCOMPARE(panel.total(), 1);
     panel.disableAllButtons();
     click(panel.button("openInEditorButton"));
-    QCOMPARE(counter.total(), 1);
+    QCOMPARE(panel.total(), 1);
 }
 
 void tst_QuickPrintWidget::printerNameIsShownAsGiven_data()
@@ -436,13 +424,12 @@ void tst_QuickPrintWidget::printerNameIsShownAsGiven()
 
 void tst_QuickPrintWidget::currentRecordChangesNothing()
 {
-    QuickPrintFixture panel;
-    SignalCounter counter(panel);
+    CountedPanel panel;
     const QStringList before = stateOf(panel);
     for (const int index : {0, 5, -1, std::numeric_limits<int>::max()})
         panel.updateCurrentRangeIndex(index);
     QCOMPARE(stateOf(panel), before);
-    QCOMPARE(counter.total(), 0);
+    QCOMPARE(panel.total(), 0);
 }
 
 void tst_QuickPrintWidget::operationsOfOtherPanelsDoNothing()
@@ -471,8 +458,7 @@ void tst_QuickPrintWidget::operationsOfOtherPanelsDoNothing()
 
 void tst_QuickPrintWidget::changesByTheHostAreNotReported()
 {
-    QuickPrintFixture panel;
-    SignalCounter counter(panel);
+    CountedPanel panel;
     panel.setModule(JxModuleInfo::JxCatalog);
     panel.setNumberOfCopies(7);
     panel.setCurrentPrinterName(QStringLiteral("Printer"));
@@ -481,7 +467,7 @@ void tst_QuickPrintWidget::changesByTheHostAreNotReported()
     panel.enableAllButtons();
     panel.show();
     panel.hide();
-    QCOMPARE(counter.total(), 0);
+    QCOMPARE(panel.total(), 0);
 }
 
 void tst_QuickPrintWidget::placeholderIsWhite()
@@ -521,16 +507,15 @@ void tst_QuickPrintWidget::newImageIsFitted()
 
 void tst_QuickPrintWidget::slotsCanBeCalledByName()
 {
-    QuickPrintFixture panel;
-    SignalCounter counter(panel);
+    CountedPanel panel;
     QSignalSpy resized(&panel, SIGNAL(resizeSignal(QSizeF)));
     QVERIFY(resized.isValid());
     QVERIFY(QMetaObject::invokeMethod(&panel, "printSlot"));
-    QCOMPARE(counter.printed.size(), 1);
+    QCOMPARE(panel.printed.size(), 1);
     QVERIFY(QMetaObject::invokeMethod(&panel, "resizeSlot"));
     QCOMPARE(resized.size(), 1);
     QVERIFY(QMetaObject::invokeMethod(&panel, "updateCurrentRangeIndex", Q_ARG(int, 3)));
-    QCOMPARE(counter.total(), 2);
+    QCOMPARE(panel.total(), 2);
 }
 
 QTEST_MAIN(tst_QuickPrintWidget)
