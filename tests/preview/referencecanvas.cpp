@@ -123,6 +123,13 @@ int ReferenceCanvas::wrongPixels(const QImage& picture, const QColor& ground, in
     return wrong;
 }
 
+QImage fittedPicture(const QImage& image, const QSize& viewSize, const QColor& ground)
+{
+    ReferenceCanvas reference(image, viewSize);
+    reference.fit();
+    return reference.painted(ground);
+}
+
 QImage drawnBy(QWidget& view, const QColor& ground)
 {
     QImage picture(view.size(), QImage::Format_ARGB32_Premultiplied);

@@ -61,6 +61,9 @@ private:
     QPointF m_last;
 };
 
+/** What a view of this size, fitted to @p image, shows on @p ground. */
+QImage fittedPicture(const QImage& image, const QSize& viewSize, const QColor& ground);
+
 /** What @p view itself draws, onto @p ground: no background of its own or of a parent. */
 QImage drawnBy(QWidget& view, const QColor& ground);
 

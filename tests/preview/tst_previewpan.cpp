@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "preview/previewview.h"
-#include "referencecanvas.h"
+#include "sizedview.h"
 #include "support/stricttest.h"
 
 #include <QtCore/QPointer>
@@ -124,8 +123,7 @@ void tst_PreviewPan::dragMovesTheImageWithTheMouse_data()
 void tst_PreviewPan::dragMovesTheImageWithTheMouse()
 {
     QFETCH(const double, scale);
-    PreviewView view(targetImage(), QSize());
-    view.resize(400, 300);
+    SizedView view(QSize(400, 300));
     view.scaleBy(scale);
     const QPoint before = corner(view);
     press(view, QPointF(100, 100));
@@ -150,8 +148,7 @@ void tst_PreviewPan::everyButtonDrags()
 {
     QFETCH(const int, button);
     const auto which = Qt::MouseButton(button);
-    PreviewView view(targetImage(), QSize());
-    view.resize(300, 300);
+    SizedView view(QSize(300, 300));
     const QPoint before = corner(view);
     press(view, QPointF(10, 10), which);
     QVERIFY(handIsClosed());
@@ -176,8 +173,7 @@ void tst_PreviewPan::positionsAreRoundedToWholePixels()
     QFETCH(const QPointF, from);
     QFETCH(const QPointF, to);
     QFETCH(const QPoint, moved);
-    PreviewView view(targetImage(), QSize());
-    view.resize(300, 300);
+    SizedView view(QSize(300, 300));
     const QPoint before = corner(view);
     press(view, from);
     drag(view, to);
@@ -187,8 +183,7 @@ void tst_PreviewPan::positionsAreRoundedToWholePixels()
 
 void tst_PreviewPan::stepsAddUpAndEndWhereTheMouseIs()
 {
-    PreviewView view(targetImage(), QSize());
-    view.resize(300, 300);
+    SizedView view(QSize(300, 300));
     view.scaleBy(1.7);
     const QPoint before = corner(view);
     press(view, QPointF(0, 0));
@@ -200,9 +195,7 @@ void tst_PreviewPan::stepsAddUpAndEndWhereTheMouseIs()
 
 void tst_PreviewPan::imageMayBeDraggedOutOfSight()
 {
-    PreviewView view(targetImage(), QSize());
-    view.resize(300, 300);
-    view.fitToView();
+    FittedView view(QSize(300, 300));
     const QPoint before = corner(view);
     press(view, QPointF(0, 0));
     drag(view, QPointF(100000, -100000));
@@ -216,8 +209,7 @@ void tst_PreviewPan::imageMayBeDraggedOutOfSight()
 
 void tst_PreviewPan::zoomKeepsThePanInImagePixels()
 {
-    PreviewView view(targetImage(), QSize());
-    view.resize(401, 401);
+    SizedView view(QSize(401, 401));
     press(view, QPointF(0, 0));
     drag(view, QPointF(20, 10));
     release(view, QPointF(20, 10));
@@ -241,8 +233,7 @@ void tst_PreviewPan::pressTurnsTrackingOnAndReleaseOff()
 
 void tst_PreviewPan::movesWithoutAPressDoNotArrive()
 {
-    PreviewView view(targetImage(), QSize());
-    view.resize(200, 200);
+    SizedView view(QSize(200, 200));
     const QPoint before = corner(view);
     drag(view, QPointF(50, 50), Qt::NoButton);
     press(view, QPointF(0, 0));
@@ -253,8 +244,7 @@ void tst_PreviewPan::movesWithoutAPressDoNotArrive()
 
 void tst_PreviewPan::movesBetweenPressAndReleaseNeedNoButton()
 {
-    PreviewView view(targetImage(), QSize());
-    view.resize(200, 200);
+    SizedView view(QSize(200, 200));
     const QPoint before = corner(view);
     press(view, QPointF(0, 0));
     drag(view, QPointF(15, 25), Qt::NoButton);

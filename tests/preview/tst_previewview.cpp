@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "preview/previewview.h"
-#include "referencecanvas.h"
+#include "sizedview.h"
 #include "support/stricttest.h"
 
 #include <QtWidgets/QVBoxLayout>
@@ -134,15 +133,13 @@ void tst_PreviewView::startsAtScaleOneAroundTheIntegerCentre()
     QFETCH(const QSize, imageSize);
     QImage image(imageSize, QImage::Format_RGB32);
     image.fill(ink);
-    PreviewView view(image, QSize());
-    view.resize(viewSize);
+    SizedView view(viewSize, image);
     QTEST(extentOf(drawnBy(view, ground), ink), "expected");
 }
 
 void tst_PreviewView::zoomOutBeforeTheFirstFitIsHarmless()
 {
-    PreviewView view(targetImage(), QSize());
-    view.resize(200, 200);
+    SizedView view(QSize(200, 200));
     QCOMPARE(shownSide(view), 10);
     view.zoomOut();
     QCOMPARE(shownSide(view), 10);
@@ -170,18 +167,14 @@ void tst_PreviewView::fitShowsTheWholeImage()
     QFETCH(const QSize, expected);
     QImage image(imageSize, QImage::Format_RGB32);
     image.fill(ink);
-    PreviewView view(image, QSize());
-    view.resize(viewSize);
-    view.fitToView();
+    FittedView view(viewSize, image);
     // The centre is a whole pixel, so half a pixel of the image may fall outside.
     const QSize shown = extentOf(drawnBy(view, ground), ink).size();
     QVERIFY2(qAbs(shown.width() - expected.width()) <= 1,
              qPrintable(QString::number(shown.width())));
     QVERIFY2(qAbs(shown.height() - expected.height()) <= 1,
              qPrintable(QString::number(shown.height())));
-    ReferenceCanvas reference(image, viewSize);
-    reference.fit();
-    QCOMPARE(drawnBy(view, ground), reference.painted(ground));
+    QCOMPARE(drawnBy(view, ground), fittedPicture(image, viewSize, ground));
 }
 
 void tst_PreviewView::showFits()
@@ -196,22 +189,18 @@ void tst_PreviewView::showFits()
 
 void tst_PreviewView::newImageFitsAtOnceAlsoWhileHidden()
 {
-    PreviewView view(speckledImage(QSize(30, 20)), QSize());
-    view.resize(400, 300);
+    SizedView view(QSize(400, 300), speckledImage(QSize(30, 20)));
     view.setImage(targetImage());
     QCOMPARE(shownSide(view), 30);
     dragMouse(view, QPointF(10, 10), QPointF(90, 60));
     view.zoomIn();
     view.setImage(targetImage());
-    ReferenceCanvas reference(targetImage(), view.size());
-    reference.fit();
-    QCOMPARE(drawnBy(view, ground), reference.painted(ground));
+    QCOMPARE(drawnBy(view, ground), fittedPicture(targetImage(), view.size(), ground));
 }
 
 void tst_PreviewView::resizeDoesNotRefitButShowingAgainDoes()
 {
-    PreviewView view(targetImage(), QSize());
-    view.resize(200, 200);
+    SizedView view(QSize(200, 200));
     view.show();
     QCOMPARE(shownSide(view), 20);
     view.resize(500, 400);
@@ -224,16 +213,12 @@ void tst_PreviewView::resizeDoesNotRefitButShowingAgainDoes()
     QCOMPARE(shownSide(view), 20);
     view.show();
     QCOMPARE(shownSide(view), 40);
-    ReferenceCanvas reference(targetImage(), QSize(500, 400));
-    reference.fit();
-    QCOMPARE(drawnBy(view, ground), reference.painted(ground));
+    QCOMPARE(drawnBy(view, ground), fittedPicture(targetImage(), QSize(500, 400), ground));
 }
 
 void tst_PreviewView::stepsMultiplyByTheStoredFactors()
 {
-    PreviewView view(targetImage(), QSize());
-    view.resize(1000, 1000);
-    view.fitToView();
+    FittedView view(QSize(1000, 1000));
     QCOMPARE(shownSide(view), 100);
     view.zoomIn();
     QCOMPARE(shownSide(view), 110);
@@ -245,9 +230,7 @@ void tst_PreviewView::stepsMultiplyByTheStoredFactors()
 
 void tst_PreviewView::oneStepOutOfAFitAndNoMore()
 {
-    PreviewView view(targetImage(), QSize());
-    view.resize(1000, 1000);
-    view.fitToView();
+    FittedView view(QSize(1000, 1000));
     view.zoomOut();
     QVERIFY(qAbs(shownSide(view) - 91) <= 1);
     const QImage once = drawnBy(view, ground);
@@ -266,8 +249,7 @@ void tst_PreviewView::roundingIsNeverSnapped()
     int twoSteps = 0;
     for (int side = 60; side < 180; ++side) {
         ReferenceCanvas reference(image, QSize(side, side));
-        PreviewView view(image, QSize());
-        view.resize(side, side);
+        SizedView view(QSize(side, side), image);
         reference.fit();
         view.fitToView();
         reference.zoomIn();
@@ -285,9 +267,7 @@ void tst_PreviewView::roundingIsNeverSnapped()
 
 void tst_PreviewView::zoomInStopsAtTheFirstStepPastTheCeiling()
 {
-    PreviewView view(targetImage(), QSize());
-    view.resize(100, 100);
-    view.fitToView();
+    FittedView view(QSize(100, 100));
     // 1.1 to the 30th is 17.4494, just below the ceiling of 17.4495; one more step makes 19.1943.
     for (int step = 0; step < 30; ++step)
         view.zoomIn();
@@ -306,9 +286,7 @@ void tst_PreviewView::zoomInStopsAtTheFirstStepPastTheCeiling()
 
 void tst_PreviewView::resetGoesBackToTheLastFit()
 {
-    PreviewView view(targetImage(), QSize());
-    view.resize(200, 200);
-    view.fitToView();
+    FittedView view(QSize(200, 200));
     const QImage fitted = drawnBy(view, ground);
     view.scaleBy(3.7);
     dragMouse(view, QPointF(0, 0), QPointF(1000, -70));
@@ -319,9 +297,7 @@ void tst_PreviewView::resetGoesBackToTheLastFit()
 
 void tst_PreviewView::scaleByHasNoLimits()
 {
-    PreviewView view(targetImage(), QSize());
-    view.resize(400, 400);
-    view.fitToView();
+    FittedView view(QSize(400, 400));
     QCOMPARE(shownSide(view), 40);
     view.scaleBy(0.25);
     QCOMPARE(shownSide(view), 10);
@@ -346,9 +322,7 @@ void tst_PreviewView::scaleByIgnoresWhatIsNoNumber_data()
 void tst_PreviewView::scaleByIgnoresWhatIsNoNumber()
 {
     QFETCH(const double, factor);
-    PreviewView view(targetImage(), QSize());
-    view.resize(200, 200);
-    view.fitToView();
+    FittedView view(QSize(200, 200));
     view.scaleBy(factor);
     QCOMPARE(shownSide(view), 20);
 }
@@ -372,9 +346,7 @@ void tst_PreviewView::wheelIsOneStepWhateverItsDelta()
 {
     QFETCH(const QPoint, delta);
     QFETCH(const int, expected);
-    PreviewView view(targetImage(), QSize());
-    view.resize(1000, 1000);
-    view.fitToView();
+    FittedView view(QSize(1000, 1000));
     QVERIFY(turnWheel(view, delta));
     QVERIFY2(qAbs(shownSide(view) - expected) <= 1, qPrintable(QString::number(shownSide(view))));
     // The lower limit holds for the wheel, too.
@@ -389,8 +361,7 @@ void tst_PreviewView::drawsNothingBesideTheImage()
 {
     QImage image(10, 10, QImage::Format_RGB32);
     image.fill(ink);
-    PreviewView view(image, QSize());
-    view.resize(100, 80);
+    SizedView view(QSize(100, 80), image);
     const QImage picture = drawnBy(view, ground);
     int pixels = 0;
     for (int y = 0; y < picture.height(); ++y) {
@@ -405,9 +376,7 @@ void tst_PreviewView::drawsWithoutSmoothing()
     QImage image(2, 1, QImage::Format_RGB32);
     image.setPixelColor(0, 0, ink);
     image.setPixelColor(1, 0, paper);
-    PreviewView view(image, QSize());
-    view.resize(101, 51);
-    view.fitToView();
+    FittedView view(QSize(101, 51), image);
     view.scaleBy(0.77);
     const QImage picture = drawnBy(view, ground);
     for (int x = 0; x < picture.width(); ++x) {
@@ -436,9 +405,7 @@ void tst_PreviewView::drawsOverWhatTheParentPaints()
 void tst_PreviewView::resolutionOfTheImageDoesNotMatter()
 {
     QImage image = targetImage();
-    PreviewView view(image, QSize());
-    view.resize(200, 200);
-    view.fitToView();
+    FittedView view(QSize(200, 200), image);
     const QImage expected = drawnBy(view, ground);
     image.setDevicePixelRatio(2.5);
     image.setDotsPerMeterX(100);
@@ -458,8 +425,7 @@ void tst_PreviewView::nullImageDrawsNothing_data()
 void tst_PreviewView::nullImageDrawsNothing()
 {
     QFETCH(const bool, fromTheStart);
-    PreviewView view(fromTheStart ? QImage() : targetImage(), QSize());
-    view.resize(200, 200);
+    SizedView view(QSize(200, 200), fromTheStart ? QImage() : targetImage());
     if (!fromTheStart)
         view.setImage(QImage());
     QImage empty(view.size(), QImage::Format_ARGB32_Premultiplied);
@@ -484,9 +450,7 @@ void tst_PreviewView::nullImageDrawsNothing()
 // At scale 0 no way of the mouse is long enough; what it does must not outlast the next fit.
 void tst_PreviewView::viewWithoutASizeIsHarmless()
 {
-    PreviewView view(targetImage(), QSize());
-    view.resize(0, 0);
-    view.fitToView();
+    FittedView view(QSize(0, 0));
     view.zoomIn();
     view.zoomOut();
     pressMouse(view, QPointF(0, 0));
@@ -513,9 +477,7 @@ void tst_PreviewView::extremeImages()
     QFETCH(const QSize, size);
     QImage image(size, QImage::Format_Grayscale8);
     image.fill(0);
-    PreviewView view(image, QSize());
-    view.resize(320, 240);
-    view.fitToView();
+    FittedView view(QSize(320, 240), image);
     QVERIFY(!drawnBy(view, ground).isNull());
     for (int step = 0; step < 120; ++step)
         view.zoomIn();
@@ -538,9 +500,7 @@ void tst_PreviewView::extremeScales_data()
 void tst_PreviewView::extremeScales()
 {
     QFETCH(const double, factor);
-    PreviewView view(targetImage(), QSize());
-    view.resize(320, 240);
-    view.fitToView();
+    FittedView view(QSize(320, 240));
     for (int round = 0; round < 3; ++round) {
         view.scaleBy(factor);
         QVERIFY(!drawnBy(view, ground).isNull());
@@ -565,12 +525,8 @@ void tst_PreviewView::everyPictureFormatIsShown()
     QFETCH(const int, format);
     const QImage image = targetImage().convertToFormat(QImage::Format(format));
     QVERIFY(!image.isNull());
-    PreviewView view(image, QSize());
-    view.resize(200, 200);
-    view.fitToView();
-    ReferenceCanvas reference(image, view.size());
-    reference.fit();
-    QCOMPARE(drawnBy(view, ground), reference.painted(ground));
+    FittedView view(QSize(200, 200), image);
+    QCOMPARE(drawnBy(view, ground), fittedPicture(image, view.size(), ground));
 }
 
 QTEST_MAIN(tst_PreviewView)
