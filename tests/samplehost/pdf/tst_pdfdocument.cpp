@@ -139,8 +139,7 @@ void TestPdfDocument::explainsWhatCannotBeOpened_data()
     const QString damaged =
         QStringLiteral("The file \"%1\" is not a PDF document, or it is damaged.");
 
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("problem");
+    addColumns<QByteArray, QString>("bytes", "problem");
     addRow("empty", QByteArray(), "The file \"%1\" is empty.");
     addRow("garbage", QByteArray(5000, '\xA7'), damaged);
     addRow("a text", QByteArray("Dear customer,\n"), damaged);
@@ -205,8 +204,7 @@ void TestPdfDocument::titleFallsBackToTheFileName()
 
 void TestPdfDocument::tellsShownPageSizes_data()
 {
-    QTest::addColumn<QByteArray>("entries");
-    QTest::addColumn<QSizeF>("size");
+    addColumns<QByteArray, QSizeF>("entries", "size");
     addRow("plain", QByteArray(), QSizeF(595, 842));
     addRow("turned left", QByteArray("/Rotate -90"), QSizeF(842, 595));
     addRow("upside down", QByteArray("/Rotate 180"), QSizeF(595, 842));
@@ -284,8 +282,7 @@ void TestPdfDocument::rendersFilledFields()
 
 void TestPdfDocument::renderRefusesNonsense_data()
 {
-    QTest::addColumn<int>("page");
-    QTest::addColumn<QSize>("size");
+    addColumns<int, QSize>("page", "size");
     addRow("page before the first", -1, QSize(10, 10));
     addRow("page after the last", 3, QSize(10, 10));
     addRow("no size", 0, QSize());
@@ -313,8 +310,7 @@ void TestPdfDocument::tellsFormFields_data()
         bytes.add("<< /Subtype /Widget /Rect [ 0 0 50 20 ] /T (f) " + QByteArray(field) + " >>");
         return bytes.file();
     };
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<bool>("fields");
+    addColumns<QByteArray, bool>("bytes", "fields");
     addRow("form", PdfSamples::form(), true);
     addRow("form without appearances", PdfSamples::formWithoutAppearances(), true);
     addRow("plain pages", PdfSamples::pages({{}, {}}), false);

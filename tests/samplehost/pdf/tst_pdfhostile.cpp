@@ -81,8 +81,7 @@ void TestPdfHostile::useUp(PdfDocument& document)
 
 void TestPdfHostile::survivesDamage_data()
 {
-    QTest::addColumn<bool>("form");
-    QTest::addColumn<quint32>("seed");
+    addColumns<bool, quint32>("form", "seed");
     for (quint32 seed = 1; seed <= 4; ++seed) {
         QTest::addRow("form, seed %u", seed) << true << seed;
         QTest::addRow("numbered pages, seed %u", seed) << false << seed;
@@ -118,9 +117,7 @@ void TestPdfHostile::survivesDamage()
 
 void TestPdfHostile::survivesCircles_data()
 {
-    QTest::addColumn<QByteArray>("resources");
-    QTest::addColumn<QByteArray>("field");
-    QTest::addColumn<QByteArray>("content");
+    addColumns<QByteArray, QByteArray, QByteArray>("resources", "field", "content");
     addRow("resources in a circle", QByteArray("<< /XObject 6 0 R /Self 6 0 R >>"), QByteArray(),
            QByteArray("/A Do"));
     addRow("pages among the resources", QByteArray("<< /Up 2 0 R /Page 3 0 R /Top 1 0 R >>"),

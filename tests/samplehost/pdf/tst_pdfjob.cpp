@@ -83,9 +83,7 @@ private:
 
 void TestPdfJob::printsPages_data()
 {
-    QTest::addColumn<int>("pageCount");
-    QTest::addColumn<PdfPrintRequest>("request");
-    QTest::addColumn<QList<int>>("expected");
+    addColumns<int, PdfPrintRequest, QList<int>>("pageCount", "request", "expected");
     addRow("the only page", 1, range(1, 99999), QList<int>{1});
     addRow("current page", 12, range(7, 7), QList<int>{7});
     addRow("all of 12", 12, range(1, 12), upTo(12));
@@ -400,9 +398,7 @@ void TestPdfJob::refusesWhatItsAuthorForbids()
 
 void TestPdfJob::explainsFailures_data()
 {
-    QTest::addColumn<PdfPrintRequest>("request");
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("message");
+    addColumns<PdfPrintRequest, QString, QString>("request", "path", "message");
     addRow("no such page", range(13, 20), "output.pdf",
            "There is no such page. Nothing is printed.");
     addRow("reversed range", range(3, 2), "output.pdf",

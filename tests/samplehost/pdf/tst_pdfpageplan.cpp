@@ -52,9 +52,7 @@ private Q_SLOTS:
 
 void TestPdfPagePlan::namesPages_data()
 {
-    QTest::addColumn<PdfPrintRequest>("request");
-    QTest::addColumn<int>("pageCount");
-    QTest::addColumn<QList<int>>("expected");
+    addColumns<PdfPrintRequest, int, QList<int>>("request", "pageCount", "expected");
 
     addRow("current page", range(3, 3), 12, QList<int>{3});
     addRow("single page", range(3, -1), 12, QList<int>{3});
@@ -96,10 +94,7 @@ void TestPdfPagePlan::namesPages()
 
 void TestPdfPagePlan::explainsEmptyPlans_data()
 {
-    QTest::addColumn<PdfPrintRequest>("request");
-    QTest::addColumn<int>("pageCount");
-    QTest::addColumn<Problem>("problem");
-    QTest::addColumn<QString>("text");
+    addColumns<PdfPrintRequest, int, Problem, QString>("request", "pageCount", "problem", "text");
 
     const QString noPage = QStringLiteral("There is no such page. Nothing is printed.");
     addRow("reversed range", range(5, 3), 12, Problem::NoSuchRecord, noPage);

@@ -81,10 +81,7 @@ bool TestPdfPainting::paint(const PdfPrintRequest& request)
 
 void TestPdfPainting::paintsWhatTheFileShows_data()
 {
-    QTest::addColumn<QSizeF>("paper");
-    QTest::addColumn<bool>("fit");
-    QTest::addColumn<bool>("rotated180");
-    QTest::addColumn<QRectF>("mark");
+    addColumns<QSizeF, bool, bool, QRectF>("paper", "fit", "rotated180", "mark");
     const QSizeF large(800, 1500);
     addRow("own paper", QSizeF(), false, false, QRectF(40, 520, 100, 50));
     addRow("own paper, 180", QSizeF(), false, true, QRectF(260, 30, 100, 50));

@@ -48,10 +48,7 @@ private Q_SLOTS:
 
 void TestPdfSheet::placesPages_data()
 {
-    QTest::addColumn<QSizeF>("page");
-    QTest::addColumn<SheetOptions>("options");
-    QTest::addColumn<QSizeF>("sheet");
-    QTest::addColumn<QRectF>("rect");
+    addColumns<QSizeF, SheetOptions, QSizeF, QRectF>("page", "options", "sheet", "rect");
 
     const QSizeF paper(600, 800);
     const QMarginsF margins(10, 20, 30, 40);
@@ -105,10 +102,7 @@ void TestPdfSheet::placesPages()
 void TestPdfSheet::mapsCorners_data()
 {
     // A page of 400 by 600 at 100, 200 in its own coordinates on a sheet of 1000 by 1000.
-    QTest::addColumn<int>("turns");
-    QTest::addColumn<bool>("rotated180");
-    QTest::addColumn<QPointF>("lowerLeft");
-    QTest::addColumn<QPointF>("upperRight");
+    addColumns<int, bool, QPointF, QPointF>("turns", "rotated180", "lowerLeft", "upperRight");
     addRow("upright", 0, false, QPointF(300, 200), QPointF(700, 800));
     addRow("turned right", 1, false, QPointF(200, 700), QPointF(800, 300));
     addRow("upside down", 2, false, QPointF(700, 800), QPointF(300, 200));
@@ -138,11 +132,7 @@ void TestPdfSheet::mapsCorners()
 void TestPdfSheet::printsWhatWasLaidOut_data()
 {
     // The mark is 40 from the left and 520 to 570 from the top of its page of 400 by 600.
-    QTest::addColumn<QSizeF>("paper");
-    QTest::addColumn<bool>("fit");
-    QTest::addColumn<bool>("rotated180");
-    QTest::addColumn<QSizeF>("sheet");
-    QTest::addColumn<QRectF>("mark");
+    addColumns<QSizeF, bool, bool, QSizeF, QRectF>("paper", "fit", "rotated180", "sheet", "mark");
 
     const QSizeF large(800, 1500);
     addRow("own paper", QSizeF(), false, false, QSizeF(400, 600), QRectF(40, 520, 100, 50));
