@@ -6,6 +6,7 @@
 #include "samplehost/pdf/sheets/pdfsource.h"
 
 #include <qpdf/Pl_Buffer.hh>
+#include <qpdf/Pl_Flate.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
 
 namespace SampleHost {
@@ -21,8 +22,11 @@ QPDFObjectHandle contentsOf(PdfSource& source, QPDFObjectHandle page)
     QPDFObjectHandle contents = page.getKey("/Contents");
     if (!contents.isStream()) {
         Pl_Buffer joined("page");
-        QPDFPageObjectHelper(page).pipeContents(&joined);
-        return source.document().newStream(joined.getBufferSharedPointer());
+        Pl_Flate deflate("page", &joined, Pl_Flate::a_deflate);
+        QPDFPageObjectHelper(page).pipeContents(&deflate);
+        QPDFObjectHandle stream = source.document().newStream(joined.getBufferSharedPointer());
+        stream.getDict().replaceKey("/Filter", QPDFObjectHandle::newName("/FlateDecode"));
+        return stream;
     }
     QPDFObjectHandle copy = contents.copyStream();
     for (const std::string& key : contents.getDict().getKeys()) {

@@ -179,7 +179,9 @@ void PdfSheetWriter::write(QIODevice& device, const QString& title,
     QPDFWriter writer(m_document);
     writer.setOutputPipeline(&file);
     writer.setMinimumPDFVersion("1.7");
+    // The streams of the pages are encoded already; our own are short.
     writer.setDecodeLevel(qpdf_dl_none);
+    writer.setCompressStreams(false);
     writer.write();
     if (m_order.size() > m_objects.size()) {
         PageUpdate(file, writer, m_document).write(m_order);
