@@ -28,9 +28,11 @@ function(printpanels_configure_target target)
         QT_NO_KEYWORDS
         QT_STRICT_ITERATORS
         QT_NO_URL_CAST_FROM_STRING)
-    target_compile_options(${target} PRIVATE ${printpanels_warnings})
+    # The resource compiler of Windows does not know them.
+    target_compile_options(${target} PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${printpanels_warnings}>")
     if(PRINTPANELS_WERROR)
-        target_compile_options(${target} PRIVATE ${printpanels_warnings_as_errors})
+        target_compile_options(${target} PRIVATE
+            "$<$<COMPILE_LANGUAGE:CXX>:${printpanels_warnings_as_errors}>")
     endif()
     if(PRINTPANELS_PCH AND NOT arg_WITHOUT_WIDGETS)
         target_precompile_headers(${target} REUSE_FROM printpanels_pch)
@@ -65,9 +67,16 @@ if(PRINTPANELS_PCH)
         <QtWidgets/QPushButton>)
 endif()
 
+# Describes a DLL in the properties that Windows shows of a file.
+function(printpanels_add_version_resource target name description)
+    set(resource "${CMAKE_CURRENT_BINARY_DIR}/${name}.rc")
+    configure_file("${PROJECT_SOURCE_DIR}/cmake/windows/version.rc.in" "${resource}" @ONLY)
+    target_sources(${target} PRIVATE "${resource}")
+endfunction()
+
 # Configures a library that is installed.
-#   printpanels_configure_library(<target> <name in the package>)
-function(printpanels_configure_library target export_name)
+#   printpanels_configure_library(<target> <name in the package> <file name> <description>)
+function(printpanels_configure_library target export_name name description)
     printpanels_configure_target(${target})
     # While the major version is 0, every minor version may change the interface.
     set(soversion ${PROJECT_VERSION_MAJOR})
@@ -76,12 +85,17 @@ function(printpanels_configure_library target export_name)
     endif()
     set_target_properties(${target} PROPERTIES
         EXPORT_NAME ${export_name}
+        OUTPUT_NAME ${name}
         POSITION_INDEPENDENT_CODE ON
         SOVERSION ${soversion}
         VERSION ${PROJECT_VERSION})
     if(BUILD_SHARED_LIBS AND NOT WIN32 AND NOT APPLE AND NOT PRINTPANELS_FUZZERS)
         # Report missing symbols when the library is linked, not when a host loads it.
         target_link_options(${target} PRIVATE "LINKER:--no-undefined")
+    endif()
+    if(BUILD_SHARED_LIBS AND WIN32)
+        set_target_properties(${target} PROPERTIES PREFIX "")
+        printpanels_add_version_resource(${target} ${name} "${description}")
     endif()
     # The only folder with public headers, so that targets in the tree see what consumers see.
     target_include_directories(${target} PUBLIC
