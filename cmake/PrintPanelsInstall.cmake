@@ -24,6 +24,10 @@ install(TARGETS ${printpanels_installed_targets} ${printpanels_installed_objects
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT Runtime NAMELINK_COMPONENT Devel
     ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT Devel
     OBJECTS DESTINATION "${CMAKE_INSTALL_LIBDIR}/printpanels" COMPONENT Devel)
+get_property(printpanels_debug_files GLOBAL PROPERTY PRINTPANELS_DEBUG_FILES)
+if(printpanels_debug_files)
+    install(FILES ${printpanels_debug_files} DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT Devel)
+endif()
 install(EXPORT PrintPanelsTargets
     NAMESPACE PrintPanels::
     DESTINATION "${printpanels_package_dir}"

@@ -74,6 +74,19 @@ function(printpanels_add_version_resource target name description)
     target_sources(${target} PRIVATE "${resource}")
 endfunction()
 
+# Puts the debugging information of a DLL into a file beside it, where gdb finds it. What other compilers
+# for Windows make is such a file from the start.
+function(printpanels_separate_debug_file target)
+    set(library "$<TARGET_FILE:${target}>")
+    set(debug_file "${library}.debug")
+    add_custom_command(TARGET ${target} POST_BUILD
+        COMMAND ${CMAKE_OBJCOPY} --only-keep-debug "${library}" "${debug_file}"
+        COMMAND ${CMAKE_STRIP} --strip-debug --strip-unneeded "${library}"
+        COMMAND ${CMAKE_OBJCOPY} "--add-gnu-debuglink=${debug_file}" "${library}"
+        VERBATIM)
+    set_property(GLOBAL APPEND PROPERTY PRINTPANELS_DEBUG_FILES "${debug_file}")
+endfunction()
+
 # Configures a library that is installed.
 #   printpanels_configure_library(<target> <name in the package> <file name> <description>)
 function(printpanels_configure_library target export_name name description)
@@ -96,6 +109,9 @@ function(printpanels_configure_library target export_name name description)
     if(BUILD_SHARED_LIBS AND WIN32)
         set_target_properties(${target} PROPERTIES PREFIX "")
         printpanels_add_version_resource(${target} ${name} "${description}")
+        if(MINGW)
+            printpanels_separate_debug_file(${target})
+        endif()
     endif()
     # The only folder with public headers, so that targets in the tree see what consumers see.
     target_include_directories(${target} PUBLIC

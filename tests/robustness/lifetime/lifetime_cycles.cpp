@@ -5,6 +5,7 @@
 // prints what is in use of the heap.
 //     lifetime_cycles [CYCLES [NAME]]
 
+#include "heapinuse.h"
 #include "panelcycles.h"
 
 #include <QtWidgets/QApplication>

@@ -24,11 +24,7 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QVBoxLayout>
 
-#include <malloc.h>
 #include <memory>
-
-// Present only in a program that a sanitizer instruments.
-extern "C" __attribute__((weak)) std::size_t __sanitizer_get_current_allocated_bytes();
 
 namespace {
 
@@ -178,12 +174,4 @@ void runCycles(const PanelCycle& cycle, int times)
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCoreApplication::processEvents();
     }
-}
-
-std::size_t heapInUse()
-{
-    if (__sanitizer_get_current_allocated_bytes != nullptr)
-        return __sanitizer_get_current_allocated_bytes();
-    const struct mallinfo2 info = mallinfo2();
-    return info.uordblks + info.hblkhd;
 }

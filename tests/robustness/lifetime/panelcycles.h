@@ -6,8 +6,6 @@
 
 #include <QtCore/QList>
 
-#include <cstddef>
-
 /** The life of a panel: created, shown, used a little and destroyed. */
 struct PanelCycle
 {
@@ -20,8 +18,5 @@ QList<PanelCycle> panelCycles();
 
 /** Runs @p cycle this often, with all that was to be deleted later deleted after each. */
 void runCycles(const PanelCycle& cycle, int times);
-
-/** Bytes of the heap that are in use, counted by malloc or by a sanitizer that replaces it. */
-std::size_t heapInUse();
 
 #endif

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
+#include "heapinuse.h"
 #include "lifetimetest.h"
-#include "panelcycles.h"
 
 #include <QtCore/QCoreApplication>
 

@@ -53,7 +53,7 @@ private:
 
 namespace {
 
-const QColor signal(255, 0, 255);
+const QColor marker(255, 0, 255);
 
 // Long enough that no label can show all of it, because what is cut off gets a tool tip.
 QString lengthened(const QString& markup)
@@ -95,7 +95,7 @@ bool showsPicture(QWidget* widget)
     const QImage shot = widget->grab().toImage();
     for (int y = 0; y < shot.height(); ++y) {
         for (int x = 0; x < shot.width(); ++x) {
-            if (shot.pixelColor(x, y) == signal)
+            if (shot.pixelColor(x, y) == marker)
                 return true;
         }
     }
@@ -122,7 +122,7 @@ QList<QPoint> tipPositions(const QWidget* widget)
 void tst_Markup::initTestCase()
 {
     QImage picture(64, 64, QImage::Format_RGB32);
-    picture.fill(signal);
+    picture.fill(marker);
     QVERIFY(folder.isValid());
     QVERIFY(picture.save(folder.filePath(QStringLiteral("picture.png"))));
 }
