@@ -14,14 +14,13 @@ namespace {
 struct Option
 {
     const char* name;
-    void (MultiPagePrintWidget::*signal)(int);
+    const char* signal;
     bool startsChecked;
 };
 
-const Option options[] = {
-    {"formFillCheck", &MultiPagePrintWidget::printFormFillChangedSignal, true},
-    {"fitToPageCheck", &MultiPagePrintWidget::fitToPageChangedSignal, false},
-    {"orientationCheck", &MultiPagePrintWidget::orientationChangedSignal, false}};
+const Option options[] = {{"formFillCheck", SIGNAL(printFormFillChangedSignal(int)), true},
+                          {"fitToPageCheck", SIGNAL(fitToPageChangedSignal(int)), false},
+                          {"orientationCheck", SIGNAL(orientationChangedSignal(int)), false}};
 
 } // namespace
 
@@ -74,7 +73,7 @@ void tst_MultiPageOptions::keyboardIsReported()
 {
     MultiPageFixture panel;
     QVERIFY(showActive(panel));
-    QSignalSpy changed(&panel, &MultiPagePrintWidget::fitToPageChangedSignal);
+    QSignalSpy changed(&panel, SIGNAL(fitToPageChangedSignal(int)));
     panel.check("fitToPageCheck")->setFocus();
     QTest::keyClick(panel.check("fitToPageCheck"), Qt::Key_Space);
     QCOMPARE(takeNumbers(changed), QList<int>({2}));
@@ -95,7 +94,7 @@ void tst_MultiPageOptions::formFillOption()
     QFETCH(const bool, checked);
     MultiPageFixture panel;
     QVERIFY(showActive(panel));
-    QSignalSpy changed(&panel, &MultiPagePrintWidget::printFormFillChangedSignal);
+    QSignalSpy changed(&panel, SIGNAL(printFormFillChangedSignal(int)));
     for (const bool before : {false, true}) {
         panel.setFormFillOption(before, before);
         panel.setFormFillOption(visible, checked);
@@ -110,7 +109,7 @@ void tst_MultiPageOptions::formFillOptionLeavesTheConnectionOnce()
     MultiPageFixture panel;
     for (int i = 0; i < 3; ++i)
         panel.setFormFillOption(true, i % 2 == 0);
-    QSignalSpy changed(&panel, &MultiPagePrintWidget::printFormFillChangedSignal);
+    QSignalSpy changed(&panel, SIGNAL(printFormFillChangedSignal(int)));
     clickOn(panel.check("formFillCheck"));
     QCOMPARE(takeNumbers(changed), QList<int>({0}));
 }
@@ -118,7 +117,7 @@ void tst_MultiPageOptions::formFillOptionLeavesTheConnectionOnce()
 void tst_MultiPageOptions::orientationCheckIsSetSilently()
 {
     MultiPageFixture panel;
-    QSignalSpy changed(&panel, &MultiPagePrintWidget::orientationChangedSignal);
+    QSignalSpy changed(&panel, SIGNAL(orientationChangedSignal(int)));
     for (const bool checked : {true, true, false, false, true}) {
         panel.set180OrientationCheck(checked);
         QCOMPARE(panel.check("orientationCheck")->isChecked(), checked);
