@@ -4,7 +4,7 @@
 # Settings of the targets of this build. Warnings and strictness are private: consumers choose their own.
 
 if(MSVC)
-    set(printpanels_warnings /W4 /permissive- /utf-8)
+    set(printpanels_warnings /W4 /permissive- /utf-8 /Zc:__cplusplus)
     set(printpanels_warnings_as_errors /WX)
 else()
     set(printpanels_warnings
@@ -74,8 +74,7 @@ function(printpanels_add_version_resource target name description)
     target_sources(${target} PRIVATE "${resource}")
 endfunction()
 
-# Puts the debugging information of a DLL into a file beside it, where gdb finds it. What other compilers
-# for Windows make is such a file from the start.
+# Puts the debugging information of a DLL into a file beside it, where gdb finds it.
 function(printpanels_separate_debug_file target)
     set(library "$<TARGET_FILE:${target}>")
     set(debug_file "${library}.debug")
@@ -85,6 +84,16 @@ function(printpanels_separate_debug_file target)
         COMMAND ${CMAKE_OBJCOPY} "--add-gnu-debuglink=${debug_file}" "${library}"
         VERBATIM)
     set_property(GLOBAL APPEND PROPERTY PRINTPANELS_DEBUG_FILES "${debug_file}")
+endfunction()
+
+# Installs the debugging information that Visual C++ writes into a file beside a DLL. Its linker keeps
+# unused code if it is to write such a file, unless it is told not to.
+function(printpanels_install_debug_file target)
+    set(with_debug_file "$<CONFIG:RelWithDebInfo>")
+    target_link_options(${target} PRIVATE
+        "$<${with_debug_file}:/INCREMENTAL:NO;/OPT:REF;/OPT:ICF>")
+    set_property(GLOBAL APPEND PROPERTY PRINTPANELS_DEBUG_FILES
+        "$<${with_debug_file}:$<TARGET_PDB_FILE:${target}>>")
 endfunction()
 
 # Configures a library that is installed.
@@ -111,6 +120,8 @@ function(printpanels_configure_library target export_name name description)
         printpanels_add_version_resource(${target} ${name} "${description}")
         if(MINGW)
             printpanels_separate_debug_file(${target})
+        elseif(MSVC)
+            printpanels_install_debug_file(${target})
         endif()
     endif()
     # The only folder with public headers, so that targets in the tree see what consumers see.
