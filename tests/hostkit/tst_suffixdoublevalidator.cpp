@@ -313,7 +313,7 @@ void TestSuffixDoubleValidator::hugeTextsAreJudgedQuickly()
 
 void TestSuffixDoubleValidator::typingIntoALineEdit_data()
 {
-    addColumns<QString, QString, bool>("typed", "text", "acceptable");
+    addColumns<QString, QString, bool>("typed", "text", "accepted");
     const auto row = [](const char* typed, const char* text, bool satisfied) {
         QTest::newRow(typed) << QString::fromLatin1(typed) << QString::fromLatin1(text)
                              << satisfied;
@@ -332,14 +332,14 @@ void TestSuffixDoubleValidator::typingIntoALineEdit()
 {
     QFETCH(QString, typed);
     QFETCH(QString, text);
-    QFETCH(bool, acceptable);
+    QFETCH(bool, accepted);
     QLineEdit edit;
     auto* validator = new SuffixDoubleValidator(0.0, 999999.0, 3, &edit);
     validator->setSuffix(inches);
     edit.setValidator(validator);
     QTest::keyClicks(&edit, typed);
     QCOMPARE(edit.text(), text);
-    QCOMPARE(edit.hasAcceptableInput(), acceptable);
+    QCOMPARE(edit.hasAcceptableInput(), accepted);
 }
 
 void TestSuffixDoubleValidator::numberCanBeReplacedInFrontOfItsSuffix()
