@@ -60,7 +60,10 @@ bool WrappedLabel::isElided() const
 int WrappedLabel::heightOf(qsizetype lines) const
 {
     const QMargins margins = contentsMargins();
-    return int(lines) * fontMetrics().lineSpacing() + margins.top() + margins.bottom();
+    // Measured as any label is: lines and the leading between them are rounded in a way of their
+    // own.
+    return fontMetrics().size(0, QString(lines - 1, u'\n')).height() + margins.top() +
+           margins.bottom();
 }
 
 QSize WrappedLabel::sizeHint() const

@@ -147,11 +147,12 @@ void tst_QuickPrintHost::nameTakesTheLinesThatItNeeds()
     (new QVBoxLayout(&window))->addWidget(panel);
     panel->setCurrentPrinterName(QStringLiteral("First second third fourth fifth sixth seventh"));
     window.show();
-    const int line = panel->nameLabel()->fontMetrics().lineSpacing();
-    QCOMPARE(panel->nameLabel()->height(), 2 * line);
+    const QFontMetrics metrics = panel->nameLabel()->fontMetrics();
+    QCOMPARE(panel->nameLabel()->height(), metrics.size(0, QStringLiteral("x\nx")).height());
     window.resize(900, window.height());
     QTest::qWait(0);
-    QVERIFY(panel->nameLabel()->heightForWidth(panel->nameLabel()->width()) == line);
+    QCOMPARE(panel->nameLabel()->heightForWidth(panel->nameLabel()->width()),
+             metrics.size(0, QStringLiteral("x")).height());
 }
 
 void tst_QuickPrintHost::nameStaysUnderItsCaptionInATallPanel()

@@ -3,7 +3,9 @@
 
 #include "user.h"
 
+#include <QtCore/QPointer>
 #include <QtGui/QWheelEvent>
+#include <QtGui/QWindow>
 #include <QtTest/QTest>
 #include <QtTest/qtestspontaneevent.h>
 #include <QtWidgets/QApplication>
@@ -30,6 +32,17 @@ void bringIntoSight(QWidget* target)
             return;
         }
     }
+}
+
+// Windows repeats a press that closes a list for what lies below the list, before the release can
+// come.
+void clickAt(QWindow* window, Qt::MouseButton button, const QPoint& spot, const QWidget& desk)
+{
+    const QPointer<QWindow> target = window;
+    QTest::mousePress(window, button, {}, spot);
+    QCoreApplication::sendPostedEvents();
+    QTest::mouseRelease(target ? target.data() : desk.windowHandle(), button, {},
+                        target ? spot : QPoint(5, 5));
 }
 
 } // namespace
@@ -76,13 +89,13 @@ void User::click(QWidget* panel)
     const Qt::MouseButton button = choice < 16   ? Qt::LeftButton
                                    : choice < 19 ? Qt::RightButton
                                                  : Qt::MiddleButton;
-    if (world.random.oneIn(10)) {
+    if (world.random.oneIn(10) && !QApplication::activePopupWidget()) {
         world.trail.note(QStringLiteral("user: double click %1").arg(button));
         QTest::mouseDClick(window->windowHandle(), button, {}, spot);
-    } else {
-        world.trail.note(QStringLiteral("user: click %1").arg(button));
-        QTest::mouseClick(window->windowHandle(), button, {}, spot);
+        return;
     }
+    world.trail.note(QStringLiteral("user: click %1").arg(button));
+    clickAt(window->windowHandle(), button, spot, m_desk);
 }
 
 void User::press(QWidget* panel)
