@@ -3,18 +3,15 @@
 
 #include "samplehost/automation/demostates.h"
 
-#include "samplehost/automation/demodocument.h"
+#include "samplehost/automation/documentstates.h"
 #include "samplehost/automation/inputsimulation.h"
 #include "samplehost/pages/catalogpage.h"
 #include "samplehost/pages/labelpage.h"
-#include "samplehost/pages/pdfpage.h"
 #include "samplehost/pages/pipepage.h"
 #include "samplehost/printing/labelpreview.h"
-#include "samplehost/printing/pdfpreview.h"
 #include "samplehost/simulator/supplysimulator.h"
 #include "samplehost/window/mainwindow.h"
 
-#include <printpanels/multipageprintdialog.h>
 #include <printpanels/printpreviewdialog.h>
 #include <printpanels/printwidget.h>
 
@@ -88,25 +85,6 @@ bool showQuickPrint(MainWindow& window)
                                       QStringLiteral("fixedSizeCheck")));
 }
 
-bool showDocument(MainWindow& window)
-{
-    PdfPage& page = window.pdfPage();
-    window.setCurrentPage(page);
-    if (page.document() == nullptr) {
-        auto* demo = new DemoDocument(&page);
-        return demo->write(window.labelPage().design()) && page.open(demo->path());
-    }
-    return true;
-}
-
-bool showMultiPage(MainWindow& window)
-{
-    return showDocument(window) &&
-           InputSimulation::click(
-               window.pdfPage().findChild<QWidget*>(QStringLiteral("documentPrintButton"))) &&
-           window.pdfPage().preview().dialog().isVisible();
-}
-
 } // namespace
 
 bool choosePrintToFile(const PrintPage& page)
@@ -144,10 +122,7 @@ QWidget* openPopup(const MainWindow& window)
             return popup;
         }
     }
-    if (window.pdfPage().preview().dialog().isVisible()) {
-        return &window.pdfPage().preview().dialog();
-    }
-    return nullptr;
+    return window.documentWindow();
 }
 
 bool applyDemoState(MainWindow& window, DemoState state)

@@ -5,13 +5,12 @@
 
 #include "samplehost/automation/catalogrun.h"
 #include "samplehost/automation/demostates.h"
-#include "samplehost/automation/documentrun.h"
+#include "samplehost/automation/documentstates.h"
 #include "samplehost/automation/inputsimulation.h"
 #include "samplehost/automation/labelrun.h"
-#include "samplehost/pages/catalogpage.h"
-#include "samplehost/pages/labelpage.h"
-#include "samplehost/pages/pdfpage.h"
+#include "samplehost/pages/hostpage.h"
 #include "samplehost/print/outputfile.h"
+#include "samplehost/printing/jobcontroller.h"
 #include "samplehost/window/mainwindow.h"
 
 #include <QtCore/QBuffer>
@@ -48,14 +47,13 @@ bool savePicture(const QPixmap& picture, const QString& path, QString& problem)
 HeadlessRun::HeadlessRun(MainWindow& window, const CommandLine& command, QObject* parent)
     : QObject(parent), m_window(window), m_command(command)
 {
-    const auto follow = [this](const JobController& controller) {
-        connect(&controller, &JobController::refused, this,
+    const auto pages = window.findChildren<HostPage*>();
+    for (const HostPage* page : pages) {
+        const JobController* controller = &page->controller();
+        connect(controller, &JobController::refused, this,
                 [this](const QString& reason) { fail(CommandRun::NothingToPrint, reason); });
-        connect(&controller, &JobController::jobEnded, this, &HeadlessRun::endJob);
-    };
-    follow(window.labelPage().controller());
-    follow(window.catalogPage().controller());
-    follow(window.pdfPage().controller());
+        connect(controller, &JobController::jobEnded, this, &HeadlessRun::endJob);
+    }
 }
 
 bool HeadlessRun::fail(CommandRun::ExitCode code, const QString& message)
@@ -71,8 +69,9 @@ void HeadlessRun::start()
 {
     applyOptions();
     m_window.show();
-    if (!m_window.pdfPage().problem().isEmpty()) {
-        fail(CommandRun::RuntimeFailure, m_window.pdfPage().problem());
+    const QString problem = documentProblem(m_window);
+    if (!problem.isEmpty()) {
+        fail(CommandRun::RuntimeFailure, problem);
         return;
     }
     if (!applyDemoState(m_window, m_command.state)) {
@@ -105,7 +104,7 @@ void HeadlessRun::execute(CommandRun& run)
 std::unique_ptr<CommandRun> HeadlessRun::makeRun()
 {
     if (!m_command.document.file.isEmpty()) {
-        return std::make_unique<DocumentRun>(m_window, m_command);
+        return makeDocumentRun(m_window, m_command);
     }
     if (m_command.catalog.isGiven()) {
         return std::make_unique<CatalogRun>(m_window, m_command);

@@ -4,7 +4,6 @@
 #include "samplehost/window/mainwindow.h"
 
 #include "samplehost/pages/labelpage.h"
-#include "samplehost/pages/pdfpage.h"
 #include "samplehost/printing/printprogressdialog.h"
 #include "samplehost/simulator/supplysimulator.h"
 #include "samplehost/window/errormessages.h"
@@ -66,8 +65,7 @@ void MainWindow::createDocks()
 void MainWindow::createMenus()
 {
     QMenu* file = menuBar()->addMenu(tr("&File"));
-    m_pdfPage->addActions(*file);
-    file->addSeparator();
+    addDocumentActions(*file);
     file->addAction(tr("&Print"), QKeySequence::Print, this, [this] { currentPage().print(); });
     file->addAction(tr("Print Pre&view"), this, [this] { currentPage().showPreview(); });
     file->addAction(tr("&Count Pages"), this, &MainWindow::countPages)

@@ -35,6 +35,9 @@ public:
     explicit MainWindow(const HostOptions& options = HostOptions(), QWidget* parent = nullptr);
     ~MainWindow() override;
 
+    /** Whether this is a build with PDF documents. If not, there is no page of documents. */
+    static bool hasDocuments();
+
     /** Why the data source could not be opened; empty if it is open. */
     QString dataSourceProblem() const { return m_dataSourceProblem; }
 
@@ -48,7 +51,10 @@ public:
     LabelPage& labelPage() const { return *m_labelPage; }
     PipePage& pipePage() const { return *m_pipePage; }
     CatalogPage& catalogPage() const { return *m_catalogPage; }
+    /** The page of documents. Not called in a build without it. */
     PdfPage& pdfPage() const { return *m_pdfPage; }
+    /** The visible window that prints a document, or null. */
+    QWidget* documentWindow() const;
     SupplySimulator& supply() const { return *m_supply; }
     EventLog& eventLog() const { return *m_log; }
 
@@ -71,6 +77,7 @@ private:
     void connectPanel(PrintPage& page);
     void addCatalogPage();
     void addDocumentPage(const QString& document);
+    void addDocumentActions(QMenu& menu);
     void refreshPrinterStates();
     void askForPrinter();
     void addPrinter(const QString& name);

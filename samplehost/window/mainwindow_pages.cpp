@@ -3,16 +3,12 @@
 
 #include "samplehost/pages/catalogpage.h"
 #include "samplehost/pages/labelpage.h"
-#include "samplehost/pages/pdfpage.h"
 #include "samplehost/pages/pipepage.h"
 #include "samplehost/printing/labelpreview.h"
-#include "samplehost/printing/pdfpreview.h"
 #include "samplehost/simulator/supplysimulator.h"
 #include "samplehost/window/eventlog.h"
 #include "samplehost/window/mainwindow.h"
 
-#include <printpanels/multipageprintdialog.h>
-#include <printpanels/multipageprintwidget.h>
 #include <printpanels/printpreviewdialog.h>
 #include <printpanels/printwidget.h>
 #include <printpanels/quickprintwidget.h>
@@ -77,30 +73,11 @@ void MainWindow::addCatalogPage()
     addPage(m_catalogPage, tr("Catalogue"));
 }
 
-void MainWindow::addDocumentPage(const QString& document)
-{
-    m_pdfPage = new PdfPage(m_settings, m_printers);
-    m_log->watch(m_pdfPage->preview().panel(), tr("Documents"));
-    addPage(m_pdfPage, tr("Documents"));
-    const auto showStatus = [this](const QString& text) { statusBar()->showMessage(text); };
-    connect(m_pdfPage, &PdfPage::opened, this, [this, showStatus](const QString& path) {
-        setCurrentPage(*m_pdfPage);
-        showStatus(tr("Opened %1").arg(path));
-    });
-    connect(&m_pdfPage->preview(), &PdfPreview::statusChanged, this, showStatus);
-    connect(m_pdfPage, &PdfPage::openFailed, this, &MainWindow::showError);
-    connect(&m_pdfPage->preview(), &PdfPreview::preferencesRequested, this,
-            &MainWindow::openPreferences);
-    if (!document.isEmpty()) {
-        m_pdfPage->open(document);
-    }
-}
-
-// Message boxes of this window would be covered by a dialog in front of it.
+// Message boxes of this window would be covered by a window in front of it.
 QWidget* MainWindow::frontWindow()
 {
-    MultiPagePrintDialog& dialog = m_pdfPage->preview().dialog();
-    return dialog.isVisible() ? static_cast<QWidget*>(&dialog) : this;
+    QWidget* window = documentWindow();
+    return window != nullptr ? window : this;
 }
 
 } // namespace SampleHost
