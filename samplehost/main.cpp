@@ -93,13 +93,14 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationName(QStringLiteral("samplehost"));
     QCoreApplication::setOrganizationName(QStringLiteral("printpanels"));
     QCoreApplication::setApplicationVersion(QStringLiteral(PRINTPANELS_VERSION_STRING));
-    const CommandLine command = parseCommandLine(QCoreApplication::arguments());
+    const CommandLine command =
+        parseCommandLine(QCoreApplication::arguments(), MainWindow::parts());
     if (!command.problem.isEmpty()) {
         printLine(stderr, command.problem);
         return CommandRun::NothingToPrint;
     }
     if (command.helpAsked) {
-        printLine(stdout, commandLineHelp());
+        printLine(stdout, commandLineHelp(MainWindow::parts()));
         return CommandRun::Success;
     }
     if (command.versionAsked) {

@@ -26,17 +26,19 @@ QString tr(const char* text)
     return QCoreApplication::translate("SampleHost::CommandLine", text);
 }
 
-void addOptions(QCommandLineParser& parser)
+/** Adds the options of a build with these parts. */
+void addOptions(QCommandLineParser& parser, const HostParts& parts)
 {
-    parser.setApplicationDescription(tr("Prints labels and documents through the print panels."));
     parser.addHelpOption();
     parser.addVersionOption();
-    const QString states = demoStateNames().join(QStringLiteral(", "));
+    const QString states = demoStateNames(parts).join(QStringLiteral(", "));
     for (const CommandOption& option : commandOptions) {
-        QString description = tr(option.description);
-        description.replace(QStringLiteral("%1"), states);
-        parser.addOption(
-            {QString::fromLatin1(option.name), description, QString::fromLatin1(option.valueName)});
+        if (isOffered(option, parts)) {
+            QString description = tr(option.description);
+            description.replace(QStringLiteral("%1"), states);
+            parser.addOption({QString::fromLatin1(option.name), description,
+                              QString::fromLatin1(option.valueName)});
+        }
     }
 }
 
@@ -67,10 +69,11 @@ void CommandLine::applyTo(HostSettings& settings) const
     }
 }
 
-CommandLine parseCommandLine(const QStringList& arguments)
+CommandLine parseCommandLine(const QStringList& arguments, const HostParts& parts)
 {
     QCommandLineParser parser;
-    addOptions(parser);
+    // An option of a missing part is not just an unknown one.
+    addOptions(parser, HostParts());
     CommandLine result;
     if (!parser.parse(arguments)) {
         result.problem = parser.errorText();
@@ -84,15 +87,29 @@ CommandLine parseCommandLine(const QStringList& arguments)
             tr("\"%1\" is not an option.").arg(parser.positionalArguments().constFirst());
         return result;
     }
-    CommandReader(parser, result).read();
+    CommandReader(parser, parts, result).read();
     return result;
 }
 
-QString commandLineHelp()
+QString commandLineHelp(const HostParts& parts)
 {
     QCommandLineParser parser;
-    addOptions(parser);
-    return parser.helpText();
+    parser.setApplicationDescription(
+        parts.documents ? tr("Prints labels and documents through the print panels.")
+                        : tr("Prints labels through the print panels."));
+    addOptions(parser, parts);
+    QString help = parser.helpText();
+    if (!parts.documents || !parts.printQueues) {
+        help += QLatin1Char('\n');
+    }
+    if (!parts.documents) {
+        help += tr("This build has no PDF documents.") + QLatin1Char('\n');
+    }
+    if (!parts.printQueues) {
+        help += tr("This build has no print queues of CUPS: the system's own printing is used.") +
+                QLatin1Char('\n');
+    }
+    return help;
 }
 
 bool looksHeadless(int argc, const char* const* argv)

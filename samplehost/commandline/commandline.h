@@ -6,6 +6,7 @@
 
 #include "samplehost/commandline/demostate.h"
 #include "samplehost/commandline/hostoptions.h"
+#include "samplehost/commandline/hostparts.h"
 #include "samplehost/printing/hostsettings.h"
 
 #include <QtCore/QString>
@@ -119,11 +120,14 @@ struct CommandLine
     }
 };
 
-/** Parses a command line, which starts with the name of the program. */
-CommandLine parseCommandLine(const QStringList& arguments);
+/**
+ * Parses a command line, which starts with the name of the program. What needs a part that the
+ * build does not have is a problem.
+ */
+CommandLine parseCommandLine(const QStringList& arguments, const HostParts& parts = HostParts());
 
-/** The text of --help. Needs the application object. */
-QString commandLineHelp();
+/** The text of --help, which names the missing parts. Needs the application object. */
+QString commandLineHelp(const HostParts& parts = HostParts());
 
 /**
  * Whether the raw arguments ask for a run without a user. The platform has to be chosen before the

@@ -4,6 +4,8 @@
 #ifndef SAMPLEHOST_COMMANDOPTIONS_H
 #define SAMPLEHOST_COMMANDOPTIONS_H
 
+#include "samplehost/commandline/hostparts.h"
+
 namespace SampleHost {
 
 /** One option of the program. */
@@ -73,6 +75,12 @@ inline constexpr CommandOption commandOptions[] = {
      CommandOption::Document},
 };
 // clang-format on
+
+/** Whether a build with these parts has an option. */
+inline bool isOffered(const CommandOption& option, const HostParts& parts)
+{
+    return option.command != CommandOption::Document || parts.documents;
+}
 
 } // namespace SampleHost
 

@@ -18,13 +18,15 @@ constexpr const char* notForCatalog[] = {"print",      "all",          "current"
 
 } // namespace
 
-CommandReader::CommandReader(const QCommandLineParser& parser, CommandLine& result)
-    : m_parser(parser), m_result(result)
+CommandReader::CommandReader(const QCommandLineParser& parser, const HostParts& parts,
+                             CommandLine& result)
+    : m_parser(parser), m_parts(parts), m_result(result)
 {
 }
 
 void CommandReader::read()
 {
+    checkParts();
     readRecords();
     readCatalog();
     readDocument();
@@ -87,6 +89,16 @@ void CommandReader::checkCommand(CommandOption::Command command, const char* opt
     for (const CommandOption& other : commandOptions) {
         if (other.command == command && has(other.name) && !has(option)) {
             report(tr("--%1 needs %2.").arg(QLatin1String(other.name), QLatin1String(usage)));
+        }
+    }
+}
+
+void CommandReader::checkParts()
+{
+    for (const CommandOption& option : commandOptions) {
+        if (has(option.name) && !isOffered(option, m_parts)) {
+            report(tr("--%1 cannot be used: this build has no PDF documents.")
+                       .arg(QLatin1String(option.name)));
         }
     }
 }
@@ -236,13 +248,22 @@ void CommandReader::readWindow()
 {
     m_result.screenshot = value("screenshot");
     checkFileName("screenshot");
-    m_result.state = demoStateFromName(value("state"));
-    if (has("state") && m_result.state == DemoState::None) {
-        report(tr("--state needs one of %1, not \"%2\".")
-                   .arg(demoStateNames().join(QStringLiteral(", ")), value("state")));
-    }
+    readState();
     m_result.host.testControls =
         has("test-controls") || m_result.printToFile || m_result.state == DemoState::TestControls;
+}
+
+void CommandReader::readState()
+{
+    const QString name = value("state");
+    const QStringList offered = demoStateNames(m_parts);
+    m_result.state = demoStateFromName(name);
+    if (has("state") && m_result.state == DemoState::None) {
+        report(tr("--state needs one of %1, not \"%2\".")
+                   .arg(offered.join(QStringLiteral(", ")), name));
+    } else if (has("state") && !offered.contains(name)) {
+        report(tr("The state \"%1\" cannot be shown: this build has no PDF documents.").arg(name));
+    }
 }
 
 void CommandReader::readDataSource()

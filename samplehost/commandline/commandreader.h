@@ -20,8 +20,8 @@ class CommandReader
     Q_DECLARE_TR_FUNCTIONS(SampleHost::CommandLine)
 
 public:
-    /** Reads what a parser has parsed. Both must outlive the reader. */
-    CommandReader(const QCommandLineParser& parser, CommandLine& result);
+    /** Reads what a parser has parsed for a build. All arguments must outlive the reader. */
+    CommandReader(const QCommandLineParser& parser, const HostParts& parts, CommandLine& result);
 
     /** Reads and checks everything. */
     void read();
@@ -35,6 +35,7 @@ private:
     void checkFileName(const char* name);
     void checkCommand(CommandOption::Command command, const char* option, const char* usage);
 
+    void checkParts();
     void readRecords();
     void readCatalog();
     void readSize();
@@ -45,10 +46,12 @@ private:
     void readPaper();
     void readPreview();
     void readWindow();
+    void readState();
     void readDataSource();
     void checkTarget();
 
     const QCommandLineParser& m_parser;
+    const HostParts& m_parts;
     CommandLine& m_result;
 };
 

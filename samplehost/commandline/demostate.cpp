@@ -5,19 +5,21 @@
 
 namespace SampleHost {
 
-QStringList demoStateNames()
+QStringList demoStateNames(const HostParts& parts)
 {
-    return {QStringLiteral("plain"),
-            QStringLiteral("list-nup"),
-            QStringLiteral("supply"),
-            QStringLiteral("pipe"),
-            QStringLiteral("test-controls"),
-            QStringLiteral("preview-portrait"),
-            QStringLiteral("preview-landscape"),
-            QStringLiteral("catalog"),
-            QStringLiteral("quickprint"),
-            QStringLiteral("document"),
-            QStringLiteral("multipage")};
+    QStringList names{QStringLiteral("plain"),
+                      QStringLiteral("list-nup"),
+                      QStringLiteral("supply"),
+                      QStringLiteral("pipe"),
+                      QStringLiteral("test-controls"),
+                      QStringLiteral("preview-portrait"),
+                      QStringLiteral("preview-landscape"),
+                      QStringLiteral("catalog"),
+                      QStringLiteral("quickprint")};
+    if (parts.documents) {
+        names += {QStringLiteral("document"), QStringLiteral("multipage")};
+    }
+    return names;
 }
 
 QString demoStateName(DemoState state)

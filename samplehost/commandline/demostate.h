@@ -4,6 +4,8 @@
 #ifndef SAMPLEHOST_DEMOSTATE_H
 #define SAMPLEHOST_DEMOSTATE_H
 
+#include "samplehost/commandline/hostparts.h"
+
 #include <QtCore/QStringList>
 
 namespace SampleHost {
@@ -24,8 +26,8 @@ enum class DemoState {
     MultiPage
 };
 
-/** The names of all states but None, in the order of the enumerators. */
-QStringList demoStateNames();
+/** The names of all states but None that a build has, in the order of the enumerators. */
+QStringList demoStateNames(const HostParts& parts = HostParts());
 
 /** The name of a state; empty for None. */
 QString demoStateName(DemoState state);

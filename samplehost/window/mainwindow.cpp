@@ -4,6 +4,7 @@
 #include "samplehost/window/mainwindow.h"
 
 #include "samplehost/pages/labelpage.h"
+#include "samplehost/print/printqueue.h"
 #include "samplehost/printing/printprogressdialog.h"
 #include "samplehost/simulator/supplysimulator.h"
 #include "samplehost/window/errormessages.h"
@@ -44,6 +45,14 @@ MainWindow::MainWindow(const HostOptions& options, QWidget* parent)
 }
 
 MainWindow::~MainWindow() = default;
+
+HostParts MainWindow::parts()
+{
+    HostParts parts;
+    parts.documents = hasDocuments();
+    parts.printQueues = PrintQueue::isSupported();
+    return parts;
+}
 
 void MainWindow::createDocks()
 {

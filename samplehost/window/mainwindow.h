@@ -5,6 +5,7 @@
 #define SAMPLEHOST_MAINWINDOW_H
 
 #include "samplehost/commandline/hostoptions.h"
+#include "samplehost/commandline/hostparts.h"
 #include "samplehost/print/printjob.h"
 #include "samplehost/printing/hostsettings.h"
 #include "samplehost/printing/printerdirectory.h"
@@ -35,8 +36,8 @@ public:
     explicit MainWindow(const HostOptions& options = HostOptions(), QWidget* parent = nullptr);
     ~MainWindow() override;
 
-    /** Whether this is a build with PDF documents. If not, there is no page of documents. */
-    static bool hasDocuments();
+    /** The parts that this build has. */
+    static HostParts parts();
 
     /** Why the data source could not be opened; empty if it is open. */
     QString dataSourceProblem() const { return m_dataSourceProblem; }
@@ -51,7 +52,7 @@ public:
     LabelPage& labelPage() const { return *m_labelPage; }
     PipePage& pipePage() const { return *m_pipePage; }
     CatalogPage& catalogPage() const { return *m_catalogPage; }
-    /** The page of documents. Not called in a build without it. */
+    /** The page of documents. Not called in a build without documents. */
     PdfPage& pdfPage() const { return *m_pdfPage; }
     /** The visible window that prints a document, or null. */
     QWidget* documentWindow() const;
@@ -68,6 +69,7 @@ public:
     void growToPanel();
 
 private:
+    static bool hasDocuments();
     void createPages(const HostOptions& options);
     void createDocks();
     void createMenus();
