@@ -24,6 +24,8 @@ private Q_SLOTS:
     void failuresAreExplained();
     void noteOnAModeThatIsNotOffered();
     void needsNoDisplayWhateverTheEnvironmentSays();
+    void namesThePartsThatItLacks();
+    void refusesDocumentsThatItLacks();
 
 private:
     QStringList recordsPrinted() const;
@@ -215,6 +217,28 @@ void TestSampleHost::needsNoDisplayWhateverTheEnvironmentSays()
     QVERIFY(out().contains(QStringLiteral("--screenshot <file.png>")));
     QCOMPARE(run(QStringLiteral("--version")), 0);
     QVERIFY(out().startsWith(QStringLiteral("samplehost ")));
+}
+
+void TestSampleHost::namesThePartsThatItLacks()
+{
+    const SampleHost::HostParts parts = SampleHost::MainWindow::parts();
+    QCOMPARE(run(QStringLiteral("--help")), 0);
+    QCOMPARE(out().contains(QStringLiteral("--document <file.pdf>")), parts.documents);
+    QCOMPARE(out().contains(QStringLiteral("This build has no PDF documents.\n")),
+             !parts.documents);
+    QCOMPARE(out().contains(QStringLiteral("This build has no print queues of CUPS: ")),
+             !parts.printQueues);
+}
+
+void TestSampleHost::refusesDocumentsThatItLacks()
+{
+    const bool documents = SampleHost::MainWindow::parts().documents;
+    QCOMPARE(run(QStringLiteral("--document missing.pdf --all-pages --output out.pdf")),
+             documents ? 1 : 2);
+    QCOMPARE(error().startsWith(
+                 QStringLiteral("--document cannot be used: this build has no PDF documents.\n")),
+             !documents);
+    QVERIFY(!QFile::exists(path("out.pdf")));
 }
 
 QTEST_MAIN(TestSampleHost)

@@ -9,12 +9,14 @@ using Records = CommandLine::Records;
 
 namespace {
 
-CommandLine parse(const QString& line)
+CommandLine parse(const QString& line, const HostParts& parts = HostParts())
 {
     QStringList arguments{QStringLiteral("samplehost")};
     arguments += line.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    return parseCommandLine(arguments);
+    return parseCommandLine(arguments, parts);
 }
+
+constexpr HostParts withoutDocuments{false, true};
 
 } // namespace
 
@@ -37,6 +39,11 @@ private Q_SLOTS:
     void recognisesWorkWithoutAUser();
     void appliesOnlyTheGivenOptions();
     void helpNamesEveryState();
+    void helpNamesMissingParts_data();
+    void helpNamesMissingParts();
+    void helpLeavesOutWhatIsMissing();
+    void whatIsMissingIsRefused_data();
+    void whatIsMissingIsRefused();
 };
 
 void TestCommandLine::nothingStartsTheWindow()
@@ -248,6 +255,68 @@ void TestCommandLine::helpNamesEveryState()
     for (const QString& state : states) {
         QVERIFY2(help.contains(state), qPrintable(state));
     }
+}
+
+void TestCommandLine::helpNamesMissingParts_data()
+{
+    addColumns<bool, bool, QString>("documents", "printQueues", "end");
+
+    const QString noDocuments = QStringLiteral("This build has no PDF documents.\n");
+    const QString noQueues = QStringLiteral(
+        "This build has no print queues of CUPS: the system's own printing is used.\n");
+    addRow("none", true, true, QString());
+    addRow("documents", false, true, noDocuments);
+    addRow("print queues", true, false, noQueues);
+    addRow("both", false, false, noDocuments + noQueues);
+}
+
+void TestCommandLine::helpNamesMissingParts()
+{
+    QFETCH(bool, documents);
+    QFETCH(bool, printQueues);
+    QFETCH(QString, end);
+    const QString help = commandLineHelp({documents, printQueues});
+    QCOMPARE(help.count(QStringLiteral("This build")), end.count(QLatin1Char('\n')));
+    QVERIFY2(end.isEmpty() || help.endsWith(QStringLiteral("\n\n") + end), qPrintable(help));
+}
+
+void TestCommandLine::helpLeavesOutWhatIsMissing()
+{
+    const QString help = commandLineHelp(withoutDocuments).simplified();
+    const QString all = commandLineHelp().simplified();
+    for (const char* text : {"--document", "--pages", "--all-pages", "--page ", "--fit", "--no-fit",
+                             "--rotate180", "--form-fill", ", document", "multipage"}) {
+        QVERIFY2(all.contains(QLatin1String(text)), text);
+        QVERIFY2(!help.contains(QLatin1String(text)), text);
+    }
+    for (const char* text : {"--print ", "--catalog ", "--printer ", "quickprint"}) {
+        QVERIFY2(help.contains(QLatin1String(text)), text);
+    }
+}
+
+void TestCommandLine::whatIsMissingIsRefused_data()
+{
+    addColumns<QString, QString>("line", "problem");
+
+    const QString option = QStringLiteral("--%1 cannot be used: this build has no PDF documents.");
+    addRow("document", "--document x.pdf", option.arg(QStringLiteral("document")));
+    addRow("pages", "--document x.pdf --pages 1 --output y.pdf",
+           option.arg(QStringLiteral("document")));
+    addRow("without the document", "--all-pages --output y.pdf",
+           option.arg(QStringLiteral("all-pages")));
+    addRow("beside labels", "--print 1 --fit --output y.pdf", option.arg(QStringLiteral("fit")));
+    addRow("state", "--state multipage",
+           "The state \"multipage\" cannot be shown: this build has no PDF documents.");
+    addRow("unknown state", "--state odd",
+           "--state needs one of plain, list-nup, supply, pipe, test-controls, "
+           "preview-portrait, preview-landscape, catalog, quickprint, not \"odd\".");
+    addRow("labels", "--print 1 --output y.pdf", QString());
+}
+
+void TestCommandLine::whatIsMissingIsRefused()
+{
+    QFETCH(QString, line);
+    QTEST(parse(line, withoutDocuments).problem, "problem");
 }
 
 QTEST_MAIN(TestCommandLine)

@@ -3,6 +3,7 @@
 
 #include "samplehost/data/seeddatabase.h"
 #include "samplehost/pages/labelview.h"
+#include "samplehost/pages/recordnavigator.h"
 #include "samplehost/printing/labelpreview.h"
 #include "samplehost/support/faultfixture.h"
 #include "samplehost/support/hostprogram.h"
@@ -142,7 +143,7 @@ void TestHostFaultsDatabase::beforeTheStart_data()
 void TestHostFaultsDatabase::beforeTheStart()
 {
     QFETCH(Fault, fault);
-    const FaultFixture first;
+    const LabelFaultFixture first;
     const QString path = first.path("chemicals.db");
     const QString backup = first.path("backup.db");
     QVERIFY(QFile::copy(path, backup) && fault.apply(path));
@@ -183,11 +184,11 @@ void TestHostFaultsDatabase::betweenChoosingAndPrinting_data()
 void TestHostFaultsDatabase::betweenChoosingAndPrinting()
 {
     QFETCH(Fault, fault);
-    FaultFixture host;
+    LabelFaultFixture host;
     const QString path = host.path("chemicals.db");
     const QString backup = host.path("backup.db");
     QVERIFY(host.choose(Printout::Labels));
-    QVERIFY(PdfSamples::write(host.outputPath(), "older"));
+    QVERIFY(overwrite(host.outputPath(), "older"));
     const QString chosen = host.choices(Printout::Labels);
     QVERIFY(QFile::copy(path, backup) && fault.apply(path));
 
@@ -203,13 +204,13 @@ void TestHostFaultsDatabase::betweenChoosingAndPrinting()
 
     QVERIFY(restore(backup, path));
     QCOMPARE(host.print(Printout::Labels), std::optional(Outcome::Completed));
-    QCOMPARE(int(pdfPages(host.outputPath()).size()), FaultFixture::pagesOf(Printout::Labels));
+    QCOMPARE(int(pdfPages(host.outputPath()).size()), LabelFaultFixture::pagesOf(Printout::Labels));
 }
 
 // Turning to other records, or changing a preference, looks at the records too.
 void TestHostFaultsDatabase::choiceOutlivesTheFault()
 {
-    FaultFixture host;
+    LabelFaultFixture host;
     QVERIFY(host.choose(Printout::Labels));
     host.labels().navigator().setCurrentIndex(6);
     const QString chosen = host.choices(Printout::Labels);
@@ -227,7 +228,7 @@ void TestHostFaultsDatabase::choiceOutlivesTheFault()
 
 void TestHostFaultsDatabase::previewTellsTheReason()
 {
-    FaultFixture host;
+    LabelFaultFixture host;
     QVERIFY(host.choose(Printout::Labels));
     QVERIFY(QFile::rename(host.path("chemicals.db"), host.path("aside.db")));
     host.click("PreviewButton");
@@ -238,7 +239,7 @@ void TestHostFaultsDatabase::previewTellsTheReason()
 
 void TestHostFaultsDatabase::lockedBeforeTheStart()
 {
-    const FaultFixture first;
+    const LabelFaultFixture first;
     const OtherProgram other(first.path("chemicals.db"));
     QVERIFY(other.run("BEGIN EXCLUSIVE"));
     HostOptions options;
@@ -255,7 +256,7 @@ void TestHostFaultsDatabase::lockedBeforeTheStart()
 
 void TestHostFaultsDatabase::lockedBetweenChoosingAndPrinting()
 {
-    FaultFixture host;
+    LabelFaultFixture host;
     QVERIFY(host.choose(Printout::Labels));
     const OtherProgram other(host.path("chemicals.db"));
     QVERIFY(other.run("BEGIN EXCLUSIVE"));
@@ -268,7 +269,7 @@ void TestHostFaultsDatabase::lockedBetweenChoosingAndPrinting()
 
 void TestHostFaultsDatabase::anotherDatabaseInItsPlaceIsRead()
 {
-    FaultFixture host;
+    LabelFaultFixture host;
     const QString path = host.path("chemicals.db");
     host.typeList(QStringLiteral("1"));
     QVERIFY(QFile::copy(path, host.path("other.db")));
@@ -285,7 +286,7 @@ void TestHostFaultsDatabase::anotherDatabaseInItsPlaceIsRead()
 
 void TestHostFaultsDatabase::readOnlyDatabaseIsRead()
 {
-    const FaultFixture first;
+    const LabelFaultFixture first;
     QVERIFY(QFile::setPermissions(first.path("chemicals.db"), QFile::ReadOwner));
     HostOptions options;
     options.dataSource.databaseName = first.path("chemicals.db");
@@ -296,7 +297,7 @@ void TestHostFaultsDatabase::readOnlyDatabaseIsRead()
 
 void TestHostFaultsDatabase::emptyTableIsNoFault()
 {
-    FaultFixture host;
+    LabelFaultFixture host;
     host.typeList(QStringLiteral("1"));
     QVERIFY(OtherProgram(host.path("chemicals.db")).run("DELETE FROM chemicals"));
     host.click("PrintButton");
@@ -308,7 +309,7 @@ void TestHostFaultsDatabase::emptyTableIsNoFault()
 
 void TestHostFaultsDatabase::reloadKeepsThePosition()
 {
-    FaultFixture host;
+    LabelFaultFixture host;
     QVERIFY(host.choose(Printout::Labels));
     host.labels().navigator().setCurrentIndex(6);
     const QString chosen = host.choices(Printout::Labels);
@@ -324,7 +325,7 @@ void TestHostFaultsDatabase::reloadKeepsThePosition()
 
 void TestHostFaultsDatabase::reloadWhilePrinting()
 {
-    FaultFixture host;
+    LabelFaultFixture host;
     host.click("allRecordsRadio");
     host.panel().setNumberOfCopies(3);
     QSignalSpy ended(&host.labels().controller(), &PrintController::jobEnded);
@@ -339,7 +340,7 @@ void TestHostFaultsDatabase::reloadWhilePrinting()
 
 void TestHostFaultsDatabase::databaseIsFreeBeforeAndAfterPrinting()
 {
-    FaultFixture host;
+    LabelFaultFixture host;
     const OtherProgram other(host.path("chemicals.db"));
     QVERIFY(other.run("PRAGMA busy_timeout = 0"));
     QVERIFY(host.choose(Printout::Labels));
@@ -353,7 +354,7 @@ void TestHostFaultsDatabase::databaseIsFreeBeforeAndAfterPrinting()
 
 void TestHostFaultsDatabase::deletedWhilePrinting()
 {
-    FaultFixture host;
+    LabelFaultFixture host;
     host.click("allRecordsRadio");
     host.panel().setNumberOfCopies(20);
     QSignalSpy ended(&host.labels().controller(), &PrintController::jobEnded);
@@ -371,7 +372,7 @@ void TestHostFaultsDatabase::deletedWhilePrinting()
 
 void TestHostFaultsDatabase::viewKeepsTheReason()
 {
-    FaultFixture host;
+    LabelFaultFixture host;
     InputSimulation::processEvents();
     auto* view = host.find<LabelView>("labelView");
     QVERIFY(QFile::rename(host.path("chemicals.db"), host.path("aside.db")));
@@ -390,7 +391,7 @@ void TestHostFaultsDatabase::program_data()
 void TestHostFaultsDatabase::program()
 {
     QFETCH(Fault, fault);
-    const FaultFixture first;
+    const LabelFaultFixture first;
     const QString path = first.path("chemicals.db");
     QVERIFY(fault.apply(path));
     HostProgram program(first.folder.path());

@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/support/faultfixture.h"
+#include "samplehost/support/documentfaultfixture.h"
 #include "samplehost/support/hostprogram.h"
 #include "support/stricttest.h"
 
+#include <QtPdf/QPdfDocument>
+#include <QtPdf/QPdfSelection>
 #include <QtWidgets/QStatusBar>
 
 #include <functional>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PrintPanels developers
 // SPDX-License-Identifier: MIT
 
-#include "samplehost/support/faultfixture.h"
+#include "samplehost/support/documentfaultfixture.h"
 #include "samplehost/support/fulldisk.h"
 #include "samplehost/support/hostprogram.h"
 #include "samplehost/window/preferencesdialog.h"

@@ -8,9 +8,13 @@
 #include "samplehost/support/faultfixture.h"
 
 /** A host in which something goes wrong while it prints anything, a document too. */
-class FaultFixture : public WithDocuments<LabelFaultFixture>
+class FaultFixture : public LabelFaultFixture, public DocumentFixture
 {
 public:
+    FaultFixture() : HostFixture(true) {}
+
+    using LabelFaultFixture::print;
+
     bool choose(Printout printout) override
     {
         if (printout != Printout::Document) {
@@ -35,7 +39,7 @@ protected:
 
     std::optional<Outcome> printOne(Printout printout) override
     {
-        return printout == Printout::Document ? WithDocuments::print()
+        return printout == Printout::Document ? DocumentFixture::print()
                                               : LabelFaultFixture::printOne(printout);
     }
 };

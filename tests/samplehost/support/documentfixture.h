@@ -21,7 +21,7 @@
 #include <QtWidgets/QLineEdit>
 
 /** A host whose page of documents is driven by its widgets. */
-class DocumentFixture : public HostFixture
+class DocumentFixture : public virtual HostFixture
 {
 public:
     using HostFixture::HostFixture;
@@ -31,9 +31,6 @@ public:
     SampleHost::PdfPreview& preview() const { return page().preview(); }
     MultiPagePrintWidget& documentPanel() const { return preview().panel(); }
     MultiPagePrintDialog& dialog() const { return preview().dialog(); }
-
-    /** The path of a file in the host's folder. */
-    QString path(const char* name) const { return folder.filePath(QString::fromLatin1(name)); }
 
     /** Writes a document whose pages say their number, and opens it. */
     bool openNumbered(int pages, const char* name = "in.pdf") const

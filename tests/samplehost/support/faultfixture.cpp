@@ -10,6 +10,7 @@
 #include <QtCore/QFile>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QLineEdit>
 
 using namespace SampleHost;
 
@@ -19,7 +20,7 @@ constexpr int documentPages = 300;
 
 } // namespace
 
-bool FaultFixture::choose(Printout printout)
+bool LabelFaultFixture::choose(Printout printout)
 {
     switch (printout) {
     case Printout::Labels:
@@ -44,23 +45,12 @@ bool FaultFixture::choose(Printout printout)
     case Printout::Document:
         break;
     }
-    window->setCurrentPage(page());
-    return openNumbered(documentPages) && showDialog() &&
-           (typePages(QStringLiteral("300,1-299")), true);
+    return false;
 }
 
-std::optional<FaultFixture::Outcome> FaultFixture::print(Printout printout)
+std::optional<LabelFaultFixture::Outcome> LabelFaultFixture::print(Printout printout)
 {
-    std::optional<Outcome> outcome;
-    if (printout == Printout::Document) {
-        outcome = DocumentFixture::print();
-    } else if (printout == Printout::Item) {
-        CatalogPage& catalog = window->catalogPage();
-        outcome = printWith(catalog.controller(),
-                            catalog.panel().findChild<QWidget*>(QStringLiteral("printButton")));
-    } else {
-        outcome = HostFixture::print();
-    }
+    const std::optional<Outcome> outcome = printOne(printout);
     if (outcome) {
         shown = shownMessage();
         delete messageBox();
@@ -68,31 +58,33 @@ std::optional<FaultFixture::Outcome> FaultFixture::print(Printout printout)
     return outcome;
 }
 
-QWidget& FaultFixture::panelOf(Printout printout) const
+std::optional<LabelFaultFixture::Outcome> LabelFaultFixture::printOne(Printout printout)
 {
-    switch (printout) {
-    case Printout::Item:
+    if (printout != Printout::Item) {
+        return HostFixture::print();
+    }
+    CatalogPage& catalog = window->catalogPage();
+    return printWith(catalog.controller(),
+                     catalog.panel().findChild<QWidget*>(QStringLiteral("printButton")));
+}
+
+QWidget& LabelFaultFixture::panelOf(Printout printout) const
+{
+    if (printout == Printout::Item) {
         return window->catalogPage().panel();
-    case Printout::Document:
-        return documentPanel();
-    default:
-        return panel();
     }
+    return panel();
 }
 
-QWidget& FaultFixture::pageOf(Printout printout) const
+QWidget& LabelFaultFixture::pageOf(Printout printout) const
 {
-    switch (printout) {
-    case Printout::Item:
+    if (printout == Printout::Item) {
         return window->catalogPage();
-    case Printout::Document:
-        return page();
-    default:
-        return labels();
     }
+    return labels();
 }
 
-QString FaultFixture::choices(Printout printout) const
+QString LabelFaultFixture::choices(Printout printout) const
 {
     const QWidget& panel = panelOf(printout);
     QStringList texts;
@@ -109,7 +101,7 @@ QString FaultFixture::choices(Printout printout) const
     return texts.join(QLatin1Char('|'));
 }
 
-QString FaultFixture::outputOf(Printout printout) const
+QString LabelFaultFixture::outputOf(Printout printout) const
 {
     const HostSettings& settings = window->settings();
     return printout == Printout::TestFile
@@ -117,7 +109,7 @@ QString FaultFixture::outputOf(Printout printout) const
                : settings.outputPath();
 }
 
-int FaultFixture::pagesOf(Printout printout)
+int LabelFaultFixture::pagesOf(Printout printout)
 {
     switch (printout) {
     case Printout::Labels:

@@ -4,19 +4,20 @@
 #ifndef FAULTFIXTURE_H
 #define FAULTFIXTURE_H
 
-#include "samplehost/support/documentfixture.h"
+#include "samplehost/support/hostfixture.h"
 
 /** What the host can print, each by the widgets of its own page. */
 enum class Printout { Labels, Sheets, TestFile, Item, Document };
 
-/** A host in which something goes wrong while it prints. */
-class FaultFixture : public DocumentFixture
+/** A host in which something goes wrong while it prints anything but a document. */
+class LabelFaultFixture : public virtual HostFixture
 {
 public:
-    FaultFixture() : DocumentFixture(true) {}
+    LabelFaultFixture() : HostFixture(true) {}
+    virtual ~LabelFaultFixture() = default;
 
     /** Chooses and types what is to be printed. False if that failed. */
-    bool choose(Printout printout);
+    virtual bool choose(Printout printout);
 
     /** Presses Print, waits for the end of the job and closes the message that the user gets. */
     std::optional<Outcome> print(Printout printout);
@@ -28,7 +29,7 @@ public:
     QString choices(Printout printout) const;
 
     /** The page of the host that prints it. */
-    QWidget& pageOf(Printout printout) const;
+    virtual QWidget& pageOf(Printout printout) const;
 
     /** The file that is printed to. */
     QString outputOf(Printout printout) const;
@@ -36,8 +37,13 @@ public:
     /** How many pages it has then. */
     static int pagesOf(Printout printout);
 
+protected:
+    virtual QWidget& panelOf(Printout printout) const;
+    /** Presses Print and waits for the end of the job. */
+    virtual std::optional<Outcome> printOne(Printout printout);
+
 private:
-    QWidget& panelOf(Printout printout) const;
+    Q_DISABLE_COPY_MOVE(LabelFaultFixture)
 };
 
 /** The contents of a file; empty if it cannot be read. */

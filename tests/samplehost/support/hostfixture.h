@@ -8,14 +8,13 @@
 #include "samplehost/pages/labelpage.h"
 #include "samplehost/pages/pipepage.h"
 #include "samplehost/printing/printcontroller.h"
+#include "samplehost/support/pdfpages.h"
 #include "samplehost/window/mainwindow.h"
 
 #include <printpanels/printwidget.h>
 
 #include <QtCore/QDir>
 #include <QtCore/QTemporaryDir>
-#include <QtPdf/QPdfDocument>
-#include <QtPdf/QPdfSelection>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 #include <QtWidgets/QMessageBox>
@@ -38,6 +37,9 @@ public:
         window->settings().setOutputPath(outputPath());
         window->show();
     }
+
+    /** The path of a file in the host's folder. */
+    QString path(const char* name) const { return folder.filePath(QString::fromLatin1(name)); }
 
     QString outputPath() const { return folder.filePath(QStringLiteral("out.pdf")); }
 
@@ -123,27 +125,5 @@ protected:
         return ended.at(0).at(0).value<Outcome>();
     }
 };
-
-/** The texts of a PDF file's pages, with single blanks; empty when the file cannot be read. */
-inline QStringList pdfPages(const QString& path)
-{
-    QPdfDocument document;
-    QStringList pages;
-    if (document.load(path) == QPdfDocument::Error::None) {
-        for (int page = 0; page < document.pageCount(); ++page) {
-            pages.append(document.getAllText(page).text().simplified());
-        }
-    }
-    return pages;
-}
-
-/** The size of the first page of a PDF file in whole millimetres. */
-inline QSizeF pdfPageSizeMm(const QString& path)
-{
-    QPdfDocument document;
-    document.load(path);
-    const QSizeF points = document.pagePointSize(0);
-    return QSizeF(qRound(points.width() / 72 * 25.4), qRound(points.height() / 72 * 25.4));
-}
 
 #endif

@@ -111,9 +111,12 @@ QByteArray PlainPdf::stream(int object) const
     const QByteArray head = "\nstream\n";
     const QByteArray bytes = m_objects.value(object);
     const qsizetype start = bytes.indexOf(head) + head.size();
+    // The length is in another object if it was not known yet.
+    const int lengthObject = reference(object, "Length");
     const int length =
-        captured(m_objects.value(reference(object, "Length")), QStringLiteral("obj\\s+(\\d+)"))
-            .toInt();
+        lengthObject != 0
+            ? captured(m_objects.value(lengthObject), QStringLiteral("obj\\s+(\\d+)")).toInt()
+            : captured(dictionary(object), QStringLiteral("/Length (\\d+)")).toInt();
     const QByteArray data = bytes.mid(start, length);
     if (!dictionary(object).contains("/Filter /FlateDecode")) {
         return data;

@@ -18,9 +18,12 @@
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QInputDialog>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QMenuBar>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QStatusBar>
 #include <QtWidgets/QTabBar>
+#include <QtWidgets/QTabWidget>
 
 using namespace SampleHost;
 
@@ -42,6 +45,8 @@ private Q_SLOTS:
     void logListsTheCataloguePanel();
     void logListsThePreview();
     void unitIsKept();
+    void documentsAreOfferedOrHidden();
+    void recentDocumentIsKept();
 
 private:
     void trigger(const char* name) const;
@@ -225,7 +230,8 @@ void TestHostTools::logListsThePreview()
 void TestHostTools::unitIsKept()
 {
     const QTemporaryDir folder;
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
+    QSettings::setDefaultFormat(QSettings::IniFormat);
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
     QCoreApplication::setOrganizationName(QStringLiteral("printpanels-test"));
     HostSettings settings;
     QSignalSpy changed(&settings, &HostSettings::changed);
@@ -238,6 +244,47 @@ void TestHostTools::unitIsKept()
     QVERIFY(!later.isMetric());
     later.load();
     QVERIFY(later.isMetric());
+}
+
+void TestHostTools::documentsAreOfferedOrHidden()
+{
+    const bool documents = MainWindow::parts().documents;
+    QStringList titles;
+    const auto* pages = m_host->window->findChild<QTabWidget*>();
+    for (int i = 0; i < pages->count(); ++i) {
+        titles.append(pages->tabText(i));
+    }
+    QStringList expected{QStringLiteral("Chemical Labels"), QStringLiteral("Pipe Markers"),
+                         QStringLiteral("Catalogue")};
+    expected += documents ? QStringList{QStringLiteral("Documents")} : QStringList();
+    QCOMPARE(titles, expected);
+    QStringList entries;
+    const auto* menu = m_host->window->menuBar()->actions().constFirst()->menu();
+    const auto actions = menu->actions();
+    for (const QAction* action : actions) {
+        entries.append(action->text());
+    }
+    QCOMPARE(entries.contains(QStringLiteral("&Open Document...")), documents);
+    QCOMPARE(entries.filter(QStringLiteral("Document")).size(), documents ? 2 : 0);
+    QCOMPARE(entries.constFirst(),
+             documents ? QStringLiteral("&Open Document...") : QStringLiteral("&Print"));
+    QVERIFY(m_host->window->documentWindow() == nullptr);
+}
+
+// A build with documents finds it again.
+void TestHostTools::recentDocumentIsKept()
+{
+    const QTemporaryDir folder;
+    QSettings::setDefaultFormat(QSettings::IniFormat);
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
+    QCoreApplication::setOrganizationName(QStringLiteral("printpanels-test"));
+    const QString key = QStringLiteral("documents/recent");
+    const QString path = folder.filePath(QStringLiteral("a.pdf"));
+    QSettings().setValue(key, path);
+    m_host->window->persistSettings();
+    m_host->window->settings().setMetric(true);
+    QVERIFY(m_host->window->saveSettings());
+    QCOMPARE(QSettings().value(key).toString(), path);
 }
 
 QTEST_MAIN(TestHostTools)
