@@ -4,6 +4,7 @@
 #include "samplehost/automation/demostates.h"
 #include "samplehost/automation/headlessrun.h"
 #include "samplehost/commandline/commandline.h"
+#include "samplehost/system.h"
 #include "samplehost/window/hoststyle.h"
 #include "samplehost/window/mainwindow.h"
 
@@ -19,12 +20,6 @@ using namespace SampleHost;
 
 namespace {
 
-void printLine(std::FILE* stream, const QString& text)
-{
-    std::fputs(qPrintable(text + QLatin1Char('\n')), stream);
-    std::fflush(stream);
-}
-
 /** Whether the platform plugin describes the machine, which does not concern the user. */
 bool isPlatformNote(const QString& message)
 {
@@ -37,17 +32,6 @@ void reportMessage(QtMsgType type, const QMessageLogContext& context, const QStr
 {
     if (!isPlatformNote(message)) {
         printLine(stderr, qFormatLogMessage(type, context, message));
-    }
-}
-
-/** Runs without a user need no display, and interactive use is impossible without one. */
-void choosePlatform(int argc, const char* const* argv)
-{
-    const bool display =
-        !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
-    const bool chosen = !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
-    if (looksHeadless(argc, argv) || (!display && !chosen)) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
     }
 }
 
@@ -72,6 +56,7 @@ int runHeadless(MainWindow& window, const CommandLine& command)
 
 int runWithUser(MainWindow& window, const CommandLine& command)
 {
+    closeOwnConsole();
     window.persistSettings();
     command.applyTo(window.settings());
     window.show();
@@ -87,7 +72,7 @@ int runWithUser(MainWindow& window, const CommandLine& command)
 
 int main(int argc, char** argv)
 {
-    choosePlatform(argc, argv);
+    choosePlatform(looksHeadless(argc, argv));
     qInstallMessageHandler(reportMessage);
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("samplehost"));

@@ -34,7 +34,8 @@ QWidget* CommandRun::panelWidget(const char* name) const
 
 bool CommandRun::choosePrinter(const QWidget& panel)
 {
-    if (!m_command.output.isEmpty() && QFileInfo(m_command.output).fileName().isEmpty()) {
+    if (!m_command.output.isEmpty() &&
+        !HostSettings::isFileName(QFileInfo(m_command.output).fileName())) {
         return fail(RuntimeFailure, tr("\"%1\" is not the name of a file.").arg(m_command.output));
     }
     auto* printers = panel.findChild<QComboBox*>(QStringLiteral("PrinterListCombo"));

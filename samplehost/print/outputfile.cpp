@@ -4,6 +4,7 @@
 #include "samplehost/print/outputfile.h"
 
 #include "samplehost/print/checkedsavefile.h"
+#include "samplehost/print/filename.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -23,6 +24,10 @@ QIODevice* OutputFile::open(QString& problem)
     if (!folder.isDir()) {
         problem = tr("The folder \"%1\" does not exist.")
                       .arg(QDir::toNativeSeparators(folder.filePath()));
+        return nullptr;
+    }
+    if (!isAllowedFileName(QFileInfo(m_path).fileName())) {
+        problem = message(tr("the system reserves this name"));
         return nullptr;
     }
     // The complete file replaces what has its name, which must not be a device or a pipe.

@@ -3,6 +3,8 @@
 
 #include "samplehost/printing/hostsettings.h"
 
+#include "samplehost/print/filename.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -69,7 +71,8 @@ QString HostSettings::outputPath() const
 bool HostSettings::isFileName(const QString& name)
 {
     // The system ends the name at a null character.
-    return !name.isEmpty() && !name.contains(QChar::Null) && QFileInfo(name).fileName() == name;
+    return !name.isEmpty() && !name.contains(QChar::Null) && QFileInfo(name).fileName() == name &&
+           isAllowedFileName(name);
 }
 
 void HostSettings::setOutputFolder(const QString& folder)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "samplehost/pages/nupcombo.h"
+#include "samplehost/print/filename.h"
 #include "samplehost/printing/hostsettings.h"
 #include "samplehost/window/preferencesdialog.h"
 #include "support/stricttest.h"
@@ -27,6 +28,8 @@ private Q_SLOTS:
     void reportsEachChangeOnce();
     void takesPathsApart();
     void refusesUnusableNames();
+    void windowsReservesNames_data();
+    void windowsReservesNames();
     void knowsPapers();
     void survivesASession();
     void ignoresDamagedStoredValues();
@@ -95,6 +98,42 @@ void TestHostSettings::refusesUnusableNames()
     QCOMPARE(settings.outputPath(), m_folder.filePath(QStringLiteral("a.pdf")));
     settings.setNup(NupLayout{0, 77});
     QCOMPARE(settings.nup().text(), QStringLiteral("1x10"));
+}
+
+void TestHostSettings::windowsReservesNames_data()
+{
+    addColumns<QString, bool>("name", "allowed");
+
+    addRow("ordinary", "labels.pdf", true);
+    addRow("blanks inside", "my labels (2).pdf", true);
+    addRow("other scripts", QString::fromUtf8("\u00e4\u6f22.pdf"), true);
+    addRow("begins like a device", "console.pdf", true);
+    addRow("device as a suffix", "labels.con", true);
+    addRow("not a port", "COM10.pdf", true);
+    addRow("device", "NUL", false);
+    addRow("device with a suffix", "con.pdf", false);
+    addRow("port", "Lpt1.tar.gz", false);
+    addRow("blank after a device", "aux .pdf", false);
+    addRow("stream of another file", "a:b.pdf", false);
+    addRow("question mark", "what?.pdf", false);
+    addRow("star", "*.pdf", false);
+    addRow("quotes", "\"a\".pdf", false);
+    addRow("arrows", "<a>.pdf", false);
+    addRow("pipe", "a|b.pdf", false);
+    addRow("backslash", "a\\b.pdf", false);
+    addRow("line break", "a\nb.pdf", false);
+    addRow("period at the end", "labels.", false);
+    addRow("blank at the end", "labels.pdf ", false);
+}
+
+void TestHostSettings::windowsReservesNames()
+{
+    QFETCH(QString, name);
+    QTEST(isAllowedFileName(name, QOperatingSystemVersion::Windows), "allowed");
+    QVERIFY(isAllowedFileName(name, QOperatingSystemVersion::Unknown));
+    const bool windows = QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows;
+    QFETCH(bool, allowed);
+    QCOMPARE(HostSettings::isFileName(name), allowed || !windows);
 }
 
 void TestHostSettings::knowsPapers()

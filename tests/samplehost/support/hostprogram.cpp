@@ -5,6 +5,16 @@
 
 #include <QtCore/QProcess>
 
+namespace {
+
+/** A text that the program wrote. Windows ends lines with two characters. */
+QString decoded(const QByteArray& text)
+{
+    return QString::fromLocal8Bit(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+}
+
+} // namespace
+
 HostProgram::HostProgram(const QString& folder)
     : environment(QProcessEnvironment::systemEnvironment()), m_folder(folder)
 {
@@ -21,8 +31,8 @@ int HostProgram::run(const QStringList& arguments)
     process.setWorkingDirectory(m_folder);
     process.start(QStringLiteral(SAMPLEHOST_PROGRAM), arguments);
     const bool ended = process.waitForFinished(60000);
-    out = QString::fromLocal8Bit(process.readAllStandardOutput());
-    error = QString::fromLocal8Bit(process.readAllStandardError());
+    out = decoded(process.readAllStandardOutput());
+    error = decoded(process.readAllStandardError());
     if (!ended) {
         process.kill();
         process.waitForFinished();
