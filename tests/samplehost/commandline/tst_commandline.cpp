@@ -4,6 +4,8 @@
 #include "samplehost/commandline/commandline.h"
 #include "support/stricttest.h"
 
+#include <QtCore/QDir>
+
 using namespace SampleHost;
 using Records = CommandLine::Records;
 
@@ -233,15 +235,17 @@ void TestCommandLine::recognisesWorkWithoutAUser()
 void TestCommandLine::appliesOnlyTheGivenOptions()
 {
     HostSettings settings;
-    settings.setOutputPath(QStringLiteral("/tmp/a.pdf"));
+    const QString folder = QDir::rootPath() + QStringLiteral("tmp");
+    settings.setOutputPath(folder + QStringLiteral("/a.pdf"));
     settings.setPaper(Paper::Letter);
     settings.setNup(NupLayout{3, 3});
     parse(QString()).applyTo(settings);
-    QCOMPARE(settings.outputPath(), QStringLiteral("/tmp/a.pdf"));
+    QCOMPARE(settings.outputPath(), folder + QStringLiteral("/a.pdf"));
     QCOMPARE(settings.paper(), Paper::Letter);
     QCOMPARE(settings.nup().text(), QStringLiteral("3x3"));
-    parse(QStringLiteral("--output /tmp/b.pdf --paper label --nup 1x1")).applyTo(settings);
-    QCOMPARE(settings.outputPath(), QStringLiteral("/tmp/b.pdf"));
+    parse(QStringLiteral("--output %1/b.pdf --paper label --nup 1x1").arg(folder))
+        .applyTo(settings);
+    QCOMPARE(settings.outputPath(), folder + QStringLiteral("/b.pdf"));
     QCOMPARE(settings.paper(), Paper::LabelSize);
     QCOMPARE(settings.nup().text(), QStringLiteral("1x1"));
 }

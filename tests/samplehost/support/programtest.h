@@ -7,6 +7,7 @@
 #include "samplehost/support/hostprogram.h"
 #include "support/stricttest.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QTemporaryDir>
 
 #include <memory>
@@ -26,6 +27,9 @@ protected:
 
     /** The path of a file in the folder. */
     QString path(const char* name) const { return m_folder->filePath(QString::fromLatin1(name)); }
+
+    /** The path of a file in the folder, as the program shows it. */
+    QString shown(const char* name) const { return QDir::toNativeSeparators(path(name)); }
 
     /** What the program last wrote. */
     const QString& out() const { return m_program->out; }

@@ -12,7 +12,11 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QSpinBox>
 
+#include <functional>
+
 using namespace SampleHost;
+
+Q_DECLARE_METATYPE(std::function<void(PrintWidget&)>)
 
 class TestEventLog : public StrictTest
 {
@@ -140,8 +144,6 @@ void TestEventLog::distinguishesPanels()
     QCOMPARE(m_log->lines(),
              (QStringList{QStringLiteral("B: focusLost()"), QStringLiteral("A: focusLost()")}));
 }
-
-Q_DECLARE_METATYPE(std::function<void(PrintWidget&)>)
 
 QTEST_MAIN(TestEventLog)
 
