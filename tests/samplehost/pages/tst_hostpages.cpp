@@ -205,7 +205,7 @@ void TestHostPages::preferencesButtonOpensTheDialog()
 void TestHostPages::preferencesReachTheWindow()
 {
     m_host->window->settings().setOutputFileName(QStringLiteral("other.pdf"));
-    const QString path = m_host->folder.filePath(QStringLiteral("other.pdf"));
+    const QString path = QDir::toNativeSeparators(m_host->path("other.pdf"));
     QCOMPARE(m_host->find<QLabel>("locationLabel")->text(), path);
     QCOMPARE(pipeWidget<QLabel>("locationLabel")->text(), path);
     m_host->window->settings().setNup(NupLayout{3, 3});

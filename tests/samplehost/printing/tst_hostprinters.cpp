@@ -70,7 +70,7 @@ void TestHostPrinters::pdfFileShowsItsPath()
     PrintWidget panel(false, nullptr);
     directory.fill(panel);
     QCOMPARE(panel.getSelectedPrinter(), QStringLiteral("PDF file"));
-    QCOMPARE(shown(panel, "locationLabel"), m_settings->outputPath());
+    QCOMPARE(shown(panel, "locationLabel"), QDir::toNativeSeparators(m_settings->outputPath()));
     QCOMPARE(shown(panel, "statusLabel"), QStringLiteral("Online"));
 }
 
@@ -124,8 +124,9 @@ void TestHostPrinters::testFilesNeedAFolder()
     QVERIFY(obstacle.open(QIODevice::WriteOnly));
     QString problem;
     QCOMPARE(nextPrintTestFile(m_folder->path(), problem), QString());
-    QCOMPARE(problem, QStringLiteral("The folder \"%1\" cannot be made.")
-                          .arg(m_folder->filePath(QStringLiteral("guest/logs"))));
+    QCOMPARE(problem,
+             QStringLiteral("The folder \"%1\" cannot be made.")
+                 .arg(QDir::toNativeSeparators(m_folder->filePath(QStringLiteral("guest/logs")))));
 }
 
 void TestHostPrinters::everyErrorHasItsOwnMessage()

@@ -3,6 +3,7 @@
 
 #include "samplehost/support/hostprogram.h"
 
+#include <QtCore/QOperatingSystemVersion>
 #include <QtCore/QProcess>
 
 namespace {
@@ -18,8 +19,11 @@ QString decoded(const QByteArray& text)
 HostProgram::HostProgram(const QString& folder)
     : environment(QProcessEnvironment::systemEnvironment()), m_folder(folder)
 {
-    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
-        environment.remove(QString::fromLatin1(name));
+    // Windows always has a display; the platform of the tests is used there.
+    if (QOperatingSystemVersion::currentType() != QOperatingSystemVersion::Windows) {
+        for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+            environment.remove(QString::fromLatin1(name));
+        }
     }
     environment.insert(QStringLiteral("HOME"), folder);
 }
