@@ -5,6 +5,7 @@
 
 #include <QtCore/QOperatingSystemVersion>
 #include <QtCore/QProcess>
+#include <QtGui/QGuiApplication>
 
 namespace {
 
@@ -19,11 +20,14 @@ QString decoded(const QByteArray& text)
 HostProgram::HostProgram(const QString& folder)
     : environment(QProcessEnvironment::systemEnvironment()), m_folder(folder)
 {
-    // Windows always has a display; the platform of the tests is used there.
-    if (QOperatingSystemVersion::currentType() != QOperatingSystemVersion::Windows) {
-        for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
-            environment.remove(QString::fromLatin1(name));
-        }
+    const QString platform = QStringLiteral("QT_QPA_PLATFORM");
+    for (const QString& name :
+         {QStringLiteral("DISPLAY"), QStringLiteral("WAYLAND_DISPLAY"), platform}) {
+        environment.remove(name);
+    }
+    if (QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows) {
+        // There the program does not choose one, so it gets that of the test.
+        environment.insert(platform, QGuiApplication::platformName());
     }
     environment.insert(QStringLiteral("HOME"), folder);
 }
