@@ -13,9 +13,15 @@ foreach(part IN ITEMS runtime devel whole)
     list_files("${WORK_DIR}/${part}" ${part})
 endforeach()
 
-foreach(library IN ITEMS libprintpanels.so libprintpanels-hostkit.so)
-    list(APPEND expected_runtime
-        "${LIBDIR}/${library}.${VERSION}" "${LIBDIR}/${library}.${INTERFACE_VERSION}")
+foreach(name IN ITEMS printpanels printpanels-hostkit)
+    if(WINDOWS)
+        list(APPEND expected_runtime "${BINDIR}/${name}.dll")
+        list(APPEND link_files "${LIBDIR}/lib${name}.dll.a" "${BINDIR}/${name}.dll.debug")
+    else()
+        list(APPEND expected_runtime
+            "${LIBDIR}/lib${name}.so.${VERSION}" "${LIBDIR}/lib${name}.so.${INTERFACE_VERSION}")
+        list(APPEND link_files "${LIBDIR}/lib${name}.so")
+    endif()
 endforeach()
 set(translations "${runtime}")
 list(FILTER translations INCLUDE REGEX "^${DATADIR}/printpanels/translations/printpanels_[a-z]+\\.qm$")
@@ -29,7 +35,7 @@ set(expected_devel "${whole}")
 list(REMOVE_ITEM expected_devel ${runtime})
 compare_lists("Devel" "${devel}" "${expected_devel}")
 foreach(file IN ITEMS
-        "${LIBDIR}/libprintpanels.so" "${LIBDIR}/libprintpanels-hostkit.so"
+        ${link_files}
         "${LIBDIR}/cmake/PrintPanels/PrintPanelsConfig.cmake"
         "${INCLUDEDIR}/printpanels/printwidget.h"
         "${INCLUDEDIR}/printpanels-hostkit/jxcombobox.h")

@@ -13,11 +13,12 @@ endfunction()
 #   drive(<program> <argument> <step>...)
 function(drive program argument)
     list(JOIN ARGN "|" steps)
+    program_command("${program}" command)
     execute_process(
         COMMAND "${CMAKE_COMMAND}" -E env
             "QT_PLUGIN_PATH=${WORK_DIR}/driver" "QT_QPA_GENERIC_PLUGINS=exampledriver"
             "EXAMPLE_STEPS=${steps}"
-            "${program}" ${argument}
+            ${command} ${argument}
         WORKING_DIRECTORY "${WORK_DIR}"
         TIMEOUT 60
         RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)

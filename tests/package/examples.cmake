@@ -23,7 +23,7 @@ endfunction()
 function(check_stands_alone example)
     file(COPY "${SOURCE_DIR}/examples/${example}" DESTINATION "${WORK_DIR}/copied")
     run("${CMAKE_COMMAND}" -S "${WORK_DIR}/copied/${example}" -B "${WORK_DIR}/copied/${example}/build"
-        -G "${GENERATOR}" "-DCMAKE_CXX_COMPILER=${CXX_COMPILER}" "-DCMAKE_PREFIX_PATH=${WORK_DIR}/install")
+        -G "${GENERATOR}" ${TOOLCHAIN} "-DCMAKE_PREFIX_PATH=${WORK_DIR}/install")
 endfunction()
 
 function(drive_example example file)
@@ -78,6 +78,7 @@ foreach(example IN ITEMS printwidget quickprint preview multipage kitgallery)
 endforeach()
 build_project("${SOURCE_DIR}/examples" "${WORK_DIR}/build" "-DCMAKE_PREFIX_PATH=${WORK_DIR}/install")
 build_driver()
+set(DLL_FOLDERS "${WORK_DIR}/install/${BINDIR}")
 
 # The print settings panel, two labels a page.
 drive_example(printwidget "" "click PrintButton" "close")
@@ -131,7 +132,7 @@ expect_pdf(all.pdf "612 x 792" "Page 1|Page 2|Page 3|Page 4|Page 5|Page 6|Page 7
 
 # The gallery of the kit's widgets.
 drive_example(kitgallery "" "click #248d4f" "picture gallery.png" "close")
-run("${WORK_DIR}/build/kitgallery/kitgallery_example" "--screenshot=${WORK_DIR}/screenshot.png")
+run_program("${WORK_DIR}/build/kitgallery/kitgallery_example" "--screenshot=${WORK_DIR}/screenshot.png")
 foreach(picture IN ITEMS gallery.png screenshot.png)
     if(NOT EXISTS "${WORK_DIR}/${picture}")
         message(FATAL_ERROR "The gallery left no ${picture}")

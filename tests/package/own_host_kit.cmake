@@ -22,6 +22,7 @@ if(stand_in)
 endif()
 
 build_driver()
+set(DLL_FOLDERS "${WORK_DIR}/build" "${WORK_DIR}/build/printpanels")
 drive("${WORK_DIR}/build/customhostkit_example" ""
     "show supplyInfoWidget"
     "show ribbon1Menu"

@@ -15,4 +15,4 @@ file(REMOVE_RECURSE "${WORK_DIR}/library")
 
 file(COPY "${CMAKE_CURRENT_LIST_DIR}/consumer" DESTINATION "${WORK_DIR}")
 build_project("${WORK_DIR}/consumer" "${WORK_DIR}/build" "-DCMAKE_PREFIX_PATH=${WORK_DIR}/moved")
-run("${WORK_DIR}/build/consumer")
+run_program("${WORK_DIR}/build/consumer")

@@ -12,10 +12,28 @@ function(run)
     endif()
 endfunction()
 
+# The command that runs a program of a build. A program for Windows finds DLLs in the folders that
+# DLL_FOLDERS lists.
+function(program_command program result)
+    set(command "${program}${PROGRAM_SUFFIX}")
+    if(EMULATOR)
+        list(JOIN DLL_FOLDERS ":" folders)
+        set(command "${CMAKE_COMMAND}" -E env "PRINTPANELS_WINDOWS_DLLS=${folders}"
+            "${EMULATOR}" "${command}")
+    endif()
+    set(${result} "${command}" PARENT_SCOPE)
+endfunction()
+
+# Runs a program of a build and stops the test with its output when it fails.
+function(run_program program)
+    program_command("${program}" command)
+    run(${command} ${ARGN})
+endfunction()
+
 # Configures a project with the compiler of the build under test.
 function(configure_project source build)
     run("${CMAKE_COMMAND}" -S "${source}" -B "${build}" -G "${GENERATOR}"
-        "-DCMAKE_CXX_COMPILER=${CXX_COMPILER}" "-DCMAKE_CXX_FLAGS=${CXX_FLAGS}"
+        ${TOOLCHAIN} "-DCMAKE_CXX_FLAGS=${CXX_FLAGS}"
         -DCMAKE_BUILD_TYPE=Debug ${ARGN})
 endfunction()
 

@@ -9,6 +9,9 @@ run("${CMAKE_COMMAND}" --install "${BUILD_DIR}" --prefix "${WORK_DIR}/installed"
 configure_project("${CMAKE_CURRENT_LIST_DIR}/versions" "${WORK_DIR}/build"
     "-DCMAKE_PREFIX_PATH=${WORK_DIR}/installed" "-DVERSION=${VERSION}")
 
+if(WINDOWS)
+    return() # the names of DLLs have no version
+endif()
 foreach(name IN ITEMS libprintpanels.so libprintpanels-hostkit.so)
     set(library "${WORK_DIR}/installed/${LIBDIR}/${name}")
     execute_process(COMMAND "${OBJDUMP}" -p "${library}"
