@@ -3,12 +3,12 @@
 
 #include "heapinuse.h"
 
-#if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/allocator_interface.h>
-#endif
 #include <malloc.h>
 
 #if defined(__SANITIZE_ADDRESS__)
+
+// GCC has the function without the header that declares it.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 
 std::size_t heapInUse()
 {
