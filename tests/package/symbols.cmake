@@ -16,14 +16,14 @@ function(read_export_table dll result)
 endfunction()
 
 # The names that an ELF library defines, mangled. Weak functions are instances of Qt's and the standard
-# library's templates, which DLLs do not export, and so are weak data other than those of own classes.
+# library's templates, which DLLs do not export. The sanitizers add weak type information of Qt's classes.
 function(read_dynamic_symbols library result)
     execute_process(COMMAND "${NM}" -D --defined-only "${library}"
         OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
     string(REGEX MATCHALL "[^\n]+" symbols "${symbols}")
     set(names "")
     foreach(symbol IN LISTS symbols)
-        if(symbol MATCHES "^[0-9a-f]+ ([TDBR] .*|V _ZT[VI].*)$")
+        if(symbol MATCHES "^[0-9a-f]+ ([TDBR] .*|V _ZT[VI][0-9]+(Q[a-z]|[^Q0-9]).*)$")
             string(SUBSTRING "${CMAKE_MATCH_1}" 2 -1 name)
             list(APPEND names "${name}")
         endif()
