@@ -10,11 +10,12 @@ function(samplehost_take_shapes folder)
             "-DPRINTPANELS_SAMPLE_HOST=OFF.")
     endif()
     set(tool "${folder}/tool")
-    # Only what the caller's build says must not reach the tool's: it is for another system.
+    # Nothing of the caller's build may reach the tool's, which is for another system. Once CMake has
+    # found a compiler, it is in the environment.
     foreach(step IN ITEMS
             "-S;${CMAKE_CURRENT_SOURCE_DIR}/shapes;-B;${tool};-G;Ninja;-DCMAKE_BUILD_TYPE=Release;-DCMAKE_PREFIX_PATH=${QT_HOST_PATH}"
             "--build;${tool}")
-        execute_process(COMMAND ${CMAKE_COMMAND} ${step}
+        execute_process(COMMAND ${CMAKE_COMMAND} -E env --unset=CXX ${CMAKE_COMMAND} ${step}
             OUTPUT_VARIABLE output ERROR_VARIABLE output RESULT_VARIABLE result)
         if(NOT result EQUAL 0)
             message(FATAL_ERROR "The sample host's pictures need Qt Svg, here or in ${QT_HOST_PATH}:\n${output}")
