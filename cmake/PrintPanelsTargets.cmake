@@ -67,8 +67,16 @@ if(PRINTPANELS_PCH)
         <QtWidgets/QPushButton>)
 endif()
 
-# Describes a DLL in the properties that Windows shows of a file.
+# Describes a DLL or a program in the properties that Windows shows of a file.
+#   printpanels_add_version_resource(<target> <file name without suffix> <description>)
 function(printpanels_add_version_resource target name description)
+    set(type VFT_DLL)
+    set(suffix ${CMAKE_SHARED_LIBRARY_SUFFIX})
+    get_target_property(kind ${target} TYPE)
+    if(kind STREQUAL "EXECUTABLE")
+        set(type VFT_APP)
+        set(suffix ${CMAKE_EXECUTABLE_SUFFIX})
+    endif()
     set(resource "${CMAKE_CURRENT_BINARY_DIR}/${name}.rc")
     configure_file("${PROJECT_SOURCE_DIR}/cmake/windows/version.rc.in" "${resource}" @ONLY)
     target_sources(${target} PRIVATE "${resource}")
