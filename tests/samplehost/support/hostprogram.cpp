@@ -3,9 +3,16 @@
 
 #include "samplehost/support/hostprogram.h"
 
+#include <QtCore/QDeadlineTimer>
+#include <QtCore/QDir>
 #include <QtCore/QOperatingSystemVersion>
 #include <QtCore/QProcess>
+#include <QtCore/QThread>
 #include <QtGui/QGuiApplication>
+
+#ifdef Q_OS_WIN
+#include <QtCore/qt_windows.h>
+#endif
 
 namespace {
 
@@ -13,6 +20,34 @@ namespace {
 QString decoded(const QByteArray& text)
 {
     return QString::fromLocal8Bit(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+}
+
+#ifdef Q_OS_WIN
+
+bool canBeDeleted(const QString& folder)
+{
+    const HANDLE handle = CreateFileW(qUtf16Printable(QDir::toNativeSeparators(folder)), DELETE,
+                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                      nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    return handle != INVALID_HANDLE_VALUE && CloseHandle(handle);
+}
+
+#else
+
+bool canBeDeleted(const QString&)
+{
+    return true;
+}
+
+#endif
+
+/** Windows keeps the working directory of a process for a moment after its end. */
+void waitUntilReleased(const QString& folder)
+{
+    const QDeadlineTimer timeout(5000);
+    while (!canBeDeleted(folder) && !timeout.hasExpired()) {
+        QThread::msleep(10);
+    }
 }
 
 } // namespace
@@ -46,6 +81,7 @@ int HostProgram::run(const QStringList& arguments)
         process.waitForFinished();
         return -1;
     }
+    waitUntilReleased(m_folder);
     return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
 }
 
