@@ -4,6 +4,7 @@
 #include "samplehost/data/recordreader.h"
 #include "samplehost/data/recordsource.h"
 #include "samplehost/data/seeddatabase.h"
+#include "samplehost/support/openfiles.h"
 #include "support/stricttest.h"
 
 #include <QtCore/QFile>
@@ -286,6 +287,11 @@ void TestRecordReader::deletedFileIsReportedUntilItIsBack()
     const QString second = openFile()->record(1)->name;
     nameAt(reader, 0);
     const QString aside = m_folder->filePath(QStringLiteral("aside"));
+    if (!openFilesCanBeRemoved) {
+        QVERIFY(!QFile::rename(m_path, aside));
+        QCOMPARE(nameAt(reader, 1), second);
+        return;
+    }
     QVERIFY(QFile::rename(m_path, aside));
     QVERIFY(nameAt(reader, 1).endsWith(QLatin1String("the file does not exist.")));
     QVERIFY(QFile::rename(aside, m_path));
@@ -298,7 +304,13 @@ void TestRecordReader::deletedFileIsReportedUntilItIsBack()
 void TestRecordReader::replacedFileIsReadFromThere()
 {
     RecordReader reader(openFile(), Purpose::Run);
+    const QString second = openFile()->record(1)->name;
     nameAt(reader, 0);
+    if (!openFilesCanBeRemoved) {
+        QVERIFY(!QFile::remove(m_path));
+        QCOMPARE(nameAt(reader, 1), second);
+        return;
+    }
     QVERIFY(QFile::remove(m_path));
     Chemical other;
     other.name = QStringLiteral("Other");

@@ -4,6 +4,7 @@
 #include "samplehost/data/chemicalseed.h"
 #include "samplehost/data/recordsource.h"
 #include "samplehost/data/seeddatabase.h"
+#include "samplehost/support/openfiles.h"
 #include "support/stricttest.h"
 
 #include <QtCore/QDir>
@@ -378,6 +379,12 @@ void TestRecordSource::deletedDatabaseIsReportedUntilItIsBack()
     QVERIFY(source);
     const int count = source->count();
     const QString aside = path(QStringLiteral("aside"));
+    if (!openFilesCanBeRemoved) {
+        QVERIFY(!QFile::rename(path(), aside));
+        QCOMPARE(source->count(), count);
+        QVERIFY(source->record(0));
+        return;
+    }
     QVERIFY(QFile::rename(path(), aside));
     QString error;
     QCOMPARE(source->count(&error), 0);
@@ -443,6 +450,9 @@ void TestRecordSource::errorTextIsOptional()
     const auto source = RecordSource::open(options());
     QVERIFY(source);
     QVERIFY(!source->record(-1));
+    Writer(path()).run(QStringLiteral("DROP TABLE chemicals"));
+    QCOMPARE(source->count(), 0);
+    QVERIFY(!source->record(0));
     QVERIFY(QFile::remove(path()));
     QCOMPARE(source->count(), 0);
     QVERIFY(!source->record(0));
