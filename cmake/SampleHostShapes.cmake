@@ -25,7 +25,7 @@ function(samplehost_take_shapes folder)
         get_filename_component(below "${picture}" DIRECTORY)
         file(MAKE_DIRECTORY "${folder}/${below}")
         execute_process(COMMAND "${tool}/svgshapes" "${folder}/${below}" "${CMAKE_CURRENT_SOURCE_DIR}/${picture}"
-            COMMAND_ERROR_IS_FATAL ANY)
+            ERROR_VARIABLE notes COMMAND_ERROR_IS_FATAL ANY)
         set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${picture}")
         list(APPEND shapes "${folder}/${picture}")
     endforeach()

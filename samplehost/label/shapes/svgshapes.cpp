@@ -78,8 +78,17 @@ protected:
             return m_size.width();
         case PdmHeight:
             return m_size.height();
+        case PdmDepth:
+            return 32;
+        case PdmDpiX:
+        case PdmDpiY:
+        case PdmPhysicalDpiX:
+        case PdmPhysicalDpiY:
+            return 96;
         case PdmDevicePixelRatio:
             return 1;
+        case PdmDevicePixelRatioScaled:
+            return int(devicePixelRatioFScale());
         default:
             return QPaintDevice::metric(metric);
         }

@@ -42,19 +42,21 @@ QImage painted(const std::function<void(QPainter&)>& paint)
     return image;
 }
 
-/** The largest difference of one pixel's channel. Edges are rounded in different ways. */
-int difference(const QImage& first, const QImage& second)
+/** The pixels that differ by more than a tenth. Where edges meet, single ones are rounded
+ * otherwise. */
+int differences(const QImage& first, const QImage& second)
 {
-    int most = 0;
+    const auto isFar = [](int a, int b) { return qAbs(a - b) > 25; };
+    int count = 0;
     for (int y = 0; y < first.height(); ++y) {
         for (int x = 0; x < first.width(); ++x) {
             const QRgb a = first.pixel(x, y);
             const QRgb b = second.pixel(x, y);
-            most = qMax(most, qMax(qAbs(qRed(a) - qRed(b)),
-                                   qMax(qAbs(qGreen(a) - qGreen(b)), qAbs(qBlue(a) - qBlue(b)))));
+            count +=
+                isFar(qRed(a), qRed(b)) || isFar(qGreen(a), qGreen(b)) || isFar(qBlue(a), qBlue(b));
         }
     }
-    return most;
+    return count;
 }
 
 QByteArray contentOf(const QString& path)
@@ -96,14 +98,13 @@ void tst_SvgShapes::looksLikeTheSvgPicture()
         painted([&renderer](QPainter& painter) { renderer.render(&painter, place); });
     const QImage actual =
         painted([&file](QPainter& painter) { paintSvgPicture(painter, place, file, tint); });
-    QVERIFY(difference(expected, painted([](QPainter&) {})) > 100);
-    const int most = difference(actual, expected);
-    QVERIFY2(most <= 24, QByteArray::number(most).constData());
+    QVERIFY(differences(expected, painted([](QPainter&) {})) > 500);
+    const int others = differences(actual, expected);
+    QVERIFY2(others <= 10, QByteArray::number(others).constData());
 }
 
 void tst_SvgShapes::whatIsNoPictureHasNoShapes()
 {
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Cannot read file")));
     QCOMPARE(shapesOf("not a picture"), QByteArray());
 }
 
