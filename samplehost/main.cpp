@@ -14,18 +14,29 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QStatusBar>
 
+#include <algorithm>
 #include <cstdio>
+#include <iterator>
 
 using namespace SampleHost;
 
 namespace {
 
-/** Whether the platform plugin describes the machine, which does not concern the user. */
+/** What platform plugins say of the machine, which does not concern the user. */
+constexpr const char* platformNotes[] = {
+    "This plugin does not support propagateSizeHints()",
+    "This plugin does not support raise()",
+    "QStandardPaths: XDG_RUNTIME_DIR not set",
+    "SetProcessDpiAwarenessContext(",
+    "EnableNonClientDpiScaling() failed",
+    "QPixmap::fromWinHICON(), failed",
+};
+
 bool isPlatformNote(const QString& message)
 {
-    return message == QLatin1String("This plugin does not support propagateSizeHints()") ||
-           message == QLatin1String("This plugin does not support raise()") ||
-           message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set"));
+    return std::any_of(
+        std::begin(platformNotes), std::end(platformNotes),
+        [&message](const char* note) { return message.startsWith(QLatin1String(note)); });
 }
 
 void reportMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
