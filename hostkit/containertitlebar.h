@@ -28,7 +28,8 @@ class HOSTKIT_EXPORT ContainerTitleBar : public QWidget
 
 public:
     /**
-     * Creates a title bar that shows @p title as plain text, elided if it does not fit.
+     * Creates a title bar that shows @p title as plain text. A title that is too wide is shown
+     * smaller, or elided if it would become too small.
      *
      * The font size is @p titlePixelSize pixels, or unchanged if that is not positive; setFont()
      * changes the font of the title. @p closeToolTip is the tool tip of the close button; if empty,

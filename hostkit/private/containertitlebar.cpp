@@ -50,6 +50,8 @@ void ContainerTitleBar::setTitle(const QString& title)
 
 bool ContainerTitleBar::event(QEvent* event)
 {
+    if (event->type() == QEvent::FontChange)
+        m_label->setTitleFont(font());
     if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && m_label->isElided()) {
         QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
                            HostKit::plainToolTip(title()), this);

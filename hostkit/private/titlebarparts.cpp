@@ -3,6 +3,7 @@
 
 #include "titlebarparts.h"
 
+#include <QtGui/QFontInfo>
 #include <QtGui/QPainter>
 
 namespace HostKit {
@@ -11,6 +12,9 @@ namespace {
 
 // More than a title bar can show. Keeps painting fast if the host sets a megabyte of text.
 constexpr qsizetype maxTitleLength = 1000;
+// The sizes to try for a title that is too wide. Smaller text is hard to read.
+constexpr int minTitlePixelSize = 9;
+constexpr int maxTitlePixelSize = 100;
 
 } // namespace
 
@@ -18,24 +22,63 @@ TitleBarLabel::TitleBarLabel(const QString& text, QWidget* parent) : QLabel(text
 {
     setTextFormat(Qt::PlainText);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setTitleFont(parent->font());
+}
+
+// In a window with a style sheet, a label does not inherit the font of its parent.
+void TitleBarLabel::setTitleFont(const QFont& font)
+{
+    m_titleFont = font;
+    m_titleFont.setResolveMask(QFont::AllPropertiesResolved);
+    setFont(m_titleFont);
+    updateGeometry();
+    update();
+}
+
+QString TitleBarLabel::paintedText() const
+{
+    return text().left(maxTitleLength);
+}
+
+// The largest font that is not larger than the bar's and shows the whole text. If there is none,
+// the bar's own: what is left of an elided title should at least be easy to read.
+QFont TitleBarLabel::fittedFont() const
+{
+    const auto fits = [this](const QFont& font) {
+        return QFontMetrics(font).horizontalAdvance(paintedText()) <= width();
+    };
+    QFont font = m_titleFont;
+    int size = qMin(QFontInfo(m_titleFont).pixelSize(), maxTitlePixelSize + 1);
+    while (!fits(font)) {
+        if (--size < minTitlePixelSize)
+            return m_titleFont;
+        font.setPixelSize(size);
+    }
+    return font;
 }
 
 bool TitleBarLabel::isElided() const
 {
-    return fontMetrics().horizontalAdvance(text().left(maxTitleLength)) > width();
+    return QFontMetrics(fittedFont()).horizontalAdvance(paintedText()) > width();
+}
+
+QSize TitleBarLabel::sizeHint() const
+{
+    return QFontMetrics(m_titleFont).size(Qt::TextSingleLine, paintedText());
 }
 
 QSize TitleBarLabel::minimumSizeHint() const
 {
-    return QSize(0, fontMetrics().height());
+    return QSize(0, QFontMetrics(m_titleFont).height());
 }
 
 void TitleBarLabel::paintEvent(QPaintEvent*)
 {
+    const QFont font = fittedFont();
     QPainter painter(this);
+    painter.setFont(font);
     painter.setPen(isEnabled() ? QColor(Qt::white) : QColor(0x84, 0x84, 0x84));
-    const QString shown =
-        fontMetrics().elidedText(text().left(maxTitleLength), Qt::ElideRight, width());
+    const QString shown = QFontMetrics(font).elidedText(paintedText(), Qt::ElideRight, width());
     painter.drawText(rect(), Qt::AlignVCenter | Qt::AlignLeading | Qt::TextSingleLine, shown);
 }
 

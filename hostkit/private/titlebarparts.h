@@ -10,7 +10,10 @@
 
 namespace HostKit {
 
-/** The title: white plain text, elided if it does not fit. text() returns the full text. */
+/**
+ * The title: white plain text in the font of the bar. A text that does not fit is shown smaller, or
+ * elided if it would become too small. text() returns the full text.
+ */
 class TitleBarLabel : public QLabel
 {
     Q_OBJECT
@@ -18,13 +21,23 @@ class TitleBarLabel : public QLabel
 public:
     explicit TitleBarLabel(const QString& text, QWidget* parent);
 
+    /** Sets the font of the bar, which no style sheet for labels changes. */
+    void setTitleFont(const QFont& font);
+
     /** Returns true if the text does not fit. */
     bool isElided() const;
 
+    QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString paintedText() const;
+    QFont fittedFont() const;
+
+    QFont m_titleFont;
 };
 
 /** The close button. Not a QPushButton, so that style sheets for push buttons do not affect it. */

@@ -6,6 +6,7 @@
 
 #include <containertitlebar.h>
 
+#include <QtGui/QPainter>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QLabel>
@@ -19,6 +20,10 @@ private Q_SLOTS:
     void holdsTitleAndCloseButton();
     void titleCanBeReplaced();
     void titleFontIsTheGivenSizeUntilSetFont();
+    void titleIsPaintedInTheFontOfTheBar_data();
+    void titleIsPaintedInTheFontOfTheBar();
+    void barIsAsHighAsItsFontNeeds();
+    void titleThatIsTooWideIsPaintedSmaller();
     void sizeThatIsNotPositiveKeepsTheFont_data();
     void sizeThatIsNotPositiveKeepsTheFont();
     void longTitleIsElidedAndStretchesNothing();
@@ -63,6 +68,43 @@ QAbstractButton* closeButton(const ContainerTitleBar* bar)
 {
     return bar->findChild<QAbstractButton*>();
 }
+
+// The size of what is painted in white.
+QSize inkOf(const QImage& image)
+{
+    QRect ink;
+    for (int x = 0; x < image.width(); ++x) {
+        for (int y = 0; y < image.height(); ++y) {
+            if (qGray(image.pixel(x, y)) > 160)
+                ink |= QRect(x, y, 1, 1);
+        }
+    }
+    return ink.size();
+}
+
+QSize inkOfTitle(ContainerTitleBar* bar)
+{
+    return inkOf(bar->grab(bar->findChild<QLabel*>()->geometry()).toImage());
+}
+
+QSize inkOfText(const QFont& font, const QString& text)
+{
+    const QRect box = QFontMetrics(font).boundingRect(text);
+    QImage image(box.size() + QSize(20, 20), QImage::Format_RGB32);
+    image.fill(QColor(0x33, 0x33, 0x33));
+    QPainter painter(&image);
+    painter.setPen(Qt::white);
+    painter.setFont(font);
+    painter.drawText(QPoint(10, 10) - box.topLeft(), text);
+    painter.end();
+    return inkOf(image);
+}
+
+bool areAlike(const QSize& one, const QSize& other)
+{
+    const QSize difference = one - other;
+    return qAbs(difference.width()) <= 1 && qAbs(difference.height()) <= 1;
+}
 } // namespace
 
 void TestContainerTitleBar::holdsTitleAndCloseButton()
@@ -102,6 +144,87 @@ void TestContainerTitleBar::titleFontIsTheGivenSizeUntilSetFont()
     bar.setFont(font);
     QCOMPARE(label->font().pixelSize(), 22);
     QVERIFY(label->font().italic());
+}
+
+void TestContainerTitleBar::titleIsPaintedInTheFontOfTheBar_data()
+{
+    addColumns<QString, bool>("windowSheet", "fontFirst");
+    const QString frameSheet = QStringLiteral("QWidget#frame { border: 1px solid red; }");
+    const QString labelSheet = QStringLiteral("QLabel { font: bold 30px; }");
+    addRow("font, title", QString(), true);
+    addRow("title, font", QString(), false);
+    addRow("font, title, in a window with a sheet", frameSheet, true);
+    addRow("title, font, in a window with a sheet", frameSheet, false);
+    addRow("font, title, in a window with a sheet for labels", labelSheet, true);
+    addRow("title, font, in a window with a sheet for labels", labelSheet, false);
+}
+
+void TestContainerTitleBar::titleIsPaintedInTheFontOfTheBar()
+{
+    QFETCH(QString, windowSheet);
+    QFETCH(bool, fontFirst);
+    Window window;
+    window.widget.setStyleSheet(windowSheet);
+    const QString title = QStringLiteral("Print Preview (%1)");
+    for (int size = 7; size <= 16; ++size) {
+        QFont font;
+        font.setPointSize(size);
+        font.setItalic(size % 2 == 0);
+        if (fontFirst)
+            window.bar->setFont(font);
+        window.bar->setTitle(title.arg(size));
+        if (!fontFirst)
+            window.bar->setFont(font);
+        const QSize expected = inkOfText(font, title.arg(size));
+        const QSize painted = inkOfTitle(window.bar);
+        QVERIFY2(areAlike(painted, expected),
+                 qPrintable(QStringLiteral("%1 pt: %2 x %3, not %4 x %5")
+                                .arg(size)
+                                .arg(painted.width())
+                                .arg(painted.height())
+                                .arg(expected.width())
+                                .arg(expected.height())));
+    }
+}
+
+void TestContainerTitleBar::barIsAsHighAsItsFontNeeds()
+{
+    QWidget widget;
+    widget.setStyleSheet(QStringLiteral("QWidget { color: black; }"));
+    auto* layout = new QVBoxLayout(&widget);
+    auto* bar = new ContainerTitleBar(nullptr, QStringLiteral("Preview"), QString(), 14);
+    layout->addWidget(bar);
+    widget.show();
+    const int height = bar->height();
+    QFont font;
+    font.setPixelSize(60);
+    bar->setFont(font);
+    QTRY_VERIFY(bar->height() > height);
+    QVERIFY(bar->findChild<QLabel*>()->height() >= QFontMetrics(font).height());
+}
+
+void TestContainerTitleBar::titleThatIsTooWideIsPaintedSmaller()
+{
+    Window window;
+    QFont font;
+    font.setPixelSize(24);
+    window.bar->setFont(font);
+    const QString title = QStringLiteral("Print Preview of a Large Label");
+    const auto* label = window.bar->findChild<QLabel*>();
+    QVERIFY(QFontMetrics(font).horizontalAdvance(title) > label->width());
+    window.bar->setTitle(title);
+    askForToolTip(window.bar, QPoint(20, 20));
+    QCOMPARE(visibleToolTip(), QString());
+    do {
+        font.setPixelSize(font.pixelSize() - 1);
+    } while (QFontMetrics(font).horizontalAdvance(title) > label->width());
+    QVERIFY(font.pixelSize() > 9);
+    QVERIFY(areAlike(inkOfTitle(window.bar), inkOfText(font, title)));
+
+    // As soon as there is room, it has its size again.
+    window.bar->setTitle(QStringLiteral("Print Preview"));
+    QVERIFY(areAlike(inkOfTitle(window.bar),
+                     inkOfText(window.bar->font(), QStringLiteral("Print Preview"))));
 }
 
 void TestContainerTitleBar::sizeThatIsNotPositiveKeepsTheFont_data()
