@@ -12,6 +12,9 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 
+#include <cstdlib>
+#include <utility>
+
 namespace {
 
 const QLatin1String prefix(":/printicons/printericons/");
@@ -47,6 +50,26 @@ int differingPixels(const QImage& one, const QImage& other)
             count += one.pixel(x, y) != other.pixel(x, y) ? 1 : 0;
     }
     return count;
+}
+
+QString variantOf(const QString& path, int scale)
+{
+    return QString(path).replace(QLatin1String(".png"), QStringLiteral("@%1x.png").arg(scale));
+}
+
+/** The mean difference between the channels of two images of the same size. */
+double meanDifference(const QImage& one, const QImage& other)
+{
+    int sum = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            const QRgb a = one.pixel(x, y);
+            const QRgb b = other.pixel(x, y);
+            sum += std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b)) +
+                   std::abs(qBlue(a) - qBlue(b)) + std::abs(qAlpha(a) - qAlpha(b));
+        }
+    }
+    return sum / (4.0 * one.width() * one.height());
 }
 
 QStringList allSheets()
@@ -100,6 +123,8 @@ private Q_SLOTS:
     void icon_data();
     void icon();
     void nothingElseStandsUnderThePrefix();
+    void variantShowsTheSamePicture_data();
+    void variantShowsTheSamePicture();
     void variantsDiffer_data();
     void variantsDiffer();
     void everyPictureIsDrawn_data();
@@ -143,10 +168,12 @@ void tst_Icons::icon()
 void tst_Icons::nothingElseStandsUnderThePrefix()
 {
     QStringList expected;
-    for (const IconRow& row : icons)
-        expected.append(prefix + QLatin1String(row.name));
+    for (const IconRow& row : icons) {
+        const QString path = prefix + QLatin1String(row.name);
+        expected << path << variantOf(path, 2) << variantOf(path, 3);
+    }
     expected.sort();
-    QCOMPARE(expected.size(), 14);
+    QCOMPARE(expected.size(), 3 * 14);
 
     QStringList found;
     QDirIterator files(QStringLiteral(":/printicons"), QDir::Files, QDirIterator::Subdirectories);
@@ -154,6 +181,35 @@ void tst_Icons::nothingElseStandsUnderThePrefix()
         found.append(files.next());
     found.sort();
     QCOMPARE(found, expected);
+}
+
+void tst_Icons::variantShowsTheSamePicture_data()
+{
+    addColumns<QString, int>("path", "scale");
+    QStringList paths = imagesNamedBySheets();
+    paths << prefix + QLatin1String("zoom_fit_transparent.png");
+    for (const char* glyph : {"ribbon", "blank-ribbon", "supply", "close", "close-pressed"})
+        paths << QStringLiteral(":/hostkit/%1.png").arg(QLatin1String(glyph));
+    for (const QString& path : std::as_const(paths)) {
+        for (const int scale : {2, 3})
+            QTest::newRow(qPrintable(variantOf(path, scale))) << path << scale;
+    }
+}
+
+void tst_Icons::variantShowsTheSamePicture()
+{
+    QFETCH(const QString, path);
+    QFETCH(const int, scale);
+    const QImage image = QImage(path).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    QImage variant(variantOf(path, scale));
+    QCOMPARE(variant.devicePixelRatio(), qreal(scale));
+    variant.setDevicePixelRatio(1.0);
+    QCOMPARE(variant.size(), image.size() * scale);
+    const QImage reduced =
+        variant.convertToFormat(QImage::Format_ARGB32_Premultiplied)
+            .scaled(image.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const double difference = meanDifference(reduced, image);
+    QVERIFY2(difference < 3, QByteArray::number(difference).constData());
 }
 
 void tst_Icons::variantsDiffer_data()

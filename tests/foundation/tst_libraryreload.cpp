@@ -46,6 +46,11 @@ bool panelsHaveImages()
     return QFile::exists(QStringLiteral(":/printicons/printericons/printer_settings.png"));
 }
 
+bool panelsHaveVariants()
+{
+    return QFile::exists(QStringLiteral(":/printicons/printericons/printer_settings@2x.png"));
+}
+
 bool kitHasImages()
 {
     return QFile::exists(QStringLiteral(":/module_icons/ModuleIcons/checkbox_selected.png"));
@@ -75,9 +80,11 @@ void tst_LibraryReload::imagesAreThereWhileTheLibraryIsLoaded()
 {
     for (int cycle = 0; cycle < cycles; ++cycle) {
         QVERIFY(!panelsHaveImages());
+        QVERIFY(!panelsHaveVariants());
         QVERIFY(!kitHasImages());
         QVERIFY2(m_library.load(), qPrintable(m_library.errorString()));
         QVERIFY(panelsHaveImages());
+        QVERIFY(panelsHaveVariants());
         QVERIFY(kitHasImages());
         QVERIFY2(m_library.unload(), qPrintable(m_library.errorString()));
     }
