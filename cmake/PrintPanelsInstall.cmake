@@ -49,9 +49,11 @@ if(TARGET printpanels_hostkit)
         COMPONENT Devel)
 endif()
 
+set(printpanels_translations_dir "${CMAKE_INSTALL_DATADIR}/printpanels/translations")
 configure_package_config_file(
     "${CMAKE_CURRENT_LIST_DIR}/PrintPanelsConfig.cmake.in"
     "${PROJECT_BINARY_DIR}/PrintPanelsConfig.cmake"
+    PATH_VARS printpanels_translations_dir
     INSTALL_DESTINATION "${printpanels_package_dir}")
 # While the major version is 0, every minor version may change the interface.
 set(printpanels_compatibility SameMajorVersion)

@@ -73,7 +73,7 @@ run("${CMAKE_COMMAND}" --install "${BUILD_DIR}" --prefix "${WORK_DIR}/install")
 foreach(example IN ITEMS printwidget quickprint preview multipage)
     check_length(${example})
 endforeach()
-foreach(example IN ITEMS printwidget quickprint preview multipage kitgallery)
+foreach(example IN ITEMS printwidget quickprint preview multipage gallery kitgallery)
     check_stands_alone(${example})
 endforeach()
 build_project("${SOURCE_DIR}/examples" "${WORK_DIR}/build" "-DCMAKE_PREFIX_PATH=${WORK_DIR}/install")
@@ -129,6 +129,24 @@ drive_example(multipage selection.pdf
 expect_pdf(selection.pdf "612 x 792" "Page 3|Page 1|Page 2|Page 3|Page 1|Page 2|")
 drive_example(multipage all.pdf "click allPagesRadio" "click PrintButton" "close")
 expect_pdf(all.pdf "612 x 792" "Page 1|Page 2|Page 3|Page 4|Page 5|Page 6|Page 7|Page 8|")
+
+# The gallery of the panels: a panel, in other colours, from right to left and disabled, and dialogs.
+drive_example(gallery ""
+    "show PrintWidget" "click allRecordsRadio" "click PrintButton"
+    "read signalLog widgetPrintSignal(1, 48, \"\")"
+    "click darkCheck" "click rightToLeftCheck" "picture dark.png" "click disabledCheck" "close")
+drive_example(gallery preview-zoomed
+    "show PrintPreviewDialog" "click zoomOutButton" "click printButton" "click closeButton"
+    "read signalLog previewPrintSignal(1, -1, \"\")" "read signalLog popupHideSignal()" "close")
+drive_example(gallery document-page
+    "click allPagesRadio" "click PrintButton" "read signalLog widgetPrintSignal(1, 12, \"\")" "close")
+run_program("${WORK_DIR}/build/gallery/gallery_example" "--grab" "${WORK_DIR}/states")
+file(GLOB pictures RELATIVE "${WORK_DIR}/states" "${WORK_DIR}/states/*.png")
+foreach(state IN ITEMS print-everything quick-resize preview-panned pages-turned document-page)
+    if(NOT "${state}.png" IN_LIST pictures)
+        message(FATAL_ERROR "The gallery left no picture of ${state}:\n${pictures}")
+    endif()
+endforeach()
 
 # The gallery of the kit's widgets.
 drive_example(kitgallery "" "click #248d4f" "picture gallery.png" "close")

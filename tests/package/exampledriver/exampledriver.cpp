@@ -10,6 +10,7 @@
 //   click <button>         clicks in the middle of a button
 //   type <field> <text>    replaces what a field holds
 //   show <widget>          checks that the user sees a widget
+//   read <field> <text>    checks that a field shows a text, among others
 //   picture <file>         saves what the window looks like
 //   close                  closes every window
 
@@ -94,6 +95,13 @@ void typeText(QWidget* field, const QString& text)
     QTest::keyClicks(field, text);
 }
 
+void readText(const QString& step)
+{
+    const QString shown = findWidget<QWidget>(step, isSeen)->property("plainText").toString();
+    if (!shown.contains(step.section(u' ', 2)))
+        fail(step, qPrintable(QStringLiteral("the field shows: ") + shown));
+}
+
 void savePicture(const QString& step)
 {
     if (!shownWindow()->grab().save(step.section(u' ', 1)))
@@ -115,6 +123,8 @@ void perform(const QString& step)
         typeText(findWidget<QWidget>(step, isUsable), step.section(u' ', 2));
     else if (verb == QStringLiteral("show"))
         findWidget<QWidget>(step, isSeen);
+    else if (verb == QStringLiteral("read"))
+        readText(step);
     else if (verb == QStringLiteral("picture"))
         savePicture(step);
     else if (verb == QStringLiteral("close"))

@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#include "snapshot.h"
+
+#include "panelstate.h"
+
+#include <QtCore/QEventLoop>
+#include <QtCore/QTimer>
+#include <QtGui/QPainter>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QWidget>
+
+#include <memory>
+
+namespace Gallery {
+
+namespace {
+
+// Combo boxes take the width of their contents 20 milliseconds after these change.
+void settle()
+{
+    QEventLoop loop;
+    QTimer::singleShot(30, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+// A host's column for its panels; the panels and dialogs that are narrower or wider say so.
+constexpr QSize column(320, 0);
+
+void fit(QWidget& window)
+{
+    window.resize(window.sizeHint().expandedTo(column));
+    settle();
+}
+
+void show(QWidget& window)
+{
+    window.move(0, 0);
+    window.show();
+    window.activateWindow();
+    fit(window);
+    if (QWidget* focused = window.focusWidget())
+        focused->clearFocus();
+}
+
+// The window with the lists that are open.
+QImage picture(QWidget& window)
+{
+    QPixmap pixmap = window.grab();
+    QPainter painter(&pixmap);
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* popup : windows) {
+        if (popup != &window && popup->isVisible())
+            painter.drawPixmap(window.mapFromGlobal(popup->mapToGlobal(QPoint())), popup->grab());
+    }
+    painter.end();
+    return pixmap.toImage();
+}
+
+} // namespace
+
+QImage snapshot(const PanelState& state)
+{
+    const std::unique_ptr<QWidget> window(state.create());
+    show(*window);
+    if (state.operate != nullptr) {
+        state.operate(*window);
+        fit(*window);
+    }
+    return picture(*window);
+}
+
+} // namespace Gallery
