@@ -4,6 +4,7 @@
 #include "multipage/copiessection.h"
 
 #include "foundation/hostkit.h"
+#include "foundation/widgets/accessibleparts.h"
 #include "foundation/widgets/caption.h"
 #include "foundation/widgets/metrics.h"
 #include "foundation/widgets/stepbutton.h"
@@ -71,10 +72,14 @@ QBoxLayout* CopiesSection::createCopiesRow()
     minusButton = createStepButton(setUpMinusButton);
     plusButton = createStepButton(setUpPlusButton);
 
+    QLabel* caption =
+        createCaption(tr("Copies:", "Label next to the display of the number of copies."));
+    setCaption(copiesEdit, caption);
+    announceSteps(copiesEdit, minusButton, plusButton);
+
     auto* row = new QHBoxLayout;
     row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(
-        createCaption(tr("Copies:", "Label next to the display of the number of copies.")));
+    row->addWidget(caption);
     row->addItem(new QSpacerItem(1, 1, QSizePolicy::Expanding, QSizePolicy::Minimum));
     row->addWidget(copiesEdit);
     row->addWidget(minusButton);

@@ -56,8 +56,9 @@ void MultiPagePrintWidgetPrivate::createTitle()
 // The orientation stands below the printer, because it is about the paper in it.
 void MultiPagePrintWidgetPrivate::createPrinterSection()
 {
-    mainLayout->addWidget(printer.createPrinterCaption());
-    QGridLayout* grid = printer.createPrinterLayout();
+    QLabel* caption = printer.createPrinterCaption();
+    mainLayout->addWidget(caption);
+    QGridLayout* grid = printer.createPrinterLayout(caption);
     grid->addWidget(options.createOrientationCheck(), 2, 0, 3, 1, Qt::AlignLeft);
     mainLayout->addLayout(grid);
 }

@@ -42,6 +42,8 @@ QFrame* PagesSection::createPageRangeFrame()
     caption->setFixedHeight(rowHeight);
     createPageRadios();
     pageListEdit = createPageListEdit();
+    pageListEdit->setAccessibleName(
+        tr("List of Pages", "Name of the page list entry for screen readers."));
 
     pageRangeFrame = new QFrame;
     pageRangeFrame->setObjectName(QStringLiteral("pageRangeFrame"));

@@ -4,6 +4,7 @@
 #include "multipage/printersection.h"
 
 #include "foundation/hostkit.h"
+#include "foundation/widgets/accessibleparts.h"
 #include "foundation/widgets/caption.h"
 #include "foundation/widgets/metrics.h"
 #include "foundation/widgets/printersettingsbutton.h"
@@ -48,9 +49,10 @@ QLabel* PrinterSection::createPrinterCaption() const
     return caption;
 }
 
-QGridLayout* PrinterSection::createPrinterLayout()
+QGridLayout* PrinterSection::createPrinterLayout(QLabel* caption)
 {
     printerCombo = createPrinterCombo();
+    setCaption(printerCombo, caption);
     printerSettingsButton = createPrinterSettingsButton();
 
     auto* grid = new QGridLayout;

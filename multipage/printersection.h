@@ -26,8 +26,8 @@ public:
     explicit PrinterSection(MultiPagePrintWidget* panel);
 
     QLabel* createPrinterCaption() const;
-    /** Builds the selector's grid; the caller adds it to a layout. */
-    QGridLayout* createPrinterLayout();
+    /** Builds the selector's grid below @p caption; the caller adds it to a layout. */
+    QGridLayout* createPrinterLayout(QLabel* caption);
 
     void updateListOfPrinters(const QStringList& printers, int currentIndex);
     QString getSelectedPrinter() const;

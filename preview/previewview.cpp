@@ -3,6 +3,9 @@
 
 #include "preview/previewview.h"
 
+#include "preview/accessiblepreview.h"
+
+#include <QtGui/QAccessible>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
 #include <QtGui/QWheelEvent>
@@ -90,7 +93,7 @@ void PreviewView::resetZoom()
 {
     m_zoom = m_fitZoom;
     centre();
-    update();
+    showZoom();
 }
 
 void PreviewView::scaleBy(double factor)
@@ -98,7 +101,17 @@ void PreviewView::scaleBy(double factor)
     if (!std::isfinite(factor))
         return;
     m_zoom *= factor;
+    showZoom();
+}
+
+// Assistive technology asks for the description, which contains the scale, when it wants to.
+void PreviewView::showZoom()
+{
     update();
+    if (QAccessible::isActive()) {
+        QAccessibleEvent event(this, QAccessible::DescriptionChanged);
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 void PreviewView::fitToView()
@@ -109,6 +122,21 @@ void PreviewView::fitToView()
                     : std::min(width() / m_imageRect.width(), height() / m_imageRect.height());
     m_minZoom = m_fitZoom * zoomOutFactor;
     resetZoom();
+}
+
+QSize PreviewView::imageSize() const
+{
+    return m_image.size();
+}
+
+double PreviewView::zoom() const
+{
+    return m_zoom;
+}
+
+QAccessibleInterface* PreviewView::createAccessible()
+{
+    return new AccessiblePreview(this);
 }
 
 QSize PreviewView::sizeHint() const

@@ -4,6 +4,7 @@
 #ifndef PRINTPANELS_PREVIEWVIEW_H
 #define PRINTPANELS_PREVIEWVIEW_H
 
+#include "foundation/widgets/accessibleparts.h"
 #include "preview/dragguard.h"
 
 #include <QtCore/QPointF>
@@ -21,7 +22,7 @@ namespace PrintPanels {
  * It draws only the image; whatever the parent paints behind the view surrounds it. Showing the
  * view and setting an image fit the image, resizing the view does not. A null image shows nothing.
  */
-class PreviewView : public QWidget
+class PreviewView : public QWidget, public AccessiblePart
 {
     Q_DISABLE_COPY_MOVE(PreviewView)
 
@@ -49,8 +50,14 @@ public:
     /** Scales the image so that all of it just fits into the view, and centres it. */
     void fitToView();
 
+    /** The size of the image in its own pixels; empty without an image. */
+    QSize imageSize() const;
+    /** Screen pixels per image pixel. */
+    double zoom() const;
+
     /** The size given to the constructor. */
     QSize sizeHint() const override;
+    QAccessibleInterface* createAccessible() override;
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -63,6 +70,7 @@ protected:
 private:
     void takeImage(const QImage& image);
     void centre();
+    void showZoom();
 
     QImage m_image;
     // The image's rectangle around the origin, in image pixels.

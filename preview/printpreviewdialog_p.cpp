@@ -5,6 +5,7 @@
 
 #include "foundation/hostkit.h"
 #include "foundation/stylesheets.h"
+#include "foundation/widgets/choicebutton.h"
 #include "preview/previewview.h"
 
 #include <printpanels/sharedconstants.h>
@@ -29,25 +30,37 @@ constexpr int titlePixelSize = 14;
 enum OrientationId { LandscapeId, PortraitId };
 
 // A host may embed the popup in a dialog of its own: Return there must not press a button here.
-QPushButton* createButton(const QString& name, const QString& text, const QString& styleSheet)
+void setUpButton(QPushButton* button, const QString& name, const QString& styleSheet)
 {
-    auto* button = new QPushButton(text);
     button->setObjectName(name);
     button->setStyleSheet(styleSheet);
     button->setAutoDefault(false);
+}
+
+QPushButton* createTextButton(const QString& name, const QString& text)
+{
+    auto* button = new QPushButton(text);
+    setUpButton(button, name, StyleSheets::primaryPushButton());
+    button->setFixedSize(textButtonSize);
     return button;
 }
 
-QPushButton* createZoomButton(const QString& name, const QString& styleSheet)
+QPushButton* createZoomButton(const QString& name, const QString& accessibleName,
+                              const QString& styleSheet)
 {
-    QPushButton* button = createButton(name, QString(), styleSheet);
+    auto* button = new QPushButton;
+    setUpButton(button, name, styleSheet);
+    button->setAccessibleName(accessibleName);
     button->setIconSize(zoomIconSize);
     return button;
 }
 
-QPushButton* createOrientationButton(const QString& name, const QString& styleSheet, bool checked)
+QPushButton* createOrientationButton(const QString& name, const QString& accessibleName,
+                                     const QString& styleSheet, bool checked)
 {
-    QPushButton* button = createButton(name, QString(), styleSheet);
+    auto* button = new ChoiceButton<QPushButton, QAccessible::RadioButton>;
+    setUpButton(button, name, styleSheet);
+    button->setAccessibleName(accessibleName);
     button->setToolTip(PrintPreviewDialog::ORIENTATION_TIP);
     button->setCheckable(true);
     button->setChecked(checked);
@@ -114,19 +127,23 @@ void PrintPreviewDialogPrivate::createContents(const QImage& image, bool portrai
 
 PrintPreviewDialogPrivate::Buttons PrintPreviewDialogPrivate::createButtons()
 {
-    const QString textStyle = StyleSheets::primaryPushButton();
-    printButton = createButton(QStringLiteral("printButton"),
-                               tr("Print", "Button to initiate print."), textStyle);
-    printButton->setFixedSize(textButtonSize);
+    printButton =
+        createTextButton(QStringLiteral("printButton"), tr("Print", "Button to initiate print."));
 
     Buttons buttons;
-    buttons.close = createButton(QStringLiteral("closeButton"),
-                                 tr("Close", "Button to close print preview."), textStyle);
-    buttons.close->setFixedSize(textButtonSize);
-    buttons.zoomIn = createZoomButton(QStringLiteral("zoomInButton"), StyleSheets::zoomInButton());
-    buttons.zoomOut =
-        createZoomButton(QStringLiteral("zoomOutButton"), StyleSheets::zoomOutButton());
-    buttons.fit = createZoomButton(QStringLiteral("fitButton"), StyleSheets::fitButton());
+    buttons.close = createTextButton(QStringLiteral("closeButton"),
+                                     tr("Close", "Button to close print preview."));
+    buttons.zoomIn = createZoomButton(QStringLiteral("zoomInButton"),
+                                      tr("Zoom In", "Name of the button for screen readers."),
+                                      StyleSheets::zoomInButton());
+    buttons.zoomOut = createZoomButton(QStringLiteral("zoomOutButton"),
+                                       tr("Zoom Out", "Name of the button for screen readers."),
+                                       StyleSheets::zoomOutButton());
+    buttons.fit =
+        createZoomButton(QStringLiteral("fitButton"),
+                         tr("Fit to Window", "Name of the button that shows the whole label for "
+                                             "screen readers."),
+                         StyleSheets::fitButton());
     buttons.fit->setIcon(
         QIcon(QStringLiteral(":/printicons/printericons/zoom_fit_transparent.png")));
     return buttons;
@@ -134,10 +151,14 @@ PrintPreviewDialogPrivate::Buttons PrintPreviewDialogPrivate::createButtons()
 
 void PrintPreviewDialogPrivate::createOrientationButtons(bool portrait)
 {
-    portraitButton = createOrientationButton(QStringLiteral("portraitButton"),
-                                             StyleSheets::portraitButton(), portrait);
-    landscapeButton = createOrientationButton(QStringLiteral("landscapeButton"),
-                                              StyleSheets::landscapeButton(), !portrait);
+    portraitButton = createOrientationButton(
+        QStringLiteral("portraitButton"),
+        tr("Portrait", "Name of the orientation button for screen readers."),
+        StyleSheets::portraitButton(), portrait);
+    landscapeButton = createOrientationButton(
+        QStringLiteral("landscapeButton"),
+        tr("Landscape", "Name of the orientation button for screen readers."),
+        StyleSheets::landscapeButton(), !portrait);
     orientationGroup = new QButtonGroup(q);
     orientationGroup->addButton(landscapeButton, LandscapeId);
     orientationGroup->addButton(portraitButton, PortraitId);

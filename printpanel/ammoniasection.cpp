@@ -4,6 +4,7 @@
 #include "printpanel/ammoniasection.h"
 
 #include "foundation/hostkit.h"
+#include "foundation/widgets/accessibleparts.h"
 #include "foundation/widgets/caption.h"
 #include "foundation/widgets/metrics.h"
 #include "printpanel/supplysection.h"
@@ -46,6 +47,7 @@ void AmmoniaSection::createAmmoniaLayout()
     QLabel* caption = createCaption(tr("Item To Print:", "Which item to print label text"));
     caption->setMinimumHeight(rowHeight);
     ammoniaPrintCombo = createCombo();
+    setCaption(ammoniaPrintCombo, caption);
     auto* grid = new QGridLayout;
     grid->setContentsMargins(0, 0, 0, 0);
     grid->addWidget(caption, 0, 0, 1, 1, Qt::AlignLeft);

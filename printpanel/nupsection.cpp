@@ -6,6 +6,7 @@
 #include "foundation/hostkit.h"
 #include "foundation/stylesheets.h"
 #include "foundation/widgets/caption.h"
+#include "foundation/widgets/choicebutton.h"
 #include "foundation/widgets/metrics.h"
 #include "printpanel/recordssection.h"
 
@@ -26,7 +27,7 @@ enum NupId { ReplicatingId, SequencingId };
 
 QRadioButton* createPictureRadio(const QString& name, const QString& toolTip)
 {
-    auto* radio = new QRadioButton;
+    auto* radio = new ChoiceButton<QRadioButton, QAccessible::RadioButton>;
     radio->setObjectName(name);
     radio->setStyleSheet(StyleSheets::radioButtonIndicator());
     radio->setToolTip(toolTip);

@@ -4,6 +4,7 @@
 #include "printpanel/printersection.h"
 
 #include "foundation/hostkit.h"
+#include "foundation/widgets/accessibleparts.h"
 #include "foundation/widgets/caption.h"
 #include "foundation/widgets/elidedlabel.h"
 #include "foundation/widgets/metrics.h"
@@ -72,6 +73,7 @@ QGridLayout* PrinterSection::createPrinterSelectorLayout()
     QLabel* caption = createCaption(tr("Printer:", "Label showing printer name."));
     caption->setFixedHeight(rowHeight);
     printerCombo = createPrinterCombo();
+    setCaption(printerCombo, caption);
     preferencesButton = new DragScrollButton(nullptr);
     setUpPrinterSettingsButton(preferencesButton);
 
@@ -116,6 +118,8 @@ void PrinterSection::createCopyCountLayout()
     auto* plusButton = new DragScrollButton(nullptr);
     setUpPlusButton(plusButton);
     copiesSpinBox = createCopiesSpinBox();
+    setCaption(copiesSpinBox, caption);
+    announceSteps(copiesSpinBox, minusButton, plusButton);
 
     printerGrid->addWidget(caption, copyRow, 0);
     printerGrid->addItem(createGap(QSizePolicy::Expanding), copyRow, 1);

@@ -47,6 +47,8 @@ QFrame* RecordsSection::createRecordsRangeLayout()
                              tr("Enter a list of record numbers and/or ranges, separated by comma.",
                                 "Tool tip text for record list entry."),
                              tr("Example:", "An example of a possible entry"));
+    recordListEdit->setAccessibleName(
+        tr("List of Records", "Name of the record list entry for screen readers."));
 
     recordsFrame = new QFrame;
     recordsFrame->setObjectName(QStringLiteral("recordsFrame"));

@@ -4,7 +4,9 @@
 #include "printpanel/supplysection.h"
 
 #include "foundation/hostkit.h"
+#include "foundation/widgets/accessibleparts.h"
 #include "foundation/widgets/caption.h"
+#include "foundation/widgets/choicebutton.h"
 #include "foundation/widgets/metrics.h"
 #include "printpanel/ribbontab.h"
 
@@ -73,6 +75,7 @@ void SupplySection::createSupplyInfoLayout()
     layout->addLayout(createSupplyWidthRow());
     layout->addWidget(tinyLadderCheck);
     layout->addLayout(createColorTabs());
+    setCaption(colorTabBar, title);
     createColorMenus();
     addColorMenus();
     connectSection();
@@ -87,10 +90,13 @@ QBoxLayout* SupplySection::createSupplyWidthRow()
     supplyWidthEdit->setFixedSize(80, rowHeight);
     supplyWidthEdit->setValidator(widthValidator);
 
+    QLabel* caption = createCaption(tr("Tape Width:", "Label for Supply Tape Width."));
+    setCaption(supplyWidthEdit, caption);
+
     auto* row = new QHBoxLayout;
     row->setContentsMargins(5, 5, 5, 5);
     row->addItem(createGap());
-    row->addWidget(createCaption(tr("Tape Width:", "Label for Supply Tape Width.")));
+    row->addWidget(caption);
     row->addItem(createGap());
     row->addWidget(supplyWidthEdit);
     row->addItem(createGap());
@@ -99,7 +105,8 @@ QBoxLayout* SupplySection::createSupplyWidthRow()
 
 QCheckBox* SupplySection::createTinyLadderCheck() const
 {
-    auto* check = new QCheckBox(tr("0.2\" Ladder Shrink Tube"));
+    auto* check = new ChoiceButton<QCheckBox, QAccessible::CheckBox>;
+    check->setText(tr("0.2\" Ladder Shrink Tube"));
     check->setObjectName(QStringLiteral("tinyLadderCheck"));
     check->setFont(ApplicationFont::getWidgetFont(true));
     return check;
@@ -194,6 +201,9 @@ void SupplySection::showWidth(double width, bool metric)
 {
     widthSuffix = metric ? SharedConstants::millimetersSuffix : SharedConstants::inchesSuffix;
     widthValidator->setSuffix(widthSuffix);
+    supplyWidthEdit->setAccessibleDescription(
+        metric ? tr("Millimeters", "Unit of the tape width for screen readers.")
+               : tr("Inches", "Unit of the tape width for screen readers."));
     supplyWidthEdit->setText(QString::number(width, 'f', 2));
     lastWidthText = supplyWidthEdit->text();
 }
@@ -288,7 +298,7 @@ void SupplySection::addMenuToStack(int index, const QString& color, const QStrin
     menu->updateSelectedColor(color);
     colorTabBar->insertTab(index, tabText);
     colorTabBar->setTabColorRect(index, color);
-    colorTabBar->setTabToolTip(index, toolTip);
+    setTabToolTip(index, toolTip);
     colorStack->insertWidget(index, menu);
 }
 
@@ -303,7 +313,14 @@ void SupplySection::updateColorSelection(int index, const QString& color, ColorM
 void SupplySection::labelRibbonTab(int tabIndex, const RibbonTab& tab)
 {
     colorTabBar->setTabText(tabIndex, tab.text);
-    colorTabBar->setTabToolTip(tabIndex, tab.toolTip);
+    setTabToolTip(tabIndex, tab.toolTip);
+}
+
+// The texts of the tabs are characters of an icon font, which no screen reader can read.
+void SupplySection::setTabToolTip(int tabIndex, const QString& toolTip)
+{
+    colorTabBar->setTabToolTip(tabIndex, toolTip);
+    colorTabBar->setAccessibleTabName(tabIndex, toolTip);
 }
 
 void SupplySection::refreshRibbonTab(int tabIndex, const RibbonTab& tab, ColorMenu* menu)

@@ -72,6 +72,7 @@ private:
     void removeSecondRibbon();
     void applyPalettes(const QStringList& ribbonColors, const QStringList& supplyColors);
     void labelRibbonTab(int tabIndex, const RibbonTab& tab);
+    void setTabToolTip(int tabIndex, const QString& toolTip);
     void refreshRibbonTab(int tabIndex, const RibbonTab& tab, ColorMenu* menu);
     void selectRibbonColor(int tabIndex, const QString& color, QString& stored);
     void reportSupplyColors();

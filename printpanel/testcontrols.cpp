@@ -5,6 +5,7 @@
 
 #include "foundation/hostkit.h"
 #include "foundation/stylesheets.h"
+#include "foundation/widgets/accessibleparts.h"
 #include "foundation/widgets/caption.h"
 #include "foundation/widgets/metrics.h"
 
@@ -54,8 +55,10 @@ QBoxLayout* TestControls::createErrorTestRow()
     show->setFont(ApplicationFont::getWidgetFont(true));
     show->setStyleSheet(StyleSheets::primaryPushButton());
 
+    QLabel* caption = createCaption(tr("Error number: ", "Label for testing the errors."));
+    setCaption(errorNumberSpinBox, caption);
     auto* row = new QHBoxLayout;
-    row->addWidget(createCaption(tr("Error number: ", "Label for testing the errors.")));
+    row->addWidget(caption);
     row->addWidget(errorNumberSpinBox);
     row->addWidget(show);
     QObject::connect(show, SIGNAL(clicked()), q, SLOT(testErrorCodeSlot()));

@@ -4,6 +4,7 @@
 #include "quickprint/quickprintwidget_p.h"
 
 #include "foundation/hostkit.h"
+#include "foundation/widgets/accessibleparts.h"
 #include "foundation/widgets/caption.h"
 #include "foundation/widgets/metrics.h"
 #include "foundation/widgets/stepbutton.h"
@@ -106,12 +107,17 @@ void QuickPrintWidgetPrivate::createResizeLayout()
         createTextButton(QStringLiteral("resizeButton"),
                          tr("       Resize       ", "The text on the button to resize the label."));
 
+    QLabel* lengthCaption =
+        createCaption(tr("Length:  ", "The text next to the label length edit box."));
+    setCaption(lengthEdit, lengthCaption);
+    QLabel* widthCaption =
+        createCaption(tr("Width:  ", "The text next to the label width edit box."));
+    setCaption(widthEdit, widthCaption);
+
     auto* grid = new QGridLayout;
-    grid->addWidget(createCaption(tr("Length:  ", "The text next to the label length edit box.")),
-                    0, 0);
+    grid->addWidget(lengthCaption, 0, 0);
     grid->addWidget(lengthEdit, 0, 1);
-    grid->addWidget(createCaption(tr("Width:  ", "The text next to the label width edit box.")), 1,
-                    0);
+    grid->addWidget(widthCaption, 1, 0);
     grid->addWidget(widthEdit, 1, 1);
     grid->addWidget(resizeButton, 2, 0, 1, 2, Qt::AlignCenter);
     resizeFrame = new QFrame;
@@ -135,13 +141,16 @@ QFrame* QuickPrintWidgetPrivate::createCopyCountLayout()
     setUpPlusButton(plusButton);
     minusButton = createButton(QString());
     setUpMinusButton(minusButton);
+    QLabel* caption = createCaption(tr("Copies:", "The label next to the number of copies."));
+    setCaption(copiesSpinBox, caption);
+    announceSteps(copiesSpinBox, minusButton, plusButton);
 
     auto* inner = new QHBoxLayout;
     inner->addWidget(copiesSpinBox);
     inner->addWidget(minusButton);
     inner->addWidget(plusButton);
     auto* row = new QHBoxLayout;
-    row->addWidget(createCaption(tr("Copies:", "The label next to the number of copies.")), 1);
+    row->addWidget(caption, 1);
     row->addItem(createGap());
     row->addLayout(inner, 2);
     auto* frame = new QFrame;

@@ -73,6 +73,57 @@
         <comment>Label showing printer name.</comment>
         <translation>Drucker:</translation>
     </message>
+    <message>
+        <source>List of Pages</source>
+        <comment>Name of the page list entry for screen readers.</comment>
+        <translation>Liste der Seiten</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewView</name>
+    <message>
+        <source>Preview</source>
+        <comment>Name of the picture of a label or page for screen readers.</comment>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <comment>Description of an empty preview for screen readers.</comment>
+        <translation>Kein Bild</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels, shown at %3%</source>
+        <comment>Description of the preview for screen readers: width, height and scale.</comment>
+        <translation>%1 x %2 Pixel, angezeigt mit %3%</translation>
+    </message>
+</context>
+<context>
+    <name>PrintPanels</name>
+    <message>
+        <source>Preferences</source>
+        <comment>Name of the button beside the printer for screen readers.</comment>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>The list is complete.</source>
+        <comment>State of a record or page list for screen readers.</comment>
+        <translation>Die Liste ist vollständig.</translation>
+    </message>
+    <message>
+        <source>The list is not complete yet.</source>
+        <comment>State of a record or page list for screen readers.</comment>
+        <translation>Die Liste ist noch nicht vollständig.</translation>
+    </message>
+    <message>
+        <source>More Copies</source>
+        <comment>Name of the plus button for screen readers.</comment>
+        <translation>Mehr Kopien</translation>
+    </message>
+    <message>
+        <source>Fewer Copies</source>
+        <comment>Name of the minus button for screen readers.</comment>
+        <translation>Weniger Kopien</translation>
+    </message>
 </context>
 <context>
     <name>PrintPreviewDialog</name>
@@ -95,6 +146,31 @@
         <source>Print Preview (Design: %1%2 X %3%2  Printed: %4%2 X %5%2)</source>
         <comment>Dialog title with label size.</comment>
         <translation>Druckvorschau (Entwurf: %1%2 X %3%2  Gedruckt: %4%2 X %5%2)</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <comment>Name of the button for screen readers.</comment>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <comment>Name of the button for screen readers.</comment>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Fit to Window</source>
+        <comment>Name of the button that shows the whole label for screen readers.</comment>
+        <translation>An Fenster anpassen</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <comment>Name of the orientation button for screen readers.</comment>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <comment>Name of the orientation button for screen readers.</comment>
+        <translation>Querformat</translation>
     </message>
 </context>
 <context>
@@ -294,6 +370,21 @@
         <source>Blank Ribbon%1</source>
         <comment>Label for the ribbon color.</comment>
         <translation>Leeres Farbband %1</translation>
+    </message>
+    <message>
+        <source>List of Records</source>
+        <comment>Name of the record list entry for screen readers.</comment>
+        <translation>Liste der Datensätze</translation>
+    </message>
+    <message>
+        <source>Millimeters</source>
+        <comment>Unit of the tape width for screen readers.</comment>
+        <translation>Millimeter</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <comment>Unit of the tape width for screen readers.</comment>
+        <translation>Zoll</translation>
     </message>
 </context>
 <context>

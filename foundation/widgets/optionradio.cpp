@@ -4,6 +4,7 @@
 #include "foundation/widgets/optionradio.h"
 
 #include "foundation/hostkit.h"
+#include "foundation/widgets/choicebutton.h"
 
 #include <QtWidgets/QButtonGroup>
 #include <QtWidgets/QRadioButton>
@@ -12,7 +13,8 @@ namespace PrintPanels {
 
 QRadioButton* createOptionRadio(const QString& name, const QString& text)
 {
-    auto* radio = new QRadioButton(text);
+    auto* radio = new ChoiceButton<QRadioButton, QAccessible::RadioButton>;
+    radio->setText(text);
     radio->setObjectName(name);
     radio->setFont(ApplicationFont::getWidgetFont(true));
     radio->setFocusPolicy(Qt::NoFocus);

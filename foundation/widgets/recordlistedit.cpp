@@ -7,9 +7,27 @@
 
 #include <printpanels/recordlist.h>
 
+#include <QtCore/QCoreApplication>
 #include <QtGui/QRegularExpressionValidator>
 
 namespace PrintPanels {
+
+namespace {
+
+// Read out when it changes while the user types, and with the edit. Without one, screen readers
+// read the tool tip, which says what to enter.
+QString listState(const QLineEdit* edit)
+{
+    if (edit->text().isEmpty())
+        return QString();
+    return edit->hasAcceptableInput()
+               ? QCoreApplication::translate("PrintPanels", "The list is complete.",
+                                             "State of a record or page list for screen readers.")
+               : QCoreApplication::translate("PrintPanels", "The list is not complete yet.",
+                                             "State of a record or page list for screen readers.");
+}
+
+} // namespace
 
 JxLineEdit* createRecordListEdit(const QString& name, const QFont& font, const QString& toolTip,
                                  const QString& exampleLabel)
@@ -25,6 +43,8 @@ JxLineEdit* createRecordListEdit(const QString& name, const QFont& font, const Q
     edit->setToolTip(toolTip + u'\n' + example);
     edit->setPlaceholderText(QStringLiteral("   ") + example);
     edit->setEnabled(false);
+    QObject::connect(edit, &QLineEdit::textChanged, edit,
+                     [edit] { edit->setAccessibleDescription(listState(edit)); });
     return edit;
 }
 

@@ -4,7 +4,9 @@
 #ifndef PRINTPANELS_STEPBUTTON_H
 #define PRINTPANELS_STEPBUTTON_H
 
+class QLineEdit;
 class QPushButton;
+class QSpinBox;
 
 namespace PrintPanels {
 
@@ -14,6 +16,13 @@ namespace PrintPanels {
  */
 void setUpPlusButton(QPushButton* button);
 void setUpMinusButton(QPushButton* button);
+
+/**
+ * Tells assistive technology of every step of @p field, and makes the number the description of
+ * both buttons: a screen reader says what changes at the button that has the focus.
+ */
+void announceSteps(QSpinBox* field, QPushButton* minusButton, QPushButton* plusButton);
+void announceSteps(QLineEdit* field, QPushButton* minusButton, QPushButton* plusButton);
 
 } // namespace PrintPanels
 

@@ -30,7 +30,8 @@ ColorSwatch::ColorSwatch(const QString& name, const QString& code, QWidget* pare
 {
     setObjectName(code);
     setToolTip(name);
-    setAccessibleName(name);
+    setAccessibleName(name.isEmpty() ? code : name);
+    setAccessibleDescription(code);
     setCheckable(true);
     setAutoDefault(false);
     setAttribute(Qt::WA_Hover);

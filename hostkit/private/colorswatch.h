@@ -19,7 +19,7 @@ public:
 
     /**
      * Creates a swatch for the colour @p code with @p name, which may be empty, as its tool tip.
-     * @p parent owns it.
+     * Screen readers are told the name and the code. @p parent owns it.
      */
     ColorSwatch(const QString& name, const QString& code, QWidget* parent);
     ~ColorSwatch() override;

@@ -177,6 +177,7 @@ void tst_MultiPageTexts::everyKeyIsAskedForOnce()
     key("Enter a list of record numbers and/or ranges, separated by comma.",
         "Tool tip text for record list entry.");
     key("Example:", "An example of a possible entry");
+    key("List of Pages", "Name of the page list entry for screen readers.");
     key("Copies:", "Label next to the display of the number of copies.");
     key("Print Only Form Fill Text", "");
     key("Fit To Page ", "");

@@ -227,12 +227,22 @@ void tst_PopupLook::textsAreTranslatedInThePopupsContext()
                                          QStringLiteral("Button to close print preview.")));
     content.printedSizeOnly = true;
     popup.title(content);
+    const QString nameComment = QStringLiteral("Name of the button for screen readers.");
+    const QString fitComment =
+        QStringLiteral("Name of the button that shows the whole label for screen readers.");
+    const QString orientationComment =
+        QStringLiteral("Name of the orientation button for screen readers.");
     const QString titleComment = QStringLiteral("Dialog title with label size.");
     const QList<TranslationKey> expected = {
         {context, QStringLiteral("Print Preview (Design: %1%2 X %3%2  Printed: %4%2 X %5%2)"),
          titleComment},
         {context, QStringLiteral("Print"), QStringLiteral("Button to initiate print.")},
         {context, QStringLiteral("Close"), QStringLiteral("Button to close print preview.")},
+        {context, QStringLiteral("Zoom In"), nameComment},
+        {context, QStringLiteral("Zoom Out"), nameComment},
+        {context, QStringLiteral("Fit to Window"), fitComment},
+        {context, QStringLiteral("Portrait"), orientationComment},
+        {context, QStringLiteral("Landscape"), orientationComment},
         {context, QStringLiteral("Print Preview (%1%2 X %3%2)"), titleComment}};
     QVERIFY(recorder.keys() == expected);
 }

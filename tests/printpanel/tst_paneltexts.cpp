@@ -41,6 +41,7 @@ const TextRow texts[] = {
     {"Example:", "An example of a possible entry"},
     {"Enter a list of record numbers and/or ranges, separated by comma.",
      "Tool tip text for record list entry."},
+    {"List of Records", "Name of the record list entry for screen readers."},
     {"N-up replicating: Select to print identical labels on a single page.",
      "N-up print checkbox tool tip text."},
     {"N-up sequencing: Select to print multiple labels from the sequence on a single page.",
@@ -58,6 +59,8 @@ const TextRow texts[] = {
     {"Liquid State Tag", "The option to print the liquid state tag"},
     {"Loaded Supply:", "Title for Supply Color Frame"},
     {"Tape Width:", "Label for Supply Tape Width."},
+    {"Millimeters", "Unit of the tape width for screen readers."},
+    {"Inches", "Unit of the tape width for screen readers."},
     {"0.2\" Ladder Shrink Tube", ""},
     {"Select loaded color.", "ToolTip for color selection."},
     {"Ribbon%1", "Label for the ribbon color."},
@@ -87,6 +90,7 @@ void showEverything(PrintPanelFixture& panel)
 {
     panel.setModule(JxModuleInfo::PipeMarking);
     panel.setVisibleAmmoniaTag(15);
+    panel.showSupplyInfo(colors({"#dc0b0b", "#fffffe", "#ffffff"}), true, 12.0, 1, true);
     panel.showSupplyInfo(colors({"#dc0b0b", "#fffffe", "#ffffff"}), true, 4.0, 0, true);
     panel.setRangeValues(0, 0, true);
     panel.updatePrinterStatus(true, false, true);

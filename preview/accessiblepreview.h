@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The PrintPanels developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPANELS_ACCESSIBLEPREVIEW_H
+#define PRINTPANELS_ACCESSIBLEPREVIEW_H
+
+#include <QtCore/QCoreApplication>
+#include <QtWidgets/QAccessibleWidget>
+
+namespace PrintPanels {
+
+class PreviewView;
+
+/** What assistive technology is told of a canvas: a picture, its size and its scale. */
+class AccessiblePreview : public QAccessibleWidget
+{
+    Q_DECLARE_TR_FUNCTIONS(PreviewView)
+
+public:
+    explicit AccessiblePreview(PreviewView* view);
+
+    QString text(QAccessible::Text type) const override;
+
+private:
+    QString description() const;
+};
+
+} // namespace PrintPanels
+
+#endif
