@@ -64,6 +64,7 @@ QWidget* CatalogPage::createContents()
 {
     m_view = new LabelView;
     m_view->setObjectName(QStringLiteral("catalogView"));
+    m_view->setAccessibleName(tr("Catalogue item"));
     m_message = new QLabel;
     m_message->setObjectName(QStringLiteral("catalogMessage"));
     m_message->setTextFormat(Qt::PlainText);
@@ -72,6 +73,7 @@ QWidget* CatalogPage::createContents()
     m_message->setStyleSheet(QStringLiteral("color: #c8102e;"));
     m_items = new QListWidget;
     m_items->setObjectName(QStringLiteral("catalogList"));
+    m_items->setAccessibleName(tr("Catalogue items"));
     m_items->setFrameShape(QFrame::NoFrame);
     m_items->setSpacing(2);
     m_items->setFixedHeight(250);

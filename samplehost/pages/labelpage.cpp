@@ -37,6 +37,7 @@ QWidget* LabelPage::createContents(HostSettings& settings)
     m_typeBar = new LabelTypeBar(settings);
     m_view = new LabelView;
     m_view->setObjectName(QStringLiteral("labelView"));
+    m_view->setAccessibleName(tr("Label"));
     m_navigator = new RecordNavigator;
     m_navigator->setObjectName(QStringLiteral("recordNavigator"));
     auto* contents = new QWidget;

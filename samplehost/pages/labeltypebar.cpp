@@ -26,8 +26,10 @@ void LabelTypeBar::createWidgets()
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(12);
-    row->addWidget(new QLabel(tr("Sheet:")));
+    auto* sheetLabel = new QLabel(tr("Sheet:"));
+    row->addWidget(sheetLabel);
     m_nupCombo = new NupCombo;
+    sheetLabel->setBuddy(m_nupCombo);
     m_nupCombo->setObjectName(QStringLiteral("nupCombo"));
     m_nupCombo->setToolTip(tr("How many labels are printed on one sheet"));
     row->addWidget(m_nupCombo);

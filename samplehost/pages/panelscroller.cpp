@@ -10,6 +10,7 @@ namespace SampleHost {
 
 PanelScroller::PanelScroller(QWidget* panel, QWidget* parent) : QScrollArea(parent)
 {
+    setAccessibleName(tr("Print settings"));
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setWidgetResizable(true);

@@ -82,6 +82,7 @@ void PdfPage::createContents()
     placeholder->setEnabled(false);
     m_view = new LabelView;
     m_view->setObjectName(QStringLiteral("documentView"));
+    m_view->setAccessibleName(tr("Page of the document"));
     m_stack = new QStackedWidget;
     m_stack->addWidget(placeholder);
     m_stack->addWidget(m_view);

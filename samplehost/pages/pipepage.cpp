@@ -31,6 +31,7 @@ QWidget* PipePage::createContents()
 {
     m_markers = new QListWidget;
     m_markers->setObjectName(QStringLiteral("markerList"));
+    m_markers->setAccessibleName(tr("Pipe markers"));
     m_markers->setFrameShape(QFrame::NoFrame);
     m_markers->setSpacing(2);
     m_markers->setFixedHeight(250);
@@ -39,6 +40,7 @@ QWidget* PipePage::createContents()
     }
     m_view = new LabelView;
     m_view->setObjectName(QStringLiteral("markerView"));
+    m_view->setAccessibleName(tr("Pipe marker"));
     auto* contents = new QWidget;
     auto* column = new QVBoxLayout(contents);
     column->addWidget(m_view, 1);

@@ -46,6 +46,7 @@ void RecordNavigator::createWidgets(Items items)
                   pages ? tr("Previous page") : tr("Previous record"));
     m_numberBox = new QSpinBox;
     m_numberBox->setObjectName(QStringLiteral("recordNumberBox"));
+    m_numberBox->setAccessibleName(pages ? tr("Page") : tr("Record"));
     m_numberBox->setButtonSymbols(QAbstractSpinBox::NoButtons);
     m_numberBox->setAlignment(Qt::AlignCenter);
     m_numberBox->setFixedSize(64, 32);

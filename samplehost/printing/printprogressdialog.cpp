@@ -22,7 +22,9 @@ PrintProgressDialog::PrintProgressDialog(PrintJob& job, QWidget* parent)
     setCancelButtonText(tr("Cancel"));
     m_bar->setObjectName(QStringLiteral("progressBar"));
     m_bar->setTextVisible(false);
-    findChild<QLabel*>()->setObjectName(QStringLiteral("progressLabel"));
+    auto* label = findChild<QLabel*>();
+    label->setObjectName(QStringLiteral("progressLabel"));
+    label->setBuddy(m_bar);
     findChild<QPushButton*>()->setObjectName(QStringLiteral("cancelPrintButton"));
     showProgress(0, job.pageCount());
     // Starts the delay only if the value is the minimum.

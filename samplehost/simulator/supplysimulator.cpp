@@ -104,7 +104,13 @@ void SupplySimulator::addWidthRow(QFormLayout* form)
     auto* row = new QHBoxLayout;
     row->addWidget(m_widthBox, 1);
     row->addWidget(m_unitCombo);
-    form->addRow(tr("Width:"), row);
+    auto* label = new QLabel(tr("Width:"));
+    label->setBuddy(m_widthBox);
+    form->addRow(label, row);
+    // Screen readers take the name of a combo box from its label only. This one needs none to see.
+    auto* unitLabel = new QLabel(tr("Unit of the width"), this);
+    unitLabel->hide();
+    unitLabel->setBuddy(m_unitCombo);
 }
 
 void SupplySimulator::addLaminatorRow(QFormLayout* form)

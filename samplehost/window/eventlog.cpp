@@ -82,6 +82,7 @@ EventLog::EventLog(QWidget* parent) : QWidget(parent)
 {
     m_list = new QListWidget;
     m_list->setObjectName(QStringLiteral("eventList"));
+    m_list->setAccessibleName(tr("Panel events"));
     m_list->setSelectionMode(QAbstractItemView::NoSelection);
     m_list->setFocusPolicy(Qt::NoFocus);
     m_list->setFrameShape(QFrame::NoFrame);

@@ -7,6 +7,7 @@
 #include "samplehost/print/printqueue.h"
 #include "samplehost/printing/printprogressdialog.h"
 #include "samplehost/simulator/supplysimulator.h"
+#include "samplehost/window/combolists.h"
 #include "samplehost/window/errormessages.h"
 #include "samplehost/window/eventlog.h"
 #include "samplehost/window/messagebox.h"
@@ -41,6 +42,7 @@ MainWindow::MainWindow(const HostOptions& options, QWidget* parent)
     statusBar()->showMessage(m_dataSourceProblem.isEmpty()
                                  ? m_labelPage->design().sourceDescription()
                                  : m_dataSourceProblem);
+    nameComboLists(*this);
     resize(windowSize);
 }
 

@@ -24,6 +24,7 @@ void MainWindow::createPages(const HostOptions& options)
 {
     m_pages = new QTabWidget;
     m_pages->setDocumentMode(true);
+    m_pages->setAccessibleName(tr("Pages"));
     setCentralWidget(m_pages);
     auto source = RecordSource::open(m_dataSource, &m_dataSourceProblem);
     m_settings.setDataFile(RecordSource::filePath(m_dataSource));

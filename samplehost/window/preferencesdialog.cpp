@@ -5,6 +5,7 @@
 
 #include "samplehost/pages/nupcombo.h"
 #include "samplehost/printing/hostsettings.h"
+#include "samplehost/window/combolists.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -42,6 +43,7 @@ PreferencesDialog::PreferencesDialog(HostSettings& settings, QWidget* parent)
     connect(m_buttons, &QDialogButtonBox::accepted, this, &PreferencesDialog::accept);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &PreferencesDialog::reject);
     checkEntries();
+    nameComboLists(*this);
 }
 
 void PreferencesDialog::createWidgets()
@@ -89,7 +91,9 @@ void PreferencesDialog::addFolderRow(QFormLayout* form)
     auto* row = new QHBoxLayout;
     row->addWidget(m_folderEdit, 1);
     row->addWidget(browse);
-    form->addRow(tr("Output folder:"), row);
+    auto* label = new QLabel(tr("Output folder:"));
+    label->setBuddy(m_folderEdit);
+    form->addRow(label, row);
 }
 
 void PreferencesDialog::chooseFolder()
