@@ -17,8 +17,10 @@ class QScrollArea;
 /**
  * A grid of touch-sized colour swatches, at most one of which is checked.
  *
- * The user selects a swatch with the mouse, or with the arrow keys and Space, Return or Enter. Each
- * entry is a button inside the menu whose object name is its colour code.
+ * The user selects a swatch with the mouse, or with the keyboard: Tab goes to the selected swatch,
+ * or the first one, and out of the menu again; the arrow keys, Home and End move inside it; Space,
+ * Return and Enter select. Each entry is a button inside the menu whose object name is its colour
+ * code.
  */
 class HOSTKIT_EXPORT ColorMenu : public QWidget
 {
@@ -42,7 +44,8 @@ public:
      * after the first 256 valid ones. If the selected colour is among the new entries, it stays
      * selected.
      *
-     * Emits no signal. May be called from a slot connected to colorSignal().
+     * If an entry has the focus, an entry of the new palette gets it. Emits no signal. May be
+     * called from a slot connected to colorSignal().
      */
     void setColorPalette(QList<QString> names, QList<QString> codes);
 
@@ -78,6 +81,10 @@ private:
     void updateExtent();
     void pick(HostKit::ColorSwatch* swatch);
     bool moveFocus(HostKit::ColorSwatch* from, int key);
+    QWidget* controlBefore() const;
+    void addToTabOrder(QWidget* before);
+    HostKit::ColorSwatch* tabStop(const QWidget* focused) const;
+    void updateTabStop(const QWidget* focused);
     QList<HostKit::ColorSwatch*> shownSwatches() const;
 
     QScrollArea* m_scrollArea = nullptr;

@@ -6,6 +6,7 @@
 #include "colorswatch.h"
 #include "colortext.h"
 
+#include <QtCore/QPointer>
 #include <QtGui/QColor>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QGridLayout>
@@ -75,6 +76,11 @@ void ColorMenu::setColorPalette(QList<QString> names, QList<QString> codes)
     if (codes.isEmpty())
         codes.swap(names);
     const qsizetype count = named ? qMin(names.size(), codes.size()) : codes.size();
+    const bool hadFocus = isAncestorOf(window()->focusWidget());
+    const QPointer<QWidget> before = controlBefore();
+    // Hiding the old entry would give the focus to an editor of the host for a moment.
+    if (hadFocus)
+        setFocus(Qt::OtherFocusReason);
     replaceContents();
     for (qsizetype i = 0; i < count && m_swatches.size() < maxEntries; ++i) {
         const QString& code = codes.at(i);
@@ -82,7 +88,11 @@ void ColorMenu::setColorPalette(QList<QString> names, QList<QString> codes)
             addSwatch(named ? names.at(i) : knownName(code), code);
     }
     arrangeSwatches();
+    addToTabOrder(before);
     updateSelectedColor(m_selectedColor);
+    ColorSwatch* stop = hadFocus ? tabStop(nullptr) : nullptr;
+    if (stop)
+        stop->setFocus(Qt::OtherFocusReason);
 }
 
 void ColorMenu::updateSelectedColor(QString color)
@@ -94,6 +104,7 @@ void ColorMenu::updateSelectedColor(QString color)
         swatch->setChecked(checked);
         found = found || checked;
     }
+    updateTabStop(window()->focusWidget());
 }
 
 void ColorMenu::setTransparentColorVisible(bool visible)
@@ -120,12 +131,17 @@ void ColorMenu::showEvent(QShowEvent* event)
 bool ColorMenu::eventFilter(QObject* watched, QEvent* event)
 {
     auto* swatch = qobject_cast<ColorSwatch*>(watched);
+    if (swatch && event->type() == QEvent::FocusIn)
+        updateTabStop(swatch);
+    if (swatch && event->type() == QEvent::FocusOut)
+        updateTabStop(nullptr);
     if (!swatch || event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(watched, event);
     const auto* keyEvent = static_cast<QKeyEvent*>(event);
     if (keyEvent->key() == Qt::Key_Return || keyEvent->key() == Qt::Key_Enter) {
         event->accept();
-        swatch->click();
+        if (!keyEvent->isAutoRepeat())
+            swatch->click();
         return true;
     }
     return moveFocus(swatch, keyEvent->key());
@@ -192,6 +208,7 @@ void ColorMenu::arrangeSwatches()
         grid->setColumnMinimumWidth(column, ColorSwatch::touchSize);
         grid->setColumnStretch(column, 1);
     }
+    updateTabStop(window()->focusWidget());
     updateExtent();
 }
 
@@ -223,10 +240,53 @@ void ColorMenu::pick(ColorSwatch* swatch)
     Q_EMIT colorSignal(code);
 }
 
+// The control that Tab visits before the menu. Null if there is none.
+QWidget* ColorMenu::controlBefore() const
+{
+    const QWidget* first = m_swatches.isEmpty() ? this : static_cast<QWidget*>(m_swatches.first());
+    QWidget* before = first->previousInFocusChain();
+    while (before != first && (isAncestorOf(before) || before->focusPolicy() == Qt::NoFocus ||
+                               before->window() != window()))
+        before = before->previousInFocusChain();
+    return before == first || before == this ? nullptr : before;
+}
+
+// Otherwise the entries of a new palette would be the last in the window.
+void ColorMenu::addToTabOrder(QWidget* before)
+{
+    for (ColorSwatch* swatch : std::as_const(m_swatches)) {
+        if (before)
+            setTabOrder(before, swatch);
+        before = swatch;
+    }
+}
+
+// The entry that Tab goes to: the one that has the focus, else the selected one, else the first.
+ColorSwatch* ColorMenu::tabStop(const QWidget* focused) const
+{
+    const QList<ColorSwatch*> shown = shownSwatches();
+    ColorSwatch* stop = shown.value(0);
+    for (ColorSwatch* swatch : shown) {
+        if (swatch == focused)
+            return swatch;
+        if (swatch->isChecked())
+            stop = swatch;
+    }
+    return stop;
+}
+
+void ColorMenu::updateTabStop(const QWidget* focused)
+{
+    const ColorSwatch* stop = tabStop(focused);
+    for (ColorSwatch* swatch : std::as_const(m_swatches))
+        swatch->setFocusPolicy(swatch == stop ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
 bool ColorMenu::moveFocus(ColorSwatch* from, int key)
 {
+    const QList<ColorSwatch*> shown = shownSwatches();
     const int forward = isRightToLeft() ? -1 : 1;
-    int step = 0;
+    qsizetype step = 0;
     switch (key) {
     case Qt::Key_Left:
         step = -forward;
@@ -240,10 +300,15 @@ bool ColorMenu::moveFocus(ColorSwatch* from, int key)
     case Qt::Key_Down:
         step = columns;
         break;
+    case Qt::Key_Home:
+        step = -shown.indexOf(from);
+        break;
+    case Qt::Key_End:
+        step = shown.size() - 1 - shown.indexOf(from);
+        break;
     default:
         return false;
     }
-    const QList<ColorSwatch*> shown = shownSwatches();
     const qsizetype target = shown.indexOf(from) + step;
     if (target >= 0 && target < shown.size()) {
         shown.at(target)->setFocus(Qt::OtherFocusReason);

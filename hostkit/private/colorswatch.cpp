@@ -89,10 +89,18 @@ void ColorSwatch::paintEvent(QPaintEvent*)
     painter.drawPath(rounded(field, cornerRadius - 1));
     if (isChecked())
         paintCheckMark(&painter, field);
-    if (hasFocus()) {
-        painter.setPen(QPen(QColor(0x06, 0x06, 0x06), 1, Qt::DotLine));
-        painter.drawPath(rounded(frame.adjusted(-0.5, -0.5, 0.5, 0.5), cornerRadius + 1));
-    }
+    if (hasFocus())
+        paintFocus(&painter);
+}
+
+// Dark and light, so that it stands out from the colour and from what is around.
+void ColorSwatch::paintFocus(QPainter* painter) const
+{
+    const QRectF edge(rect());
+    painter->setPen(QPen(Qt::white, 2));
+    painter->drawPath(rounded(edge.adjusted(3, 3, -3, -3), cornerRadius - 1));
+    painter->setPen(QPen(QColor(0x06, 0x06, 0x06), 2));
+    painter->drawPath(rounded(edge.adjusted(1, 1, -1, -1), cornerRadius + 1));
 }
 
 void ColorSwatch::paintCheckMark(QPainter* painter, const QRectF& field) const

@@ -35,6 +35,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void paintFocus(QPainter* painter) const;
     void paintCheckMark(QPainter* painter, const QRectF& field) const;
 
     QString m_code;

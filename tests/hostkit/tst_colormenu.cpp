@@ -11,6 +11,7 @@
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QDialog>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QScrollBar>
@@ -46,6 +47,16 @@ private Q_SLOTS:
     void enterDoesNotReachTheDialog();
     void arrowKeysStayInTheMenu_data();
     void arrowKeysStayInTheMenu();
+    void homeAndEndGoToTheEnds();
+    void heldReturnPicksOnce();
+    void tabStopsOnce_data();
+    void tabStopsOnce();
+    void tabGoesToTheSelectedEntryAgain();
+    void newPaletteKeepsItsPlaceForTab();
+    void newPaletteKeepsTheFocus_data();
+    void newPaletteKeepsTheFocus();
+    void focusIsVisibleOnEveryColor_data();
+    void focusIsVisibleOnEveryColor();
     void paletteMayChangeWhileTheSignalIsDelivered();
     void replacedEntriesGoWithTheMenu();
     void menuMayBeDeletedWhileTheSignalIsDelivered_data();
@@ -105,6 +116,28 @@ struct Menu : ColorMenu
     QAbstractButton* swatch(const QString& code) const { return findChild<QAbstractButton*>(code); }
 
     void click(const QString& code) { QTest::mouseClick(swatch(code), Qt::LeftButton); }
+};
+
+/** A menu between two edits, in a window that has the keyboard. */
+struct MenuInAWindow
+{
+    MenuInAWindow()
+    {
+        auto* layout = new QVBoxLayout(&window);
+        for (QWidget* widget : {static_cast<QWidget*>(&before), static_cast<QWidget*>(&menu),
+                                static_cast<QWidget*>(&after)})
+            layout->addWidget(widget);
+        window.show();
+        window.activateWindow();
+    }
+
+    bool isReady() { return QTest::qWaitForWindowActive(&window); }
+    void press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
+
+    QWidget window;
+    QLineEdit before;
+    QLineEdit after;
+    Menu menu{defaults};
 };
 
 QList<QString> manyCodes(int count)
@@ -424,6 +457,171 @@ void TestColorMenu::arrowKeysStayInTheMenu()
     swatch->setFocus();
     QTest::keyClick(swatch, Qt::Key(key));
     QCOMPARE(QApplication::focusWidget(), swatch);
+}
+
+void TestColorMenu::homeAndEndGoToTheEnds()
+{
+    MenuInAWindow host;
+    QVERIFY(host.isReady());
+    host.menu.swatch(defaults.at(4))->setFocus();
+    host.press(Qt::Key_End);
+    // "transparent" is the last of the palette, but not shown.
+    QCOMPARE(QApplication::focusWidget(), host.menu.swatch(defaults.at(8)));
+    host.press(Qt::Key_End);
+    QCOMPARE(QApplication::focusWidget(), host.menu.swatch(defaults.at(8)));
+    host.press(Qt::Key_Home);
+    QCOMPARE(QApplication::focusWidget(), host.menu.swatch(defaults.at(0)));
+    QCOMPARE(host.menu.checkedCodes(), QList<QString>());
+}
+
+void TestColorMenu::heldReturnPicksOnce()
+{
+    MenuInAWindow host;
+    QVERIFY(host.isReady());
+    QSignalSpy picked(&host.menu, SIGNAL(colorSignal(QString)));
+    QAbstractButton* swatch = host.menu.swatch(defaults.at(2));
+    swatch->setFocus();
+    QTest::keyPress(swatch, Qt::Key_Return);
+    for (int i = 0; i < 3; ++i) {
+        QKeyEvent again(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
+        QCoreApplication::sendEvent(swatch, &again);
+    }
+    QCOMPARE(picked.count(), 1);
+}
+
+void TestColorMenu::tabStopsOnce_data()
+{
+    addColumns<QString, QString>("selected", "stop");
+    addRow("nothing selected", QString(), defaults.constFirst());
+    addRow("an entry selected", defaults.at(5), defaults.at(5));
+    addRow("a hidden entry selected", QStringLiteral("transparent"), defaults.constFirst());
+    addRow("what is no entry selected", QStringLiteral("#010203"), defaults.constFirst());
+}
+
+void TestColorMenu::tabStopsOnce()
+{
+    QFETCH(const QString, selected);
+    QFETCH(const QString, stop);
+    MenuInAWindow host;
+    QVERIFY(host.isReady());
+    host.menu.updateSelectedColor(selected);
+    host.before.setFocus();
+    host.press(Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), host.menu.swatch(stop));
+    host.press(Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), &host.after);
+    host.press(Qt::Key_Backtab);
+    QCOMPARE(QApplication::focusWidget(), host.menu.swatch(stop));
+    host.press(Qt::Key_Backtab);
+    QCOMPARE(QApplication::focusWidget(), &host.before);
+}
+
+// Also out of the entry that the arrow keys or the mouse went to.
+void TestColorMenu::tabGoesToTheSelectedEntryAgain()
+{
+    MenuInAWindow host;
+    QVERIFY(host.isReady());
+    host.menu.updateSelectedColor(defaults.at(1));
+    host.before.setFocus();
+    host.press(Qt::Key_Tab);
+    host.press(Qt::Key_Right);
+    host.press(Qt::Key_Right);
+    QCOMPARE(QApplication::focusWidget(), host.menu.swatch(defaults.at(3)));
+    host.press(Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), &host.after);
+    host.press(Qt::Key_Backtab);
+    QCOMPARE(QApplication::focusWidget(), host.menu.swatch(defaults.at(1)));
+
+    host.menu.click(defaults.at(6));
+    QCOMPARE(QApplication::focusWidget(), host.menu.swatch(defaults.at(6)));
+    host.press(Qt::Key_Backtab);
+    QCOMPARE(QApplication::focusWidget(), &host.before);
+    host.press(Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), host.menu.swatch(defaults.at(6)));
+}
+
+void TestColorMenu::newPaletteKeepsItsPlaceForTab()
+{
+    MenuInAWindow host;
+    QVERIFY(host.isReady());
+    for (const QList<QString>& palette :
+         {defaults.first(2), defaults, QList<QString>(), defaults.first(3)}) {
+        host.menu.setColorPalette(palette, {});
+        host.before.setFocus();
+        host.press(Qt::Key_Tab);
+        if (!palette.isEmpty()) {
+            QCOMPARE(QApplication::focusWidget(), host.menu.swatch(palette.constFirst()));
+            host.press(Qt::Key_Tab);
+        }
+        QCOMPARE(QApplication::focusWidget(), &host.after);
+    }
+}
+
+void TestColorMenu::newPaletteKeepsTheFocus_data()
+{
+    addColumns<QList<QString>, bool>("palette", "byTheHandler");
+    addRow("by the host", defaults.first(3), false);
+    addRow("in the handler", defaults.first(3), true);
+    addRow("an empty one", QList<QString>(), false);
+    addRow("an empty one in the handler", QList<QString>(), true);
+}
+
+void TestColorMenu::newPaletteKeepsTheFocus()
+{
+    QFETCH(const QList<QString>, palette);
+    QFETCH(const bool, byTheHandler);
+    MenuInAWindow host;
+    QVERIFY(host.isReady());
+    host.menu.swatch(defaults.at(1))->setFocus();
+    if (byTheHandler) {
+        connect(&host.menu, &ColorMenu::colorSignal, this,
+                [&] { host.menu.setColorPalette(palette, {}); });
+        host.press(Qt::Key_Space);
+    } else {
+        host.menu.setColorPalette(palette, {});
+    }
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    if (!palette.isEmpty()) {
+        const int expected = byTheHandler ? 1 : 0; // what was picked is selected
+        QCOMPARE(QApplication::focusWidget(), host.menu.swatch(palette.at(expected)));
+    }
+
+    host.before.setFocus();
+    host.menu.setColorPalette(defaults, {});
+    QCOMPARE(QApplication::focusWidget(), &host.before);
+}
+
+void TestColorMenu::focusIsVisibleOnEveryColor_data()
+{
+    addColumns<QString, bool>("code", "checked");
+    for (const QString& code : defaults) {
+        addRow(qPrintable(code), code, false);
+        addRow(qPrintable(code + QLatin1String(", selected")), code, true);
+    }
+}
+
+// A dark line and a light one, each wide enough to be seen.
+void TestColorMenu::focusIsVisibleOnEveryColor()
+{
+    QFETCH(const QString, code);
+    QFETCH(const bool, checked);
+    MenuInAWindow host;
+    QVERIFY(host.isReady());
+    host.menu.setTransparentColorVisible(true);
+    if (checked)
+        host.menu.updateSelectedColor(code);
+    QAbstractButton* swatch = host.menu.swatch(code);
+    swatch->setFocus();
+    const QImage picture = swatch->grab().toImage();
+    int dark = 0;
+    int light = 0;
+    for (int x = 0; x < 5; ++x) {
+        const int level = qGray(picture.pixel(x, picture.height() / 2));
+        dark += level < 40 ? 1 : 0;
+        light += level > 230 && dark > 0 ? 1 : 0;
+    }
+    QVERIFY(dark >= 2);
+    QVERIFY(light >= 1);
 }
 
 void TestColorMenu::paletteMayChangeWhileTheSignalIsDelivered()
