@@ -15,6 +15,10 @@
 namespace {
 constexpr int maxHintWidth = 320;
 constexpr int maxMinimumHintWidth = 120;
+// What the style leaves free on either side of the text.
+constexpr int textMargin = 1;
+// By which a text is wider than its bounding rectangle, which QComboBox measures.
+constexpr int overhang = 2;
 // More than a combo box can show. Keeps painting fast if the host sets a megabyte of text.
 constexpr qsizetype maxTextLength = 1000;
 
@@ -49,7 +53,7 @@ JxComboBox::~JxComboBox() = default;
 QSize JxComboBox::sizeHint() const
 {
     const QSize hint = QComboBox::sizeHint();
-    return QSize(qMin(hint.width(), maxHintWidth), hint.height());
+    return QSize(qMin(hint.width() + 2 * textMargin + overhang, maxHintWidth), hint.height());
 }
 
 QSize JxComboBox::minimumSizeHint() const
@@ -115,8 +119,9 @@ void JxComboBox::paintEvent(QPaintEvent*)
             .width();
     if (!option.currentIcon.isNull())
         availableWidth -= option.iconSize.width() + 4;
-    option.currentText = option.fontMetrics.elidedText(
-        singleLine(option.currentText.left(maxTextLength)), Qt::ElideRight, availableWidth - 2);
+    option.currentText =
+        option.fontMetrics.elidedText(singleLine(option.currentText.left(maxTextLength)),
+                                      Qt::ElideRight, availableWidth - 2 * textMargin);
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 

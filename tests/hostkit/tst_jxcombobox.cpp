@@ -36,6 +36,8 @@ private Q_SLOTS:
     void textThatDoesNotFitIsTheItemsToolTip();
     void toolTipsWorkInAReplacedList();
     void endlessToolTipIsCutOff();
+    void hintHasRoomForTheWholeText_data();
+    void hintHasRoomForTheWholeText();
     void longTextIsElidedAndStretchesNothing();
     void onlyTheBeginningOfATextIsPainted();
     void lineBreaksAreShownAsBlanks();
@@ -275,6 +277,39 @@ void TestJxComboBox::endlessToolTipIsCutOff()
         QVERIFY(!tip->grab().isNull());
     }
     QCOMPARE(window.combo->toolTip().size(), 1000000);
+}
+
+void TestJxComboBox::hintHasRoomForTheWholeText_data()
+{
+    addColumns<QString>("styleSheet");
+    addRow("plain", QString());
+    addRow("with a sheet",
+           QStringLiteral("QComboBox { border: 1px solid #c6c6c6; min-height: 35px; }"
+                          "QComboBox::drop-down { border: 0px; width: 32px; }"));
+}
+
+void TestJxComboBox::hintHasRoomForTheWholeText()
+{
+    QFETCH(QString, styleSheet);
+    for (const char* text : {"High Pressure Tag", "Vapor", "Tiff", "f"}) {
+        for (int size = 7; size <= 16; ++size) {
+            JxComboBox combo(nullptr);
+            combo.setStyleSheet(styleSheet);
+            QFont font;
+            font.setPointSize(size);
+            combo.setFont(font);
+            combo.addItem(QString::fromLatin1(text));
+            combo.resize(combo.sizeHint());
+            QStyleOptionComboBox option;
+            option.initFrom(&combo);
+            const QRect field = combo.style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                              QStyle::SC_ComboBoxEditField, &combo);
+            const QImage narrow = combo.grab(field).toImage();
+            combo.resize(combo.sizeHint() + QSize(100, 0));
+            QVERIFY2(narrow == combo.grab(field).toImage(),
+                     qPrintable(QStringLiteral("%1, %2 pt").arg(combo.currentText()).arg(size)));
+        }
+    }
 }
 
 void TestJxComboBox::longTextIsElidedAndStretchesNothing()
