@@ -9,6 +9,7 @@
 #include "samplehost/label/catalogpainter.h"
 #include "samplehost/pages/labelview.h"
 #include "samplehost/printing/hostsettings.h"
+#include "samplehost/printing/previewcanvas.h"
 
 #include <printpanels-hostkit/jxmoduleinfo.h>
 #include <printpanels/quickprintwidget.h>
@@ -26,8 +27,8 @@ namespace SampleHost {
 
 namespace {
 
-// An odd multiple of the panel's view, which scales without smoothing.
-constexpr QSize picturePixels(600, 600);
+// The size of the panel's preview.
+constexpr QSize previewSize(200, 200);
 
 // Half of the last decimal that the panel shows.
 constexpr double shownTolerance = 0.005;
@@ -52,6 +53,7 @@ CatalogPage::CatalogPage(const HostSettings& settings, QWidget* parent)
     column->addStretch(1);
     setUpLayout(createContents(), holder);
     m_panel->setModule(JxModuleInfo::JxCatalog);
+    m_canvas = new PreviewCanvas(*m_panel, previewSize);
     connectPanel();
     connect(m_items, &QListWidget::currentRowChanged, this, &CatalogPage::selectItem);
     connect(&settings, &HostSettings::changed, this, &CatalogPage::showSize);
@@ -121,6 +123,7 @@ void CatalogPage::connectPanel()
     connect(m_panel, &QuickPrintWidget::widgetPrintSignal, this, &CatalogPage::showPendingSize);
     connect(m_panel, &QuickPrintWidget::openModuleSignal, this,
             [this] { Q_EMIT editorRequested(m_design.currentItem(), m_design.sizeMm()); });
+    connect(m_canvas, &PreviewCanvas::fitChanged, this, &CatalogPage::showPreview);
 }
 
 void CatalogPage::setCurrentItem(int index)
@@ -177,11 +180,17 @@ void CatalogPage::resizeItem(const QSizeF& canvasSize)
     Q_EMIT sizeRefused(problem);
 }
 
-void CatalogPage::showItem()
+void CatalogPage::showPreview()
 {
     PrintRequest request;
     m_design.complete(request);
-    m_panel->updateQuickPrint(renderFirstSheet(m_design, request, picturePixels));
+    const ScreenFit& fit = m_canvas->fit();
+    m_panel->updateQuickPrint(fit.picture(renderFirstSheet(m_design, request, fit.room())));
+}
+
+void CatalogPage::showItem()
+{
+    showPreview();
     m_view->setSheet(m_design.sizeMm(), [item = m_design.currentItem(), size = m_design.sizeMm()](
                                             QPainter& painter, const QRectF& paper) {
         paintCatalogItem(painter, paper, item, size);

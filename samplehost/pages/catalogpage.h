@@ -19,6 +19,7 @@ namespace SampleHost {
 
 class HostSettings;
 class LabelView;
+class PreviewCanvas;
 
 /** The page of catalogue items: ready-made signs, printed in a size that the user chooses. */
 class CatalogPage : public HostPage
@@ -57,6 +58,7 @@ private:
     void resizeItem(const QSizeF& canvasSize);
     void restoreSize();
     void showItem();
+    void showPreview();
     void showSize();
     void showPrinter();
     void showPendingSize();
@@ -66,6 +68,7 @@ private:
     CatalogDesign m_design;
     const HostSettings& m_settings;
     QuickPrintWidget* m_panel = nullptr;
+    PreviewCanvas* m_canvas = nullptr;
     PrintController* m_controller = nullptr;
     LabelView* m_view = nullptr;
     QListWidget* m_items = nullptr;

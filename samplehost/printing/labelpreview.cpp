@@ -7,6 +7,7 @@
 #include "samplehost/designs/lengthunit.h"
 #include "samplehost/designs/requestsheet.h"
 #include "samplehost/printing/hostsettings.h"
+#include "samplehost/printing/previewcanvas.h"
 #include "samplehost/printing/printcontroller.h"
 
 #include <printpanels/printpreviewdialog.h>
@@ -21,10 +22,8 @@ namespace {
 // The value of the popup's orientation signal for portrait.
 constexpr int portraitOrientation = 1;
 
-// The popup's view has this size. It scales without smoothing: scaled down by an odd factor, it
-// shows the middle pixel of each block. A larger image shows more details when the user zooms in.
-constexpr QSize viewPixels(832, 381);
-constexpr QSize picturePixels = viewPixels * 3;
+// The size of the popup's preview.
+constexpr QSize previewSize(832, 381);
 
 } // namespace
 
@@ -57,9 +56,8 @@ void LabelPreview::open(const PrintRequest& request)
     m_shown = request;
     if (m_popup == nullptr) {
         createPopup();
-    } else {
-        showRequest();
     }
+    showRequest();
     showReadiness();
     if (!m_popup->isVisible()) {
         m_focusBefore = QApplication::focusWidget();
@@ -72,11 +70,11 @@ void LabelPreview::open(const PrintRequest& request)
 
 void LabelPreview::createPopup()
 {
-    m_popup = new PrintPreviewDialog(m_page.window(), Qt::Dialog | Qt::FramelessWindowHint,
-                                     renderFirstSheet(m_design, m_shown, picturePixels),
-                                     designSize(), printedSize(), !m_design.hasDesignSize(),
-                                     m_portrait, m_settings.isMetric(), m_shown.sequenceStart,
-                                     m_shown.sequenceEnd, m_shown.customRecordsList);
+    m_popup = new PrintPreviewDialog(
+        m_page.window(), Qt::Dialog | Qt::FramelessWindowHint, QImage(), designSize(),
+        printedSize(), !m_design.hasDesignSize(), m_portrait, m_settings.isMetric(),
+        m_shown.sequenceStart, m_shown.sequenceEnd, m_shown.customRecordsList);
+    m_canvas = new PreviewCanvas(*m_popup, previewSize);
     m_popup->setWindowTitle(tr("Print Preview"));
     addShortcuts();
     connectPopup();
@@ -101,12 +99,14 @@ void LabelPreview::connectPopup()
     connect(m_popup, &Popup::previewPrintSignal, this, &LabelPreview::print);
     connect(m_popup, &Popup::orientationChangedSignal, this, &LabelPreview::turn);
     connect(m_popup, &Popup::popupHideSignal, this, &LabelPreview::restoreFocus);
+    connect(m_canvas, &PreviewCanvas::fitChanged, this, &LabelPreview::showRequest);
 }
 
 void LabelPreview::showRequest()
 {
-    m_popup->updatePreview(renderFirstSheet(m_design, m_shown, picturePixels), designSize(),
-                           printedSize(), !m_design.hasDesignSize(), m_portrait,
+    const ScreenFit& fit = m_canvas->fit();
+    m_popup->updatePreview(fit.picture(renderFirstSheet(m_design, m_shown, fit.room())),
+                           designSize(), printedSize(), !m_design.hasDesignSize(), m_portrait,
                            m_settings.isMetric(), m_shown.sequenceStart, m_shown.sequenceEnd,
                            m_shown.customRecordsList);
 }

@@ -17,6 +17,7 @@ namespace SampleHost {
 
 class HostSettings;
 class LabelDesign;
+class PreviewCanvas;
 class PrintController;
 
 /**
@@ -62,6 +63,8 @@ private:
     const HostSettings& m_settings;
     QWidget& m_page;
     QPointer<PrintPreviewDialog> m_popup;
+    // The preview in the popup, which owns this.
+    PreviewCanvas* m_canvas = nullptr;
     QPointer<QShortcut> m_printShortcut;
     QPointer<QWidget> m_focusBefore;
     // As the panel requested it, and in the orientation that is shown.

@@ -6,6 +6,7 @@
 #include "samplehost/pdf/pdfdocument.h"
 #include "samplehost/pdf/pdfprinting.h"
 #include "samplehost/printing/hostsettings.h"
+#include "samplehost/printing/previewcanvas.h"
 #include "samplehost/printing/printerdirectory.h"
 
 #include <printpanels-hostkit/jxmoduleinfo.h>
@@ -22,8 +23,8 @@ namespace SampleHost {
 namespace {
 
 constexpr bool fitAtStart = true;
-// Twice the size of the view: enough to zoom in, and small text stays legible without smoothing.
-constexpr int imageSide = 920;
+// The size of the window's preview.
+constexpr QSize previewSize(682, 453);
 
 } // namespace
 
@@ -34,6 +35,8 @@ PdfPreview::PdfPreview(HostSettings& settings, const PrinterDirectory& printers,
     m_panel = new MultiPagePrintWidget(fitAtStart, false, nullptr);
     m_panel->setModule(JxModuleInfo::PDFViewer);
     m_dialog = new MultiPagePrintDialog(m_panel, parent, Qt::FramelessWindowHint | Qt::Dialog);
+    m_canvas = new PreviewCanvas(*m_dialog, previewSize);
+    connect(m_canvas, &PreviewCanvas::fitChanged, this, &PdfPreview::updateImage);
     connectPanel();
     connectOptions();
     addShortcuts();
@@ -156,10 +159,11 @@ void PdfPreview::updateImage()
 {
     // Rendering while the window is hidden would only slow the host down.
     if (m_dialog->isVisible()) {
+        const ScreenFit& fit = m_canvas->fit();
         const bool any = m_document && m_shownPage > 0;
-        m_dialog->setPreviewImage(any ? previewPdfSheet(*m_document, request(), m_shownPage - 1,
-                                                        QSize(imageSide, imageSide))
-                                      : QImage());
+        m_dialog->setPreviewImage(
+            any ? fit.picture(previewPdfSheet(*m_document, request(), m_shownPage - 1, fit.room()))
+                : QImage());
     }
 }
 

@@ -18,6 +18,7 @@ namespace SampleHost {
 
 class HostSettings;
 class PdfDocument;
+class PreviewCanvas;
 class PrinterDirectory;
 
 /**
@@ -81,6 +82,7 @@ private:
     const PrinterDirectory& m_printers;
     MultiPagePrintWidget* m_panel = nullptr;
     MultiPagePrintDialog* m_dialog = nullptr;
+    PreviewCanvas* m_canvas = nullptr;
     std::shared_ptr<const PdfDocument> m_document;
     PdfPrintRequest m_options;
     int m_shownPage = 1;
