@@ -25,7 +25,9 @@ static void paintLabel(QPainter& painter, const QSizeF& size)
 
 static QImage renderLabel(const QSizeF& size)
 {
-    QImage image((size * 200).toSize(), QImage::Format_RGB32);
+    // In the pixels of the panel's preview, which scales without smoothing.
+    const QSizeF preview = size.scaled(200, 200, Qt::KeepAspectRatio);
+    QImage image((preview * qApp->devicePixelRatio()).toSize(), QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
     paintLabel(painter, size);
