@@ -6,7 +6,9 @@
 
 #include <QtCore/QFile>
 #include <QtCore/QLibrary>
+#include <QtGui/QAccessible>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QWidget>
 
 #include <algorithm>
 #include <limits>
@@ -22,6 +24,7 @@ private Q_SLOTS:
 
     void imagesAreThereWhileTheLibraryIsLoaded();
     void loadingAgainNeedsNoMoreMemory();
+    void assistiveTechnologyAsksThePanelsWhileTheyAreLoaded();
 
 private:
     void loadAndUnload();
@@ -105,6 +108,22 @@ void tst_LibraryReload::loadingAgainNeedsNoMoreMemory()
     }
     const QByteArray grown = QByteArray::number(least);
     QVERIFY2(least <= mostPerCycle, grown.constData());
+}
+
+// Qt asks the library for every object that assistive technology looks at.
+void tst_LibraryReload::assistiveTechnologyAsksThePanelsWhileTheyAreLoaded()
+{
+    for (int cycle = 0; cycle < cycles; ++cycle) {
+        QLibrary probe(QStringLiteral(PROBE_LIBRARY));
+        QVERIFY2(probe.load(), qPrintable(probe.errorString()));
+        const auto previewRole = reinterpret_cast<int (*)()>(probe.resolve("previewRole"));
+        QVERIFY(previewRole);
+        QCOMPARE(previewRole(), int(QAccessible::Graphic));
+        QVERIFY2(probe.unload(), qPrintable(probe.errorString()));
+        QVERIFY(!panelsHaveImages());
+        QWidget widget;
+        QVERIFY(QAccessible::queryAccessibleInterface(&widget));
+    }
 }
 
 QTEST_MAIN(tst_LibraryReload)
