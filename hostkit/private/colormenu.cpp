@@ -7,6 +7,7 @@
 #include "colortext.h"
 
 #include <QtCore/QPointer>
+#include <QtCore/QSignalBlocker>
 #include <QtGui/QColor>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QGridLayout>
@@ -21,6 +22,13 @@ constexpr int columns = 6;
 constexpr int maxVisibleRows = 4;
 constexpr int gap = 6;
 constexpr int margin = 4;
+
+// Without the signal, which then tells of assistive technology only.
+void setChecked(ColorSwatch* swatch, bool checked)
+{
+    const QSignalBlocker blocker(swatch);
+    swatch->setChecked(checked);
+}
 
 // Returns the name of a colour in a palette without names.
 QString knownName(const QString& code)
@@ -101,7 +109,7 @@ void ColorMenu::updateSelectedColor(QString color)
     bool found = false;
     for (ColorSwatch* swatch : std::as_const(m_swatches)) {
         const bool checked = !found && swatch->code() == color;
-        swatch->setChecked(checked);
+        setChecked(swatch, checked);
         found = found || checked;
     }
     updateTabStop(window()->focusWidget());
@@ -151,7 +159,10 @@ void ColorMenu::addSwatch(const QString& name, const QString& code)
 {
     auto* swatch = new ColorSwatch(name, code, m_scrollArea->widget());
     swatch->installEventFilter(this);
-    connect(swatch, &ColorSwatch::clicked, this, [this, swatch] { pick(swatch); });
+    const auto pickSwatch = [this, swatch] { pick(swatch); };
+    connect(swatch, &ColorSwatch::clicked, this, pickSwatch);
+    // Qt toggles a checkable button for assistive technology instead of clicking it.
+    connect(swatch, &ColorSwatch::toggled, this, pickSwatch);
     m_swatches.append(swatch);
 }
 
@@ -235,7 +246,7 @@ void ColorMenu::pick(ColorSwatch* swatch)
     const QString code = swatch->code();
     m_selectedColor = code;
     for (ColorSwatch* other : std::as_const(m_swatches))
-        other->setChecked(other == swatch);
+        setChecked(other, other == swatch);
     // Must come last: a slot may delete the menu.
     Q_EMIT colorSignal(code);
 }

@@ -64,6 +64,8 @@ bool ColorSwatch::event(QEvent* event)
     return DragScrollButton::event(event);
 }
 
+void ColorSwatch::nextCheckState() {}
+
 void ColorSwatch::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);

@@ -32,6 +32,8 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    /** Does nothing: the menu checks the swatch that is picked. */
+    void nextCheckState() override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

@@ -8,6 +8,7 @@
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QPointer>
+#include <QtGui/QAccessible>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QDialog>
@@ -32,6 +33,8 @@ private Q_SLOTS:
     void invalidCodesAreLeftOut();
     void knownCodesGetNames_data();
     void knownCodesGetNames();
+    void codeDescribesAnEntryToScreenReaders();
+    void assistiveTechnologyPicks();
     void toolTipIsShownLetterForLetter();
     void transparentEntryIsHiddenUntilItIsAskedFor();
     void transparentChoiceOutlivesThePalette();
@@ -249,6 +252,37 @@ void TestColorMenu::knownCodesGetNames()
     Menu menu({code});
     QCOMPARE(menu.swatch(code)->toolTip(), name);
     QCOMPARE(menu.swatch(code)->accessibleName(), name);
+}
+
+void TestColorMenu::codeDescribesAnEntryToScreenReaders()
+{
+    Menu menu({QStringLiteral("Cherry"), QString()},
+              {QStringLiteral("#dc0b0b"), QStringLiteral("#0018a8")});
+    const auto read = [&menu](const char* code, QAccessible::Text type) {
+        return QAccessible::queryAccessibleInterface(menu.swatch(QString::fromLatin1(code)))
+            ->text(type);
+    };
+    QCOMPARE(read("#dc0b0b", QAccessible::Name), QStringLiteral("Cherry"));
+    QCOMPARE(read("#dc0b0b", QAccessible::Description), QStringLiteral("#dc0b0b"));
+    QCOMPARE(read("#0018a8", QAccessible::Name), QStringLiteral("#0018a8"));
+}
+
+void TestColorMenu::assistiveTechnologyPicks()
+{
+    Menu menu({QStringLiteral("#dc0b0b"), QStringLiteral("#0018a8")});
+    menu.updateSelectedColor(QStringLiteral("#dc0b0b"));
+    QSignalSpy picked(&menu, &ColorMenu::colorSignal);
+    QAbstractButton* blue = menu.swatch(QStringLiteral("#0018a8"));
+    QAccessibleActionInterface* actions =
+        QAccessible::queryAccessibleInterface(blue)->actionInterface();
+    // The second time, it is selected already.
+    for (int times = 1; times <= 2; ++times) {
+        actions->doAction(QAccessibleActionInterface::toggleAction());
+        QCOMPARE(picked.size(), times);
+        QCOMPARE(picked.last().first().toString(), QStringLiteral("#0018a8"));
+        QVERIFY(blue->isChecked());
+        QVERIFY(!menu.swatch(QStringLiteral("#dc0b0b"))->isChecked());
+    }
 }
 
 void TestColorMenu::toolTipIsShownLetterForLetter()
