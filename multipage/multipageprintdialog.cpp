@@ -5,6 +5,7 @@
 
 #include "foundation/hostkit.h"
 #include "foundation/stylesheets.h"
+#include "foundation/widgets/focusring.h"
 #include "foundation/widgets/windowposition.h"
 #include "multipage/multipageprintdialog_p.h"
 #include "preview/previewview.h"
@@ -49,6 +50,7 @@ void MultiPagePrintDialogPrivate::createDialogLayout()
     column->setSpacing(10);
     column->addWidget(titleBar);
     column->addLayout(row);
+    new FocusRing(q); // for a panel that has none of its own
 
     QObject::connect(titleBar, SIGNAL(closeButtonClicked()), q, SLOT(close()));
     QObject::connect(titleBar, SIGNAL(signalMove(int, int)), q, SLOT(mouseMoveSlot(int, int)));

@@ -5,6 +5,7 @@
 
 #include "foundation/stylesheets.h"
 #include "foundation/widgets/caption.h"
+#include "foundation/widgets/panelfocus.h"
 #include "multipage/multipageprintwidget_p.h"
 
 #include <QtWidgets/QCheckBox>
@@ -46,6 +47,7 @@ void MultiPagePrintWidgetPrivate::createWidgetLayout(bool fitToPage)
     mainLayout->addWidget(q->createSeparatorBar());
     addSpacer();
     mainLayout->addLayout(options.createOptionsLayout(fitToPage));
+    setUpFocus(q);
 }
 
 void MultiPagePrintWidgetPrivate::createTitle()

@@ -6,6 +6,7 @@
 #include "foundation/hostkit.h"
 #include "foundation/stylesheets.h"
 #include "foundation/widgets/choicebutton.h"
+#include "foundation/widgets/panelfocus.h"
 #include "preview/previewview.h"
 
 #include <printpanels/sharedconstants.h>
@@ -198,7 +199,9 @@ void PrintPreviewDialogPrivate::createLayout(QBoxLayout* buttonRow)
 
     auto* whole = new QVBoxLayout;
     whole->setContentsMargins(0, 0, 0, 0);
-    whole->addWidget(createOuterFrame(outer));
+    QFrame* frame = createOuterFrame(outer);
+    setUpFocus(frame);
+    whole->addWidget(frame);
     q->setLayout(whole);
     q->setFixedSize(popupSize);
 }

@@ -7,6 +7,7 @@
 #include "foundation/widgets/accessibleparts.h"
 #include "foundation/widgets/caption.h"
 #include "foundation/widgets/metrics.h"
+#include "foundation/widgets/taborder.h"
 #include "printpanel/supplysection.h"
 
 #include <printpanels/printwidget.h>
@@ -59,6 +60,7 @@ void AmmoniaSection::createAmmoniaLayout()
     ammoniaSeparator->setObjectName(QStringLiteral("ammoniaSeparator"));
     ammoniaSeparator->hide();
     mainLayout->insertWidget(mainLayout->indexOf(ammoniaWidget) + 1, ammoniaSeparator);
+    orderTabs(q);
 }
 
 JxComboBox* AmmoniaSection::createCombo() const

@@ -6,6 +6,7 @@
 #include "foundation/hostkit.h"
 #include "foundation/stylesheets.h"
 #include "foundation/widgets/caption.h"
+#include "foundation/widgets/panelfocus.h"
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QFrame>
@@ -59,6 +60,7 @@ void PrintWidgetPrivate::createWidgetLayout()
     if (printToFile)
         testControls.createPrintToFileLayout(mainLayout);
     createPrintButtonsLayout();
+    setUpFocus(q);
 }
 
 void PrintWidgetPrivate::createTitle()

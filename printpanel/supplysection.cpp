@@ -8,6 +8,7 @@
 #include "foundation/widgets/caption.h"
 #include "foundation/widgets/choicebutton.h"
 #include "foundation/widgets/metrics.h"
+#include "foundation/widgets/taborder.h"
 #include "printpanel/ribbontab.h"
 
 #include <printpanels/printwidget.h>
@@ -288,6 +289,7 @@ void SupplySection::applyPalettes(const QStringList& ribbonColors, const QString
     ribbon1Menu->setColorPalette(ribbonColors, QStringList());
     ribbon2Menu->setColorPalette(ribbonColors, QStringList());
     supplyMenu->setColorPalette(supplyColors, QStringList());
+    orderTabs(q);
 }
 
 void SupplySection::addMenuToStack(int index, const QString& color, const QString& tabText,
@@ -300,6 +302,7 @@ void SupplySection::addMenuToStack(int index, const QString& color, const QStrin
     colorTabBar->setTabColorRect(index, color);
     setTabToolTip(index, toolTip);
     colorStack->insertWidget(index, menu);
+    orderTabs(q);
 }
 
 void SupplySection::updateColorSelection(int index, const QString& color, ColorMenu* menu)

@@ -7,6 +7,7 @@
 #include "foundation/widgets/accessibleparts.h"
 #include "foundation/widgets/caption.h"
 #include "foundation/widgets/metrics.h"
+#include "foundation/widgets/panelfocus.h"
 #include "foundation/widgets/stepbutton.h"
 #include "preview/previewview.h"
 #include "quickprint/wrappedlabel.h"
@@ -80,6 +81,7 @@ void QuickPrintWidgetPrivate::createWidgetLayout()
     mainLayout->addWidget(copiesFrame, 6, 0, 1, 1, Qt::AlignLeft);
     mainLayout->addLayout(buttonRow, 10, 0, 1, 1, Qt::AlignCenter);
     q->setLayout(mainLayout);
+    setUpFocus(q);
 }
 
 // In a panel that is taller than it needs to be, the name stays right below its caption.

@@ -95,7 +95,8 @@ QStringList placesOf(const QWidget& window)
     QStringList lines;
     const QList<QWidget*> children = window.findChildren<QWidget*>();
     for (const QWidget* child : children) {
-        if (!child->isVisible())
+        // Only the window that is active has a focus ring.
+        if (!child->isVisible() || child->inherits("PrintPanels::FocusRing"))
             continue;
         const QRect rect(child->mapTo(&window, QPoint()), child->size());
         QString line = QStringLiteral("%1 %2 %3")

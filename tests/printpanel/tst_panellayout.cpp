@@ -58,9 +58,11 @@ QString describe(const QWidget* widget)
     return text;
 }
 
+/** Whether @p widget is laid out, which the ring on top of the focused control is not. */
 bool isVisiblePart(const QWidget* widget)
 {
-    return widget->isVisible() && !widget->isWindow();
+    return widget->isVisible() && !widget->isWindow() &&
+           !widget->inherits("PrintPanels::FocusRing");
 }
 
 } // namespace
