@@ -30,6 +30,7 @@ QRadioButton* createPictureRadio(const QString& name, const QString& toolTip)
     auto* radio = new ChoiceButton<QRadioButton, QAccessible::RadioButton>;
     radio->setObjectName(name);
     radio->setStyleSheet(StyleSheets::radioButtonIndicator());
+    radio->setMinimumSize(squareButton);
     radio->setToolTip(toolTip);
     radio->setAccessibleName(toolTip);
     return radio;

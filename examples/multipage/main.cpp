@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 // "Preview and Print" for a document of several pages; prints to a PDF file.
+#include <previewinput.h>
 #include <printpanels/multipageprintdialog.h>
 #include <printpanels/multipageprintwidget.h>
 #include <printpanels/recordlist.h>
@@ -20,9 +21,7 @@ static void paintPage(QPainter& painter, int number)
     QFont font;
     font.setPixelSize(60);
     painter.setFont(font);
-    painter.setRenderHint(QPainter::Antialiasing);
     painter.drawText(page, Qt::AlignCenter, QString("Page %1").arg(number));
-    painter.drawRect(page.adjusted(10, 10, -10, -10));
 }
 
 static QImage renderPage(int number)
@@ -65,10 +64,11 @@ int main(int argc, char** argv)
     panel->setFormFillOption(false, false); // the document has no form
     panel->set180OrientationVisible(false);
     const auto show = [&](int n) { dialog.setPreviewImage(n > 0 ? renderPage(n) : QImage()); };
+    new PreviewInput(&dialog, [panel] { panel->checkRangeUpdate(true); }); // keys and fingers
     const auto fit = [&](int state) { fitToPage = state == Qt::Checked; };
     const auto print = [&](int start, int end, const QString& list) {
-        const auto listed = RecordList::expand(list, pageCount).value_or(Ranges());
-        const auto ranges = list.isEmpty() ? Ranges{{start, end}} : listed;
+        const auto ranges = list.isEmpty() ? Ranges{{start, end}}
+                                           : RecordList::expand(list, pageCount).value_or(Ranges());
         printPages(file, ranges, panel->getNumberOfCopies(), fitToPage);
     };
     QObject::connect(panel, &MultiPagePrintWidget::startPageChangedSignal, panel, show);

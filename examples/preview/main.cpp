@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 // The preview popup; prints the records that it was opened for to a PDF file.
+#include <previewinput.h>
 #include <printpanels/printpreviewdialog.h>
 #include <printpanels/recordlist.h>
 
@@ -73,6 +74,7 @@ int main(int argc, char** argv)
     };
     QObject::connect(&popup, &PrintPreviewDialog::orientationChangedSignal, &popup, turn);
     QObject::connect(&popup, &PrintPreviewDialog::previewPrintSignal, &popup, print);
+    new PreviewInput(&popup); // keys and fingers for the picture
     popup.show();
     return QApplication::exec();
 }

@@ -70,6 +70,8 @@ function(expect_no_pdf file)
 endfunction()
 
 run("${CMAKE_COMMAND}" --install "${BUILD_DIR}" --prefix "${WORK_DIR}/install")
+# Is copied with the examples that use it.
+file(COPY "${SOURCE_DIR}/examples/previewinput" DESTINATION "${WORK_DIR}/copied")
 foreach(example IN ITEMS printwidget quickprint preview multipage)
     check_length(${example})
 endforeach()
