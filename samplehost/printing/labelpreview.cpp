@@ -10,6 +10,7 @@
 #include "samplehost/printing/previewcanvas.h"
 #include "samplehost/printing/printcontroller.h"
 
+#include <previewinput.h>
 #include <printpanels/printpreviewdialog.h>
 
 #include <QtGui/QShortcut>
@@ -85,9 +86,7 @@ void LabelPreview::addShortcuts()
 {
     using Popup = PrintPreviewDialog;
     Popup* popup = m_popup;
-    new QShortcut(QKeySequence::ZoomIn, popup, popup, &Popup::zoomIn);
-    new QShortcut(QKeySequence::ZoomOut, popup, popup, &Popup::zoomOut);
-    new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_0), popup, popup, &Popup::zoomFit);
+    new PreviewInput(popup);
     m_printShortcut = new QShortcut(QKeySequence::Print, popup, popup, &Popup::print);
     // The popup emits its signal only if one of its own controls closes it.
     new QShortcut(QKeySequence(Qt::Key_Escape), popup, this, &LabelPreview::dismiss);

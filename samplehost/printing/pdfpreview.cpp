@@ -9,6 +9,7 @@
 #include "samplehost/printing/previewcanvas.h"
 #include "samplehost/printing/printerdirectory.h"
 
+#include <previewinput.h>
 #include <printpanels-hostkit/jxmoduleinfo.h>
 #include <printpanels/multipageprintdialog.h>
 #include <printpanels/multipageprintwidget.h>
@@ -16,6 +17,7 @@
 #include <QtCore/QFileInfo>
 #include <QtGui/QShortcut>
 
+#include <functional>
 #include <utility>
 
 namespace SampleHost {
@@ -73,12 +75,14 @@ void PdfPreview::connectOptions()
 
 void PdfPreview::addShortcuts()
 {
-    const auto add = [this](const QKeySequence& keys, auto&& act) {
-        connect(new QShortcut(keys, m_dialog), &QShortcut::activated, m_panel,
-                std::forward<decltype(act)>(act));
+    new PreviewInput(m_dialog, [this] { updateImage(); });
+    const auto add = [this](const QKeySequence& keys, const std::function<void()>& act) {
+        connect(new QShortcut(keys, m_dialog), &QShortcut::activated, this, act);
     };
-    add(QKeySequence::ZoomIn, &MultiPagePrintWidget::increaseCopyCount);
-    add(QKeySequence::ZoomOut, &MultiPagePrintWidget::decreaseCopyCount);
+    add(Qt::Key_PageUp, [this] { turnTo(m_shownPage - 1); });
+    add(Qt::Key_PageDown, [this] { turnTo(m_shownPage + 1); });
+    add(Qt::CTRL | Qt::Key_Home, [this] { turnTo(1); });
+    add(Qt::CTRL | Qt::Key_End, [this] { turnTo(m_document ? m_document->pageCount() : 1); });
     add(QKeySequence::Print, [this] {
         if (canPrint()) {
             m_panel->printSlot();
@@ -142,6 +146,18 @@ void PdfPreview::show()
     }
     m_dialog->raise();
     m_dialog->activateWindow();
+}
+
+// The current page follows. A choice of other pages stays as it is, so the page is only looked at.
+void PdfPreview::turnTo(int page)
+{
+    if (!m_document || m_shownPage < 1 || page < 1 || page > m_document->pageCount()) {
+        return;
+    }
+    m_panel->updateCurrentRangeIndex(page - 1);
+    if (m_shownPage != page) {
+        showPage(page);
+    }
 }
 
 void PdfPreview::showPage(int page)

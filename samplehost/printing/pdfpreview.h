@@ -23,7 +23,8 @@ class PrinterDirectory;
 
 /**
  * The window "Preview and Print" of a document: fills its panel, shows the first of the selected
- * pages as it will be printed, and handles all signals of the panel but the request to print.
+ * pages as it will be printed, and handles all signals of the panel but the request to print. The
+ * keys Page Up, Page Down, Ctrl+Home and Ctrl+End turn the pages.
  */
 class PdfPreview : public QObject
 {
@@ -69,6 +70,7 @@ private:
     void connectPanel();
     void connectOptions();
     void addShortcuts();
+    void turnTo(int page);
     void showPage(int page);
     void updateImage();
     void updateTitle();

@@ -36,6 +36,9 @@ private Q_SLOTS:
     void settingsButtonOpensThePreferences();
     void emptyCopiesAreCorrected();
     void shortcutsReachThePanel();
+    void keysTurnThePages_data();
+    void keysTurnThePages();
+    void keysTurnNothingWithoutAPage();
     void documentsThatMayNotBePrintedAreNot();
     void eventsAreLogged();
     void everySignalIsLogged();
@@ -308,11 +311,16 @@ void TestPdfPanel::shortcutsReachThePanel()
     QVERIFY(m_host->showDialog());
     QTRY_COMPARE(QApplication::activeWindow(), &m_host->dialog());
     QSignalSpy requests(&m_host->documentPanel(), &MultiPagePrintWidget::widgetPrintSignal);
+    QWidget* view = m_host->widget("PreviewView");
+    const QImage fitted = view->grab().toImage();
     QTest::keyClick(&m_host->dialog(), Qt::Key_Plus, Qt::ControlModifier);
-    QTest::keyClick(&m_host->dialog(), Qt::Key_Plus, Qt::ControlModifier);
-    QCOMPARE(m_host->documentPanel().getNumberOfCopies(), 3);
+    QVERIFY(view->grab().toImage() != fitted);
+    QTest::keyClick(&m_host->dialog(), Qt::Key_0, Qt::ControlModifier);
+    QCOMPARE(view->grab().toImage(), fitted);
     QTest::keyClick(&m_host->dialog(), Qt::Key_Minus, Qt::ControlModifier);
-    QCOMPARE(m_host->documentPanel().getNumberOfCopies(), 2);
+    QVERIFY(view->grab().toImage() != fitted);
+    QCOMPARE(m_host->documentPanel().getNumberOfCopies(), 1);
+    m_host->documentPanel().setNumberOfCopies(2);
     m_host->typePages(QStringLiteral("9"));
     QTest::keyClick(&m_host->dialog(), Qt::Key_P, Qt::ControlModifier);
     QVERIFY(requests.isEmpty());
@@ -320,6 +328,66 @@ void TestPdfPanel::shortcutsReachThePanel()
     QTest::keyClick(&m_host->dialog(), Qt::Key_P, Qt::ControlModifier);
     QCOMPARE(requests.size(), qsizetype(1));
     QTRY_COMPARE(m_host->printedPages(), QStringLiteral("3 3"));
+}
+
+void TestPdfPanel::keysTurnThePages_data()
+{
+    addColumns<QByteArray, QString, QString>("choice", "list", "printed");
+    addRow("current page", QByteArray("currentPageRadio"), QString(), QStringLiteral("4"));
+    addRow("all pages", QByteArray("allPagesRadio"), QString(), QStringLiteral("1 2 3 4"));
+    addRow("list", QByteArray("selectionRadio"), QStringLiteral("2,1"), QStringLiteral("2 1"));
+}
+
+// Whatever is to be printed, the user may look at every page, here and on the host's page.
+void TestPdfPanel::keysTurnThePages()
+{
+    QFETCH(const QByteArray, choice);
+    QFETCH(const QString, list);
+    QFETCH(const QString, printed);
+    QVERIFY(m_host->openNumbered(4));
+    QVERIFY(m_host->showDialog());
+    QTRY_COMPARE(QApplication::activeWindow(), &m_host->dialog());
+    m_host->press(choice.constData());
+    if (!list.isEmpty())
+        m_host->typePages(list);
+    const auto expectPage = [&](int page) {
+        QCOMPARE(m_host->title(), QStringLiteral("in.pdf - page %1 of 4").arg(page));
+        QCOMPARE(m_host->preview().shownPage(), page);
+        QCOMPARE(m_host->navigator().currentIndex(), page - 1);
+    };
+    const struct
+    {
+        Qt::Key key;
+        Qt::KeyboardModifiers modifiers;
+        int page;
+    } keys[] = {{Qt::Key_Home, Qt::ControlModifier, 1},
+                {Qt::Key_PageUp, {}, 1},
+                {Qt::Key_PageDown, {}, 2},
+                {Qt::Key_PageDown, {}, 3},
+                {Qt::Key_PageUp, {}, 2},
+                {Qt::Key_End, Qt::ControlModifier, 4},
+                {Qt::Key_PageDown, {}, 4}};
+    for (const auto& [key, modifiers, page] : keys) {
+        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+        expectPage(page);
+    }
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_P, Qt::ControlModifier);
+    QTRY_COMPARE(m_host->printedPages(), printed);
+}
+
+void TestPdfPanel::keysTurnNothingWithoutAPage()
+{
+    QVERIFY(m_host->openNumbered(4));
+    QVERIFY(m_host->showDialog());
+    QTRY_COMPARE(QApplication::activeWindow(), &m_host->dialog());
+    m_host->typePages(QStringLiteral("9"));
+    const QString title = m_host->title();
+    for (const Qt::Key key : {Qt::Key_PageDown, Qt::Key_PageUp}) {
+        QTest::keyClick(QApplication::focusWidget(), key);
+        QCOMPARE(m_host->preview().shownPage(), -1);
+        QCOMPARE(m_host->title(), title);
+        QVERIFY(!m_host->widget("PrintButton")->isEnabled());
+    }
 }
 
 void TestPdfPanel::documentsThatMayNotBePrintedAreNot()
