@@ -6,6 +6,7 @@
 #include "foundation/hostkit.h"
 #include "foundation/stylesheets.h"
 #include "foundation/widgets/focusring.h"
+#include "foundation/widgets/lightpalette.h"
 #include "foundation/widgets/windowposition.h"
 #include "multipage/multipageprintdialog_p.h"
 #include "preview/previewview.h"
@@ -83,6 +84,7 @@ MultiPagePrintDialog::MultiPagePrintDialog(QWidget* panel, QWidget* parent, Qt::
     setAttribute(Qt::WA_DeleteOnClose, false);
     setAttribute(Qt::WA_QuitOnClose, false);
     setStyleSheet(StyleSheets::multiPageDialogFrame());
+    PrintPanels::setLightPalette(this);
     d->createDialogLayout();
 }
 

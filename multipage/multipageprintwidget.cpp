@@ -6,6 +6,7 @@
 #include "foundation/stylesheets.h"
 #include "foundation/widgets/caption.h"
 #include "foundation/widgets/panelfocus.h"
+#include "foundation/widgets/palettekeeper.h"
 #include "multipage/multipageprintwidget_p.h"
 
 #include <QtWidgets/QCheckBox>
@@ -79,6 +80,7 @@ MultiPagePrintWidget::MultiPagePrintWidget(bool fitToPage, bool interfaceFlag, Q
     constexpr int panelWidth = 270;
     setObjectName(QStringLiteral("MultiPagePrintWidget"));
     setStyleSheet(StyleSheets::panel());
+    new PrintPanels::PaletteKeeper(this);
     setFixedWidth(panelWidth);
     d->createWidgetLayout(fitToPage);
 }

@@ -6,6 +6,7 @@
 #include "foundation/hostkit.h"
 #include "foundation/widgets/accessibleparts.h"
 #include "foundation/widgets/caption.h"
+#include "foundation/widgets/lightpalette.h"
 #include "foundation/widgets/metrics.h"
 #include "foundation/widgets/printersettingsbutton.h"
 
@@ -25,6 +26,7 @@ JxComboBox* createPrinterCombo()
     combo->setObjectName(QStringLiteral("PrinterListCombo"));
     combo->setFont(ApplicationFont::getWidgetFont(false));
     combo->setFixedSize(200, rowHeight);
+    setLightPalette(combo);
     return combo;
 }
 

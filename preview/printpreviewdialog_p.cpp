@@ -7,6 +7,7 @@
 #include "foundation/stylesheets.h"
 #include "foundation/widgets/choicebutton.h"
 #include "foundation/widgets/panelfocus.h"
+#include "foundation/widgets/lightpalette.h"
 #include "preview/previewview.h"
 
 #include <printpanels/sharedconstants.h>
@@ -91,6 +92,7 @@ QFrame* createOuterFrame(QLayout* layout)
     auto* frame = new QFrame;
     frame->setObjectName(QStringLiteral("JxPreviewFrame"));
     frame->setStyleSheet(StyleSheets::previewDialogFrame());
+    setLightPalette(frame);
     frame->setFrameShape(QFrame::Panel);
     frame->setFrameShadow(QFrame::Raised);
     frame->setLayout(layout);

@@ -6,6 +6,7 @@
 #include "foundation/hostkit.h"
 #include "foundation/widgets/accessibleparts.h"
 #include "foundation/widgets/caption.h"
+#include "foundation/widgets/lightpalette.h"
 #include "foundation/widgets/metrics.h"
 #include "foundation/widgets/taborder.h"
 #include "printpanel/supplysection.h"
@@ -69,6 +70,7 @@ JxComboBox* AmmoniaSection::createCombo() const
     combo->setObjectName(QStringLiteral("AmmoniaPrintCombo"));
     combo->setFont(ApplicationFont::getWidgetFont(true));
     combo->setMinimumHeight(rowHeight);
+    setLightPalette(combo);
     return combo;
 }
 

@@ -7,6 +7,7 @@
 #include "foundation/widgets/accessibleparts.h"
 #include "foundation/widgets/caption.h"
 #include "foundation/widgets/elidedlabel.h"
+#include "foundation/widgets/lightpalette.h"
 #include "foundation/widgets/metrics.h"
 #include "foundation/widgets/printersettingsbutton.h"
 #include "foundation/widgets/stepbutton.h"
@@ -49,6 +50,7 @@ JxComboBox* createPrinterCombo()
     combo->setMinimumWidth(200);
     combo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     combo->setFocusPolicy(Qt::NoFocus);
+    setLightPalette(combo);
     return combo;
 }
 

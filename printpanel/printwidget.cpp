@@ -4,6 +4,7 @@
 #include <printpanels/printwidget.h>
 
 #include "foundation/stylesheets.h"
+#include "foundation/widgets/palettekeeper.h"
 #include "printpanel/printwidget_p.h"
 
 #include <QtWidgets/QCheckBox>
@@ -14,6 +15,7 @@ PrintWidget::PrintWidget(bool printToFile, QWidget* parent)
 {
     setObjectName(QStringLiteral("PrintWidget"));
     setStyleSheet(StyleSheets::printSettingsPanel());
+    new PrintPanels::PaletteKeeper(this);
     d->createWidgetLayout();
 }
 

@@ -7,6 +7,7 @@
 #include "foundation/widgets/accessibleparts.h"
 #include "foundation/widgets/caption.h"
 #include "foundation/widgets/choicebutton.h"
+#include "foundation/widgets/lightpalette.h"
 #include "foundation/widgets/metrics.h"
 #include "foundation/widgets/taborder.h"
 #include "printpanel/ribbontab.h"
@@ -119,6 +120,7 @@ QBoxLayout* SupplySection::createColorTabs()
     group->setObjectName(QStringLiteral("stackGroup"));
     group->setAttribute(Qt::WA_StyledBackground); // a plain QWidget paints no sheet of its own
     group->setToolTip(tr("Select loaded color.", "ToolTip for color selection."));
+    setLightPalette(group);
     colorStack = new QStackedWidget(q);
     colorStack->setObjectName(QStringLiteral("colorStack"));
     auto* groupLayout = new QVBoxLayout(group);
@@ -130,6 +132,7 @@ QBoxLayout* SupplySection::createColorTabs()
     colorTabBar->setExpanding(true);
     colorTabBar->setUsesScrollButtons(false);
     colorTabBar->setIconSize(QSize(25, 25));
+    setLightPalette(colorTabBar);
 
     auto* tabs = new QVBoxLayout;
     tabs->setSpacing(0);

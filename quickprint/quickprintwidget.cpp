@@ -5,6 +5,7 @@
 
 #include "foundation/hostkit.h"
 #include "foundation/stylesheets.h"
+#include "foundation/widgets/palettekeeper.h"
 #include "preview/previewview.h"
 #include "quickprint/quickprintwidget_p.h"
 
@@ -34,6 +35,7 @@ QuickPrintWidget::QuickPrintWidget(bool quickPrint, QWidget* parent)
 {
     setObjectName(QStringLiteral("QuickPrintWidget"));
     setStyleSheet(StyleSheets::panel());
+    new PrintPanels::PaletteKeeper(this);
     d->createWidgetLayout();
 }
 
