@@ -5,8 +5,8 @@
 
 #include "foundation/stylesheets.h"
 #include "foundation/widgets/caption.h"
-#include "foundation/widgets/panelfocus.h"
 #include "foundation/widgets/palettekeeper.h"
+#include "foundation/widgets/panelfocus.h"
 #include "multipage/multipageprintwidget_p.h"
 
 #include <QtWidgets/QCheckBox>

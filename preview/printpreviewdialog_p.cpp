@@ -6,8 +6,8 @@
 #include "foundation/hostkit.h"
 #include "foundation/stylesheets.h"
 #include "foundation/widgets/choicebutton.h"
-#include "foundation/widgets/panelfocus.h"
 #include "foundation/widgets/lightpalette.h"
+#include "foundation/widgets/panelfocus.h"
 #include "preview/previewview.h"
 
 #include <printpanels/sharedconstants.h>
