@@ -6,6 +6,7 @@
 #include "foundation/hostkit.h"
 #include "foundation/stylesheets.h"
 #include "foundation/widgets/choicebutton.h"
+#include "foundation/widgets/fittedfont.h"
 #include "foundation/widgets/lightpalette.h"
 #include "foundation/widgets/panelfocus.h"
 #include "preview/previewview.h"
@@ -43,6 +44,7 @@ QPushButton* createTextButton(const QString& name, const QString& text)
 {
     auto* button = new QPushButton(text);
     setUpButton(button, name, StyleSheets::primaryPushButton());
+    button->setFont(ApplicationFont::getWidgetFont(true));
     button->setFixedSize(textButtonSize);
     return button;
 }
@@ -136,6 +138,8 @@ PrintPreviewDialogPrivate::Buttons PrintPreviewDialogPrivate::createButtons()
     Buttons buttons;
     buttons.close = createTextButton(QStringLiteral("closeButton"),
                                      tr("Close", "Button to close print preview."));
+    new FittedFont(
+        {{{printButton}, textButtonSize.width()}, {{buttons.close}, textButtonSize.width()}});
     buttons.zoomIn = createZoomButton(QStringLiteral("zoomInButton"),
                                       tr("Zoom In", "Name of the button for screen readers."),
                                       StyleSheets::zoomInButton());

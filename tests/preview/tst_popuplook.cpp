@@ -126,6 +126,14 @@ void tst_PopupLook::fonts()
     const PreviewFixture popup;
     QCOMPARE(QToolTip::font(), ApplicationFont::getWidgetFontSmall(false));
     QCOMPARE(popup.bar()->font(), ApplicationFont::getWidgetFontSmall(false));
+    QCOMPARE(popup.bar()->findChild<QLabel*>()->font(), ApplicationFont::getWidgetFontSmall(false));
+    // Bold by their sheet.
+    QFont panelFont = ApplicationFont::getWidgetFont(true);
+    panelFont.setBold(true);
+    for (const char* name : {"printButton", "closeButton"}) {
+        popup.button(name)->ensurePolished();
+        QCOMPARE(popup.button(name)->font(), panelFont);
+    }
 }
 
 void tst_PopupLook::popupHoldsOneFrame()
