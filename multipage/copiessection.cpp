@@ -6,6 +6,7 @@
 #include "foundation/hostkit.h"
 #include "foundation/widgets/accessibleparts.h"
 #include "foundation/widgets/caption.h"
+#include "foundation/widgets/fittedfont.h"
 #include "foundation/widgets/metrics.h"
 #include "foundation/widgets/stepbutton.h"
 
@@ -58,7 +59,7 @@ QFrame* CopiesSection::createCopiesFrame()
     auto* frame = new QFrame;
     frame->setObjectName(QStringLiteral("copiesFrame"));
     frame->setFixedWidth(q->width() - 10);
-    frame->setLayout(createCopiesRow());
+    frame->setLayout(createCopiesRow(frame->width()));
 
     QObject::connect(minusButton, SIGNAL(clicked()), q, SLOT(decreaseCopyCount()));
     QObject::connect(plusButton, SIGNAL(clicked()), q, SLOT(increaseCopyCount()));
@@ -66,7 +67,7 @@ QFrame* CopiesSection::createCopiesFrame()
     return frame;
 }
 
-QBoxLayout* CopiesSection::createCopiesRow()
+QBoxLayout* CopiesSection::createCopiesRow(int width)
 {
     copiesEdit = createCopiesEdit();
     minusButton = createStepButton(setUpMinusButton);
@@ -84,6 +85,7 @@ QBoxLayout* CopiesSection::createCopiesRow()
     row->addWidget(copiesEdit);
     row->addWidget(minusButton);
     row->addWidget(plusButton);
+    fitText(caption, width - copiesEdit->width() - 2 * squareButton.width() - 1, 3);
     return row;
 }
 

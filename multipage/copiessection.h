@@ -32,7 +32,7 @@ public:
     void increaseCopyCount();
 
 private:
-    QBoxLayout* createCopiesRow();
+    QBoxLayout* createCopiesRow(int width);
 
     MultiPagePrintWidget* const q;
     JxLineEdit* copiesEdit = nullptr;

@@ -5,6 +5,7 @@
 
 #include "foundation/stylesheets.h"
 #include "foundation/widgets/caption.h"
+#include "foundation/widgets/fittedfont.h"
 #include "foundation/widgets/palettekeeper.h"
 #include "foundation/widgets/panelfocus.h"
 #include "multipage/multipageprintwidget_p.h"
@@ -53,7 +54,9 @@ void MultiPagePrintWidgetPrivate::createWidgetLayout(bool fitToPage)
 
 void MultiPagePrintWidgetPrivate::createTitle()
 {
-    mainLayout->addWidget(createCaption(tr("PRINT SETTINGS", "Title for print settings.")));
+    QLabel* title = createCaption(tr("PRINT SETTINGS", "Title for print settings."));
+    fitText(title, q->width());
+    mainLayout->addWidget(title);
 }
 
 // The orientation stands below the printer, because it is about the paper in it.

@@ -6,6 +6,8 @@
 #include "foundation/hostkit.h"
 #include "foundation/stylesheets.h"
 #include "foundation/widgets/connectionblocker.h"
+#include "foundation/widgets/fittedfont.h"
+#include "foundation/widgets/metrics.h"
 
 #include <printpanels/multipageprintwidget.h>
 #include <printpanels/sharedconstants.h>
@@ -46,6 +48,8 @@ QCheckBox* OptionsSection::createOrientationCheck()
 {
     orientationCheck = createCheck(QStringLiteral("orientationCheck"), tr("Print 180 Orientation"));
     orientationCheck->setToolTip(SharedConstants::orientationToolTip);
+    // Beside it are a spacer and the button for the printer's settings.
+    fitText(orientationCheck, q->width() - squareButton.width() - 5, 1);
     QObject::connect(orientationCheck, SIGNAL(stateChanged(int)), q,
                      SIGNAL(orientationChangedSignal(int)));
     return orientationCheck;
@@ -58,6 +62,8 @@ QGridLayout* OptionsSection::createOptionsLayout(bool fitToPage)
     fitToPageCheck = createCheck(QStringLiteral("fitToPageCheck"), tr("Fit To Page "));
     fitToPageCheck->setChecked(fitToPage);
     printButton = createPrintButton(tr("       Print       ", "Button for initiating a print."));
+    fitText(formFillCheck, q->width());
+    new FittedFont({{{fitToPageCheck, printButton}, q->width(), 1}});
 
     auto* grid = new QGridLayout;
     grid->addWidget(formFillCheck, 0, 0, 1, 2, Qt::AlignLeft);

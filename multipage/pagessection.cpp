@@ -6,6 +6,7 @@
 #include "foundation/hostkit.h"
 #include "foundation/onebased.h"
 #include "foundation/widgets/caption.h"
+#include "foundation/widgets/fittedfont.h"
 #include "foundation/widgets/metrics.h"
 #include "foundation/widgets/optionradio.h"
 #include "foundation/widgets/recordlistedit.h"
@@ -48,6 +49,9 @@ QFrame* PagesSection::createPageRangeFrame()
     pageRangeFrame = new QFrame;
     pageRangeFrame->setObjectName(QStringLiteral("pageRangeFrame"));
     pageRangeFrame->setFixedWidth(q->width() - 10);
+    for (QWidget* control :
+         QWidgetList{caption, currentPageRadio, allPagesRadio, selectionRadio, pageListEdit})
+        fitText(control, pageRangeFrame->width());
     auto* layout = new QVBoxLayout(pageRangeFrame);
     layout->setContentsMargins(0, 0, 0, 2);
     layout->setSpacing(0);

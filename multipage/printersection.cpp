@@ -6,6 +6,7 @@
 #include "foundation/hostkit.h"
 #include "foundation/widgets/accessibleparts.h"
 #include "foundation/widgets/caption.h"
+#include "foundation/widgets/fittedfont.h"
 #include "foundation/widgets/lightpalette.h"
 #include "foundation/widgets/metrics.h"
 #include "foundation/widgets/printersettingsbutton.h"
@@ -48,6 +49,7 @@ QLabel* PrinterSection::createPrinterCaption() const
     QLabel* caption = createCaption(tr("Printer:", "Label showing printer name."));
     caption->setFont(ApplicationFont::getWidgetFont(false));
     caption->setFixedHeight(30);
+    fitText(caption, q->width());
     return caption;
 }
 

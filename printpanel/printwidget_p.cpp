@@ -29,6 +29,20 @@ DragScrollButton* createRequestButton(const QString& name, const QString& text)
     return button;
 }
 
+/** The place of a button that has a minimum width, so that the text of some languages fits too. */
+class TextButtonItem : public QWidgetItem
+{
+public:
+    using QWidgetItem::QWidgetItem;
+
+    QSize minimumSize() const override
+    {
+        const QSize minimum = QWidgetItem::minimumSize();
+        const int textWidth = isEmpty() ? 0 : widget()->minimumSizeHint().width();
+        return minimum.expandedTo(QSize(textWidth, 0));
+    }
+};
+
 } // namespace
 
 PrintWidgetPrivate::PrintWidgetPrivate(PrintWidget* panel, bool withTestControls)
@@ -108,7 +122,7 @@ void PrintWidgetPrivate::createPrintButtonsLayout()
 
     auto* grid = new QGridLayout;
     grid->addWidget(printButton, 0, 0);
-    grid->addWidget(previewButton, 0, 1);
+    grid->addItem(new TextButtonItem(previewButton), 0, 1);
     mainLayout->addLayout(grid);
 
     QObject::connect(printButton, SIGNAL(clicked(bool)), q, SLOT(printSlot()));

@@ -23,7 +23,7 @@
     </message>
     <message>
         <source>Print 180 Orientation</source>
-        <translation>Um 180 Grad gedreht drucken</translation>
+        <translation>180° gedreht drucken</translation>
     </message>
     <message>
         <source>Print Only Form Fill Text</source>
@@ -31,7 +31,7 @@
     </message>
     <message>
         <source>Fit To Page </source>
-        <translation>An Seite anpassen </translation>
+        <translation>Einpassen </translation>
     </message>
     <message>
         <source>       Print       </source>

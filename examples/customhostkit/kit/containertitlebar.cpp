@@ -27,6 +27,14 @@ void ContainerTitleBar::setTitle(const QString& title)
     m_label->setText(title);
 }
 
+// Below a style sheet, as in the windows of the panels, a label does not inherit the bar's font.
+void ContainerTitleBar::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange)
+        m_label->setFont(font());
+    QWidget::changeEvent(event);
+}
+
 void ContainerTitleBar::mousePressEvent(QMouseEvent* event)
 {
     m_grip = window()->pos() - event->globalPosition().toPoint();

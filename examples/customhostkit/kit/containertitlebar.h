@@ -28,6 +28,7 @@ Q_SIGNALS:
     void signalMove(int x, int y);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
 
