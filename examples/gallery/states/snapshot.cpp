@@ -25,12 +25,13 @@ void settle()
     loop.exec();
 }
 
-// A host's column for its panels; the panels and dialogs that are narrower or wider say so.
-constexpr QSize column(320, 0);
+// A host has a column for its panels, which is wider only if a panel needs that.
+constexpr int columnWidth = 320;
 
 void fit(QWidget& window)
 {
-    window.resize(window.sizeHint().expandedTo(column));
+    const int width = qMax(columnWidth, window.minimumSizeHint().width());
+    window.resize(width, window.sizeHint().height());
     settle();
 }
 
