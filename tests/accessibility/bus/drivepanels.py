@@ -29,7 +29,7 @@ def why_unavailable():
 
 def run_in_session(host):
     """Runs this script again with an X server, a session bus and folders that go afterwards."""
-    with tempfile.TemporaryDirectory() as folder:
+    with tempfile.TemporaryDirectory(ignore_cleanup_errors=True) as folder:
         read_end, write_end = os.pipe()
         server = subprocess.Popen(
             ["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1280x1024x24",
