@@ -245,21 +245,27 @@ void tst_ButtonFocus::returnInAnEditIsTheHosts()
 
 void tst_ButtonFocus::returnMayDeleteThePanel_data()
 {
-    addColumns<Create>("create");
-    for (const PanelKind& kind : kindsOfPanels())
-        addRow(kind.name, Create(kind.create));
+    addColumns<Create, bool>("create", "later");
+    for (const PanelKind& kind : kindsOfPanels()) {
+        QTest::addRow("%s, later", kind.name) << Create(kind.create) << true;
+        QTest::addRow("%s, at once", kind.name) << Create(kind.create) << false;
+    }
 }
 
 void tst_ButtonFocus::returnMayDeleteThePanel()
 {
     QFETCH(const Create, create);
+    QFETCH(const bool, later);
     HostDialog host(create());
     QVERIFY(showActive(host.dialog));
     QPushButton* print = printButtonOf(*host.panel);
     QObject::connect(print, &QPushButton::clicked, &host.dialog, [&] {
         disableAll(*host.panel);
         enableAll(*host.panel);
-        host.panel->deleteLater();
+        if (later)
+            host.panel->deleteLater();
+        else
+            delete host.panel;
     });
     print->setFocus();
     QTest::keyClick(print, Qt::Key_Return);
