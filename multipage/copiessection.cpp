@@ -9,6 +9,7 @@
 #include "foundation/widgets/fittedfont.h"
 #include "foundation/widgets/metrics.h"
 #include "foundation/widgets/stepbutton.h"
+#include "foundation/widgets/textdirection.h"
 
 #include <printpanels/multipageprintwidget.h>
 
@@ -32,6 +33,7 @@ JxLineEdit* createCopiesEdit()
     edit->setFont(ApplicationFont::getWidgetFont(true));
     edit->setText(QStringLiteral("1"));
     edit->setFixedSize(50, rowHeight);
+    alignToStart(edit);
     auto* validator = new QIntValidator(minCopies, maxCopies, edit);
     // Only what is read can be typed: plain digits, without the separators of any language.
     QLocale plainDigits = QLocale::c();

@@ -6,6 +6,7 @@
 #include "foundation/hostkit.h"
 #include "foundation/stylesheets.h"
 #include "foundation/widgets/connectionblocker.h"
+#include "foundation/widgets/directedbutton.h"
 #include "foundation/widgets/fittedfont.h"
 #include "foundation/widgets/metrics.h"
 
@@ -22,7 +23,7 @@ namespace {
 
 QCheckBox* createCheck(const QString& name, const QString& text)
 {
-    auto* check = new QCheckBox(text);
+    auto* check = new DirectedButton<QCheckBox>(text);
     check->setObjectName(name);
     check->setFont(ApplicationFont::getWidgetFont(true));
     check->setStyleSheet(StyleSheets::checkBoxIndicator());

@@ -9,6 +9,7 @@
 #include "foundation/widgets/fittedfont.h"
 #include "foundation/widgets/lightpalette.h"
 #include "foundation/widgets/panelfocus.h"
+#include "foundation/widgets/textdirection.h"
 #include "preview/previewview.h"
 
 #include <printpanels/sharedconstants.h>
@@ -236,20 +237,19 @@ void PrintPreviewDialogPrivate::setTitle(const QSizeF& designSize, const QSizeF&
 {
     const QString unit =
         metric ? SharedConstants::millimetersSuffix : SharedConstants::inchMarkSuffix;
-    const auto number = [decimals = metric ? 0 : 2](double length) {
-        return QString::number(length, 'f', decimals);
+    const QString title = printedSizeOnly
+                              ? tr("Print Preview (%1%2 X %3%2)", "Dialog title with label size.")
+                              : tr("Print Preview (Design: %1%2 X %3%2  Printed: %4%2 X %5%2)",
+                                   "Dialog title with label size.");
+    const auto number = [&title, decimals = metric ? 0 : 2](double length) {
+        return numbersAfter(title, QString::number(length, 'f', decimals));
     };
+    const QString width = number(printedSize.width());
+    const QString height = number(printedSize.height());
     // One call with all arguments, so that a place marker inside a number or a unit stays text.
-    if (printedSizeOnly) {
-        titleBar->setTitle(
-            tr("Print Preview (%1%2 X %3%2)", "Dialog title with label size.")
-                .arg(number(printedSize.width()), unit, number(printedSize.height())));
-        return;
-    }
-    titleBar->setTitle(tr("Print Preview (Design: %1%2 X %3%2  Printed: %4%2 X %5%2)",
-                          "Dialog title with label size.")
-                           .arg(number(designSize.width()), unit, number(designSize.height()),
-                                number(printedSize.width()), number(printedSize.height())));
+    titleBar->setTitle(printedSizeOnly ? title.arg(width, unit, height)
+                                       : title.arg(number(designSize.width()), unit,
+                                                   number(designSize.height()), width, height));
 }
 
 void PrintPreviewDialogPrivate::setRange(int firstRecord, int lastRecord, const QString& records)

@@ -11,6 +11,7 @@
 #include "foundation/widgets/metrics.h"
 #include "foundation/widgets/printersettingsbutton.h"
 #include "foundation/widgets/stepbutton.h"
+#include "foundation/widgets/textdirection.h"
 
 #include <printpanels/printwidget.h>
 
@@ -144,6 +145,7 @@ JxSpinBox* PrinterSection::createCopiesSpinBox() const
     spinBox->setValue(1);
     spinBox->setFixedSize(60, rowHeight);
     spinBox->setButtonSymbols(QAbstractSpinBox::NoButtons);
+    alignToStart(spinBox);
     return spinBox;
 }
 

@@ -6,6 +6,7 @@
 #include "foundation/hostkit.h"
 #include "foundation/stylesheets.h"
 #include "foundation/widgets/caption.h"
+#include "foundation/widgets/directedbutton.h"
 #include "foundation/widgets/panelfocus.h"
 
 #include <QtWidgets/QCheckBox>
@@ -86,7 +87,7 @@ void PrintWidgetPrivate::createTitle()
 
 void PrintWidgetPrivate::createUserBackgroundCheck()
 {
-    userBackgroundCheck = new QCheckBox(
+    userBackgroundCheck = new DirectedButton<QCheckBox>(
         tr("Print User Background", "Checkbox to print or not the user background layer"));
     userBackgroundCheck->setObjectName(QStringLiteral("userBackgroundCheck"));
     userBackgroundCheck->setFont(ApplicationFont::getWidgetFont(true));

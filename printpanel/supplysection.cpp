@@ -7,9 +7,11 @@
 #include "foundation/widgets/accessibleparts.h"
 #include "foundation/widgets/caption.h"
 #include "foundation/widgets/choicebutton.h"
+#include "foundation/widgets/directedbutton.h"
 #include "foundation/widgets/lightpalette.h"
 #include "foundation/widgets/metrics.h"
 #include "foundation/widgets/taborder.h"
+#include "foundation/widgets/textdirection.h"
 #include "printpanel/ribbontab.h"
 
 #include <printpanels/printwidget.h>
@@ -91,6 +93,7 @@ QBoxLayout* SupplySection::createSupplyWidthRow()
     supplyWidthEdit->setFont(ApplicationFont::getWidgetFont(true));
     supplyWidthEdit->setFixedSize(80, rowHeight);
     supplyWidthEdit->setValidator(widthValidator);
+    alignToStart(supplyWidthEdit);
 
     QLabel* caption = createCaption(tr("Tape Width:", "Label for Supply Tape Width."));
     setCaption(supplyWidthEdit, caption);
@@ -107,7 +110,7 @@ QBoxLayout* SupplySection::createSupplyWidthRow()
 
 QCheckBox* SupplySection::createTinyLadderCheck() const
 {
-    auto* check = new ChoiceButton<QCheckBox, QAccessible::CheckBox>;
+    auto* check = new ChoiceButton<DirectedButton<QCheckBox>, QAccessible::CheckBox>;
     check->setText(tr("0.2\" Ladder Shrink Tube"));
     check->setObjectName(QStringLiteral("tinyLadderCheck"));
     check->setFont(ApplicationFont::getWidgetFont(true));

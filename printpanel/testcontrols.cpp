@@ -7,7 +7,9 @@
 #include "foundation/stylesheets.h"
 #include "foundation/widgets/accessibleparts.h"
 #include "foundation/widgets/caption.h"
+#include "foundation/widgets/directedbutton.h"
 #include "foundation/widgets/metrics.h"
+#include "foundation/widgets/textdirection.h"
 
 #include <printpanels/printwidget.h>
 
@@ -32,9 +34,10 @@ TestControls::TestControls(PrintWidget* panel) : q(panel) {}
 
 void TestControls::createPrintToFileLayout(QVBoxLayout* panelLayout)
 {
-    printToFileCheck = new QCheckBox(tr("Print to file:\n\" guest / logs / printTest_iii . prn \"",
-                                        "Option to print to a file."),
-                                     q);
+    printToFileCheck =
+        new DirectedButton<QCheckBox>(tr("Print to file:\n\" guest / logs / printTest_iii . prn \"",
+                                         "Option to print to a file."),
+                                      q);
     printToFileCheck->setObjectName(QStringLiteral("printToFileCheck"));
     printToFileCheck->setFont(ApplicationFont::getWidgetFont(true));
     printToFileCheck->setStyleSheet(StyleSheets::checkBoxIndicator());
@@ -74,6 +77,7 @@ JxSpinBox* TestControls::createErrorNumberSpinBox() const
     spinBox->setValue(0);
     spinBox->setFixedSize(60, rowHeight);
     spinBox->setButtonSymbols(QAbstractSpinBox::NoButtons);
+    alignToStart(spinBox);
     return spinBox;
 }
 

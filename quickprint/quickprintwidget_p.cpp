@@ -9,6 +9,7 @@
 #include "foundation/widgets/metrics.h"
 #include "foundation/widgets/panelfocus.h"
 #include "foundation/widgets/stepbutton.h"
+#include "foundation/widgets/textdirection.h"
 #include "preview/previewview.h"
 #include "quickprint/wrappedlabel.h"
 
@@ -32,6 +33,7 @@ JxLineEdit* createSizeEdit(const QString& name)
     edit->setObjectName(name);
     edit->setFont(ApplicationFont::getWidgetFont(true));
     edit->setFixedSize(135, rowHeight);
+    alignToStart(edit);
     return edit;
 }
 
@@ -172,6 +174,7 @@ void QuickPrintWidgetPrivate::createCopiesSpinBox()
     copiesSpinBox->setRange(1, 999);
     copiesSpinBox->setValue(1);
     copiesSpinBox->setButtonSymbols(QAbstractSpinBox::NoButtons);
+    alignToStart(copiesSpinBox);
 }
 
 QLayout* QuickPrintWidgetPrivate::createButtonsLayout()

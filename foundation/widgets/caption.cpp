@@ -4,6 +4,7 @@
 #include "foundation/widgets/caption.h"
 
 #include "foundation/hostkit.h"
+#include "foundation/widgets/textdirection.h"
 
 #include <QtWidgets/QLabel>
 
@@ -13,6 +14,7 @@ QLabel* createCaption(const QString& text)
 {
     auto* caption = new QLabel(text);
     caption->setFont(ApplicationFont::getWidgetFont(true));
+    alignToStart(caption);
     return caption;
 }
 

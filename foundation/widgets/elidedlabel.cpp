@@ -3,6 +3,8 @@
 
 #include "foundation/widgets/elidedlabel.h"
 
+#include "foundation/widgets/textdirection.h"
+
 #include <QtGui/QHelpEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyle>
@@ -54,8 +56,9 @@ void ElidedLabel::paintEvent(QPaintEvent* event)
 {
     QFrame::paintEvent(event);
     QPainter painter(this);
-    style()->drawItemText(&painter, contentsRect(), int(alignment()), palette(), isEnabled(),
-                          shownText(), foregroundRole());
+    const int alignmentFlags = int(startOfLine(this) | (alignment() & Qt::AlignVertical_Mask));
+    style()->drawItemText(&painter, contentsRect(), alignmentFlags | readingDirection(text()),
+                          palette(), isEnabled(), shownText(), foregroundRole());
 }
 
 } // namespace PrintPanels

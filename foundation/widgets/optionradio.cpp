@@ -5,6 +5,7 @@
 
 #include "foundation/hostkit.h"
 #include "foundation/widgets/choicebutton.h"
+#include "foundation/widgets/directedbutton.h"
 
 #include <QtWidgets/QButtonGroup>
 #include <QtWidgets/QRadioButton>
@@ -13,7 +14,7 @@ namespace PrintPanels {
 
 QRadioButton* createOptionRadio(const QString& name, const QString& text)
 {
-    auto* radio = new ChoiceButton<QRadioButton, QAccessible::RadioButton>;
+    auto* radio = new ChoiceButton<DirectedButton<QRadioButton>, QAccessible::RadioButton>;
     radio->setText(text);
     radio->setObjectName(name);
     radio->setFont(ApplicationFont::getWidgetFont(true));

@@ -4,6 +4,7 @@
 #include "foundation/widgets/recordlistedit.h"
 
 #include "foundation/hostkit.h"
+#include "foundation/widgets/textdirection.h"
 
 #include <printpanels/recordlist.h>
 
@@ -33,7 +34,8 @@ JxLineEdit* createRecordListEdit(const QString& name, const QFont& font, const Q
                                  const QString& exampleLabel)
 {
     constexpr int height = 36;
-    const QString example = exampleLabel + QStringLiteral("  1,4-5,11-20,33");
+    const QString example = exampleLabel + QStringLiteral("  ") +
+                            numbersAfter(exampleLabel, QStringLiteral("1,4-5,11-20,33"));
     auto* edit = new JxLineEdit(nullptr);
     edit->setObjectName(name);
     edit->setFont(font);
@@ -45,6 +47,7 @@ JxLineEdit* createRecordListEdit(const QString& name, const QFont& font, const Q
     edit->setEnabled(false);
     QObject::connect(edit, &QLineEdit::textChanged, edit,
                      [edit] { edit->setAccessibleDescription(listState(edit)); });
+    alignToStart(edit);
     return edit;
 }
 

@@ -12,6 +12,18 @@
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QToolTip>
 
+namespace {
+
+/** The title keeps its margin at the start of the line, wherever that is. */
+QMargins margins(bool rightToLeft)
+{
+    constexpr int start = 10;
+    constexpr int end = 3;
+    return rightToLeft ? QMargins(end, 2, start, 2) : QMargins(start, 2, end, 2);
+}
+
+} // namespace
+
 ContainerTitleBar::ContainerTitleBar(QWidget* parent, const QString& title,
                                      const QString& closeToolTip, int titlePixelSize)
     : QWidget(parent),
@@ -29,7 +41,7 @@ ContainerTitleBar::ContainerTitleBar(QWidget* parent, const QString& title,
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 
     auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(10, 2, 3, 2);
+    layout->setContentsMargins(margins(isRightToLeft()));
     layout->addWidget(m_label, 1);
     layout->addWidget(m_closeButton);
 
@@ -50,6 +62,8 @@ void ContainerTitleBar::setTitle(const QString& title)
 
 bool ContainerTitleBar::event(QEvent* event)
 {
+    if (event->type() == QEvent::LayoutDirectionChange)
+        layout()->setContentsMargins(margins(isRightToLeft()));
     if (event->type() == QEvent::FontChange)
         m_label->setTitleFont(font());
     if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && m_label->isElided()) {

@@ -186,16 +186,19 @@ QPixmap ExpandingTabBar::contents(int index) const
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     const QString picture = pictureFile(tabText(index));
     // If a text follows, leave some space at the edge of the tab.
-    const bool indented = picture.isEmpty() && !isRightToLeft();
-    QRect place(QPoint(indented ? spacing : 0, 0), iconSize());
+    QRect place(QPoint(picture.isEmpty() ? spacing : 0, 0), iconSize());
+    const auto mirrored = [this, whole = QRect(QPoint(), contentsSize(index))](const QRect& rect) {
+        return QStyle::visualRect(layoutDirection(), whole, rect);
+    };
     const QIcon icon = picture.isEmpty() ? tabIcon(index) : pictureIcon(picture);
     if (!icon.isNull()) {
-        icon.paint(&painter, place);
+        icon.paint(&painter, mirrored(place));
         place.translate(place.width() + spacing, 0);
     }
     const int inset = place.height() / 6;
     if (!tabColorRect(index).isEmpty())
-        paintColorRect(&painter, place.adjusted(0, inset, 0, -inset), tabColorRect(index));
+        paintColorRect(&painter, mirrored(place).adjusted(0, inset, 0, -inset),
+                       tabColorRect(index));
     return image;
 }
 

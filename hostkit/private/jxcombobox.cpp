@@ -31,6 +31,28 @@ QString singleLine(QString text)
     }
     return text;
 }
+
+// Keeps the direction of a text, so that a number or a full stop at an end of it stays there. Some
+// styles paint the text of a combo box from left to right in either layout.
+QString isolated(const QString& text, Qt::LayoutDirection direction)
+{
+    if (direction == Qt::LeftToRight && !text.isRightToLeft())
+        return text;
+    return QChar(u'\u2068') + text + QChar(u'\u2069'); // first strong isolate
+}
+
+class ItemDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->text = isolated(option->text, option->direction);
+    }
+};
 } // namespace
 
 JxComboBox::JxComboBox(QWidget* parent) : QComboBox(parent)
@@ -38,7 +60,7 @@ JxComboBox::JxComboBox(QWidget* parent) : QComboBox(parent)
     setFocusPolicy(Qt::StrongFocus);
     setSizeAdjustPolicy(QComboBox::AdjustToContents);
     // The default delegates of QComboBox ignore the item height set by a style sheet.
-    setItemDelegate(new QStyledItemDelegate(this));
+    setItemDelegate(new ItemDelegate(this));
     view()->setTextElideMode(Qt::ElideRight);
     QPalette colors = view()->palette();
     colors.setColor(QPalette::Highlight, QColor(0xfd, 0x78, 0x00));
@@ -119,9 +141,9 @@ void JxComboBox::paintEvent(QPaintEvent*)
             .width();
     if (!option.currentIcon.isNull())
         availableWidth -= option.iconSize.width() + 4;
-    option.currentText =
-        option.fontMetrics.elidedText(singleLine(option.currentText.left(maxTextLength)),
-                                      Qt::ElideRight, availableWidth - 2 * textMargin);
+    option.currentText = option.fontMetrics.elidedText(
+        isolated(singleLine(option.currentText.left(maxTextLength)), layoutDirection()),
+        Qt::ElideRight, availableWidth - 2 * textMargin);
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
