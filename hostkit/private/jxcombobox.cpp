@@ -17,8 +17,6 @@ constexpr int maxHintWidth = 320;
 constexpr int maxMinimumHintWidth = 120;
 // What the style leaves free on either side of the text.
 constexpr int textMargin = 1;
-// By which a text is wider than its bounding rectangle, which QComboBox measures.
-constexpr int overhang = 2;
 // More than a combo box can show. Keeps painting fast if the host sets a megabyte of text.
 constexpr qsizetype maxTextLength = 1000;
 
@@ -75,7 +73,9 @@ JxComboBox::~JxComboBox() = default;
 QSize JxComboBox::sizeHint() const
 {
     const QSize hint = QComboBox::sizeHint();
-    return QSize(qMin(hint.width() + 2 * textMargin + overhang, maxHintWidth), hint.height());
+    // QComboBox measures what a text paints, without the room at the sides of the letters.
+    const int bearings = fontMetrics().averageCharWidth() / 2;
+    return QSize(qMin(hint.width() + 2 * textMargin + bearings, maxHintWidth), hint.height());
 }
 
 QSize JxComboBox::minimumSizeHint() const
