@@ -3,6 +3,8 @@
 
 #include "titlebarparts.h"
 
+#include <QtCore/QFile>
+#include <QtCore/QtMath>
 #include <QtGui/QFontInfo>
 #include <QtGui/QPainter>
 
@@ -15,6 +17,19 @@ constexpr qsizetype maxTitleLength = 1000;
 // The sizes to try for a title that is too wide. Smaller text is hard to read.
 constexpr int minTitlePixelSize = 9;
 constexpr int maxTitlePixelSize = 100;
+
+// The image that is large enough for a device pixel ratio. An icon of all of them would choose the
+// one that is closest in size, and enlarge it at ratios such as 1.5.
+QString imageFor(const QString& file, qreal devicePixelRatio)
+{
+    for (int scale = qCeil(devicePixelRatio); scale > 1; --scale) {
+        const QString variant =
+            QString(file).insert(file.lastIndexOf(u'.'), QStringLiteral("@%1x").arg(scale));
+        if (QFile::exists(variant))
+            return variant;
+    }
+    return file;
+}
 
 } // namespace
 
@@ -86,10 +101,7 @@ void TitleBarLabel::paintEvent(QPaintEvent*)
     painter.drawText(rect(), start | Qt::AlignVCenter | Qt::TextSingleLine | direction, shown);
 }
 
-TitleBarButton::TitleBarButton(QWidget* parent)
-    : QAbstractButton(parent),
-      m_cross(QStringLiteral(":/hostkit/close.png")),
-      m_pressedCross(QStringLiteral(":/hostkit/close-pressed.png"))
+TitleBarButton::TitleBarButton(QWidget* parent) : QAbstractButton(parent)
 {
     setObjectName(QStringLiteral("CloseButton"));
     setFocusPolicy(Qt::NoFocus);
@@ -107,7 +119,12 @@ void TitleBarButton::paintEvent(QPaintEvent*)
     QPainter painter(this);
     if (underMouse() && !isDown())
         painter.fillRect(rect(), QColor(255, 255, 255, 40));
-    const QIcon& cross = isDown() ? m_pressedCross : m_cross;
+    const QString file = imageFor(isDown() ? QStringLiteral(":/hostkit/close-pressed.png")
+                                           : QStringLiteral(":/hostkit/close.png"),
+                                  devicePixelRatioF());
+    QIcon& cross = m_crosses[file];
+    if (cross.isNull())
+        cross = QIcon(file);
     cross.paint(&painter, rect(), Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
 }
 

@@ -4,6 +4,7 @@
 #ifndef PRINTPANELS_HOSTKIT_TITLEBARPARTS_H
 #define PRINTPANELS_HOSTKIT_TITLEBARPARTS_H
 
+#include <QtCore/QHash>
 #include <QtGui/QIcon>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QLabel>
@@ -54,9 +55,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    // Kept, because Qt would cache the pixmaps of every new QIcon again.
-    QIcon m_cross;
-    QIcon m_pressedCross;
+    // By file. Kept, because Qt would cache the pixmaps of every new QIcon again.
+    QHash<QString, QIcon> m_crosses;
 };
 
 } // namespace HostKit

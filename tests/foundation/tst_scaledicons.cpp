@@ -433,8 +433,6 @@ void tst_ScaledIcons::closeButtonShowsTheVariant()
 {
     QFETCH(const bool, down);
     QFETCH(const QString, image);
-    if (!isWhole(ratio()))
-        return; // An icon, too.
     ContainerTitleBar bar(nullptr, QString(), QString(), 14);
     auto* button = bar.findChild<QAbstractButton*>(QStringLiteral("CloseButton"));
     QVERIFY(button != nullptr);
