@@ -4,6 +4,7 @@
 #include "samplehost/automation/demodocument.h"
 
 #include "samplehost/designs/labeldesign.h"
+#include "samplehost/label/labelfont.h"
 
 #include <QtGui/QPainter>
 #include <QtGui/QPdfWriter>
@@ -52,14 +53,18 @@ bool DemoDocument::write(const LabelDesign& design)
     const QRectF paper(QPointF(), QPageSize(QPageSize::A4).size(QPageSize::Millimeter));
     const QRectF place = labelPlace(design.labelSizeMm(request), paper);
     const LabelPainter paintLabel = design.painter(request);
+    QFont font = labelFont();
+    font.setPointSize(18);
+    painter.setFont(font);
+    painter.setLayoutDirection(Qt::LeftToRight);
     const QPointF headPoint(marginMm * dotsPerMm, 1.4 * marginMm * dotsPerMm);
     for (int record = 1; record <= count; ++record) {
         QString problem;
         if (record > 1) {
             writer.newPage();
         }
-        painter.setFont(QFont(QStringLiteral("Sans Serif"), 18));
-        painter.drawText(headPoint, tr("Safety labels, page %1 of %2").arg(record).arg(count));
+        painter.drawText(headPoint,
+                         QStringLiteral("Safety labels, page %1 of %2").arg(record).arg(count));
         painter.save();
         const bool painted = paintLabel(painter, place, record, problem);
         painter.restore();

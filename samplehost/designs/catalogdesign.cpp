@@ -31,7 +31,7 @@ void CatalogDesign::setSizeMm(const QSizeF& sizeMm)
 
 QString CatalogDesign::title() const
 {
-    return tr("Catalogue item");
+    return QStringLiteral("Catalogue item");
 }
 
 int CatalogDesign::recordCount() const

@@ -61,7 +61,7 @@ QString ChemicalDesign::sourceDescription() const
 
 QString ChemicalDesign::title() const
 {
-    return m_item ? tr("Catalogue item") : tr("Chemical labels");
+    return m_item ? QStringLiteral("Catalogue item") : QStringLiteral("Chemical labels");
 }
 
 int ChemicalDesign::recordCount() const

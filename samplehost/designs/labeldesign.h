@@ -19,7 +19,7 @@ public:
     LabelDesign() = default;
     virtual ~LabelDesign();
 
-    /** The title of documents that are printed with this design. */
+    /** The title of documents that are printed with this design, the same in every language. */
     virtual QString title() const = 0;
 
     /** The current record, 0-based. */

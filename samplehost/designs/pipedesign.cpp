@@ -27,7 +27,7 @@ void PipeDesign::setItem(int item)
 
 QString PipeDesign::title() const
 {
-    return tr("Pipe marker");
+    return QStringLiteral("Pipe marker");
 }
 
 int PipeDesign::recordCount() const

@@ -4,6 +4,7 @@
 #include "samplehost/designs/requestsheet.h"
 
 #include "samplehost/designs/labeldesign.h"
+#include "samplehost/label/labelfont.h"
 #include "samplehost/print/pageplan.h"
 
 #include <QtGui/QPainter>
@@ -63,9 +64,11 @@ QImage renderFirstSheet(const LabelDesign& design, const PrintRequest& request,
     QString reason;
     if (!paintPage(painter, dotsPerMm, sheet, plan.recordsOnPage(0), design.painter(request),
                    reason)) {
-        QFont font = painter.font();
+        QFont font = labelFont();
         font.setPixelSize(std::max(1, image.height() / problemLines));
         painter.setFont(font);
+        painter.setPen(Qt::black);
+        painter.setLayoutDirection(Qt::LayoutDirectionAuto);
         painter.drawText(image.rect(), Qt::AlignCenter | Qt::TextWordWrap, reason);
     }
     if (problem != nullptr) {

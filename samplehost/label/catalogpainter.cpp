@@ -42,7 +42,7 @@ qreal largestText(const QString& text, const QSizeF& size)
 void paintText(QPainter& painter, const QRectF& area, const QString& words, const QColor& color)
 {
     painter.setPen(color);
-    FittedText text(painter.font());
+    FittedText text;
     text.addParagraph(words, true);
     text.paint(painter, area, largestText(words, area.size()), Qt::AlignCenter);
 }
@@ -112,7 +112,6 @@ void paintCatalogItem(QPainter& painter, const QRectF& target, const CatalogItem
     const QRectF area(QPointF(), sizeMm * unitsPerMm);
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    painter.setFont(QFont());
     painter.translate(target.topLeft());
     painter.scale(target.width() / area.width(), target.height() / area.height());
     paintWhole(painter, area, item);

@@ -3,6 +3,8 @@
 
 #include "samplehost/label/fittedtext.h"
 
+#include "samplehost/label/labelfont.h"
+
 #include <QtGui/QPainter>
 #include <QtGui/QTextLayout>
 
@@ -43,7 +45,10 @@ public:
     {
         QFont font(text.m_font);
         font.setPixelSize(fit.fontSize);
-        QTextOption option(alignment & Qt::AlignHorizontal_Mask);
+        // The constructor that takes an alignment also takes the direction of the application.
+        QTextOption option;
+        option.setAlignment(alignment & Qt::AlignHorizontal_Mask);
+        option.setTextDirection(Qt::LayoutDirectionAuto);
         option.setWrapMode(fit.breaksWords ? QTextOption::WrapAtWordBoundaryOrAnywhere
                                            : QTextOption::WordWrap);
         for (const Paragraph& paragraph : text.m_paragraphs) {
@@ -93,12 +98,8 @@ private:
     bool m_fitsWidth = true;
 };
 
-FittedText::FittedText(const QFont& font) : m_font(font)
+FittedText::FittedText() : m_font(labelFont())
 {
-    // Hinting rounds the widths of glyphs to the pixels of a device, but lines must break at the
-    // same places on all devices.
-    m_font.setHintingPreference(QFont::PreferNoHinting);
-    m_font.setBold(false);
     // Letter spacing, however small, disables ligatures. With a ligature for "fl", searching a PDF
     // file for "flammable" would find nothing.
     m_font.setLetterSpacing(QFont::AbsoluteSpacing, 0.02);

@@ -19,13 +19,13 @@ namespace SampleHost {
 /**
  * Paragraphs that are painted as large as their rectangle allows. Lengths are in the painter's
  * units, which should be small compared to the text, for example 0.01 mm, because font sizes are
- * whole numbers.
+ * whole numbers. Left is left in every interface; a paragraph runs in the direction of its text.
  */
 class FittedText
 {
 public:
-    /** A text without paragraphs. The size of font does not matter. */
-    explicit FittedText(const QFont& font);
+    /** A text without paragraphs, in the font of labels. */
+    FittedText();
 
     /** Appends a paragraph, bold or plain, in the painter's pen colour. */
     void addParagraph(const QString& text, bool bold = false);

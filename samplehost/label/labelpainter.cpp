@@ -7,7 +7,6 @@
 #include "samplehost/label/pictogram.h"
 #include "samplehost/label/userbackground.h"
 
-#include <QtGui/QFont>
 #include <QtGui/QPainter>
 
 #include <algorithm>
@@ -115,11 +114,11 @@ void paintHeader(QPainter& painter, const QRectF& header, const Chemical& chemic
     painter.setPen(Qt::white);
     const QRectF inner = header.adjusted(padding, 110, -padding, -110);
     const qreal nameHeight = inner.height() * 0.7;
-    FittedText name(painter.font());
+    FittedText name;
     name.addParagraph(chemical.name, true);
     name.paint(painter, QRectF(inner.topLeft(), QSizeF(inner.width(), nameHeight)), largestName,
                Qt::AlignLeft | Qt::AlignVCenter);
-    FittedText numbers(painter.font());
+    FittedText numbers;
     numbers.addParagraph(identifiers(chemical));
     numbers.paint(painter, inner.adjusted(0, nameHeight, 0, 0), largestIdentifier,
                   Qt::AlignLeft | Qt::AlignBottom);
@@ -132,7 +131,7 @@ void paintSignalWord(QPainter& painter, const QRectF& area, const QString& word)
     }
     painter.fillRect(area, accentOrange);
     painter.setPen(Qt::black);
-    FittedText text(painter.font());
+    FittedText text;
     text.addParagraph(word, true);
     text.paint(painter, area.adjusted(60, 0, -60, 0), largestSignalWord, Qt::AlignCenter);
 }
@@ -173,7 +172,7 @@ void paintPictograms(QPainter& painter, const QRectF& area, const QStringList& n
 
 void paintStatements(QPainter& painter, const QRectF& area, const Chemical& chemical)
 {
-    FittedText text(painter.font());
+    FittedText text;
     const auto addGroup = [&text](const QString& title, const QStringList& lines) {
         if (lines.isEmpty()) {
             return;
@@ -215,7 +214,6 @@ void paintLabel(QPainter& painter, const QRectF& target, const Chemical& chemica
     const QSizeF size = labelSizeMm(options) * unitsPerMm;
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    painter.setFont(QFont());
     fitInto(painter, target, size);
     const LabelLayout layout = layOut(size, chemical, options.landscape);
     if (options.userBackground) {

@@ -37,7 +37,7 @@ void paintNamedDiamond(QPainter& painter, const QRectF& square, const QString& n
     const qreal height = square.height() / 5;
     QRectF line(0, 0, square.width() * 0.6, height);
     line.moveCenter(square.center());
-    FittedText text(painter.font());
+    FittedText text;
     text.addParagraph(name, true);
     text.paint(painter, line, height, Qt::AlignCenter);
     painter.restore();

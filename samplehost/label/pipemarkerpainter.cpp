@@ -85,7 +85,7 @@ void paintText(QPainter& painter, const QRectF& area, const QString& words, cons
 {
     const qreal margin = std::min(area.width(), area.height()) * 0.08;
     painter.setPen(color);
-    FittedText text(painter.font());
+    FittedText text;
     text.addParagraph(words, true);
     text.paint(painter, area.adjusted(margin, 0, -margin, 0), largestText, Qt::AlignCenter);
 }
@@ -216,7 +216,6 @@ void paintPipeMarker(QPainter& painter, const QRectF& target, const PipeMarker& 
     const qreal scale = std::min(target.width() / area.width(), target.height() / area.height());
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    painter.setFont(QFont());
     painter.translate(target.center());
     painter.scale(scale, scale);
     painter.translate(-area.center());

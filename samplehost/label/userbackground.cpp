@@ -3,6 +3,8 @@
 
 #include "samplehost/label/userbackground.h"
 
+#include "samplehost/label/labelfont.h"
+
 #include <QtCore/QtMath>
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
@@ -18,7 +20,7 @@ const QColor paleOrange(0xff, 0xef, 0xdf);
 // The company's name around the origin, as wide as width.
 QPainterPath companyName(qreal width)
 {
-    QFont font;
+    QFont font = labelFont();
     font.setBold(true);
     font.setPixelSize(200);
     QPainterPath text;

@@ -123,6 +123,8 @@ void LabelPage::updateView()
                       record = shown.sequenceStart](QPainter& painter, const QRectF& paper) {
                          QString problem;
                          if (!paintLabel(painter, paper, record, problem)) {
+                             // The paper is white with dark windows, too.
+                             painter.setPen(Qt::black);
                              painter.drawText(paper, Qt::AlignCenter | Qt::TextWordWrap, problem);
                          }
                      });

@@ -375,7 +375,7 @@ void TestLabelPainter::pictogramWithoutPictureShowsItsName()
 
 void TestLabelPainter::textFillsItsAreaWithoutBreakingWords()
 {
-    FittedText text{QFont()};
+    FittedText text;
     QVERIFY(text.isEmpty());
     text.addParagraph(QStringLiteral("two words"));
     QVERIFY(!text.isEmpty());
@@ -383,7 +383,7 @@ void TestLabelPainter::textFillsItsAreaWithoutBreakingWords()
     QVERIFY(wide > 500 && wide < 1000);
     // Half as wide, the words stand below each other; each is still whole.
     const int narrow = text.fittingSize(QSizeF(1000, 10000), 1000);
-    FittedText longer{QFont()};
+    FittedText longer;
     longer.addParagraph(QStringLiteral("words"));
     QCOMPARE(longer.fittingSize(QSizeF(1000, 10000), 1000), narrow);
     QCOMPARE(text.fittingSize(QSizeF(10000, 1000), 300), 300);
@@ -393,7 +393,7 @@ void TestLabelPainter::textFillsItsAreaWithoutBreakingWords()
 
 void TestLabelPainter::wordIsBrokenBeforeItBecomesTiny()
 {
-    FittedText text{QFont()};
+    FittedText text;
     text.addParagraph(QString(400, QLatin1Char('W')));
     // On one line of 1000 units the letters would be less than 3 units wide.
     QVERIFY(text.fittingSize(QSizeF(1000, 1000), 200) > 20);
