@@ -6,14 +6,28 @@
 #include <QtCore/QMetaMethod>
 #include <QtCore/QSizeF>
 #include <QtCore/QTime>
+#include <QtGui/QTextBlockFormat>
+#include <QtGui/QTextCursor>
 #include <QtWidgets/QDialog>
-#include <QtWidgets/QListWidget>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QTextEdit>
 #include <QtWidgets/QVBoxLayout>
 
 namespace SampleHost {
 
 namespace {
+
+constexpr int continuationIndent = 12;
+
+/** A text without line breaks, each of which would begin a new line of the log. */
+QString oneLine(QString text)
+{
+    for (const char16_t lineBreak : {u'\n', u'\r', u'\u2028', u'\u2029'}) {
+        text.replace(QChar(lineBreak), QLatin1Char(' '));
+    }
+    return text;
+}
 
 QString toText(const QVariant& value)
 {
@@ -80,19 +94,21 @@ private:
 
 EventLog::EventLog(QWidget* parent) : QWidget(parent)
 {
-    m_list = new QListWidget;
-    m_list->setObjectName(QStringLiteral("eventList"));
-    m_list->setAccessibleName(tr("Panel events"));
-    m_list->setSelectionMode(QAbstractItemView::NoSelection);
-    m_list->setFocusPolicy(Qt::NoFocus);
-    m_list->setFrameShape(QFrame::NoFrame);
-    m_list->setWordWrap(true);
-    m_list->setAlternatingRowColors(true);
+    m_view = new QTextEdit;
+    m_view->setObjectName(QStringLiteral("eventList"));
+    m_view->setAccessibleName(tr("Panel events"));
+    m_view->setReadOnly(true);
+    m_view->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_view->setFocusPolicy(Qt::NoFocus);
+    m_view->setFrameShape(QFrame::NoFrame);
+    // A list of records has no blank at which it could be wrapped.
+    m_view->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    m_view->document()->setMaximumBlockCount(capacity);
     auto* clearButton = new QPushButton(tr("Clear"));
     clearButton->setObjectName(QStringLiteral("clearEventsButton"));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(6, 6, 6, 6);
-    column->addWidget(m_list, 1);
+    column->addWidget(m_view, 1);
     column->addWidget(clearButton, 0, Qt::AlignRight);
     connect(clearButton, &QPushButton::clicked, this, &EventLog::clear);
 }
@@ -104,30 +120,31 @@ void EventLog::watch(const QWidget& panel, const QString& name)
     new SignalReceiver(panel, base.methodCount(), name, *this);
 }
 
-QStringList EventLog::lines() const
-{
-    QStringList lines;
-    for (int row = 0; row < m_list->count(); ++row) {
-        lines.append(m_list->item(row)->data(Qt::UserRole).toString());
-    }
-    return lines;
-}
-
 void EventLog::add(const QString& line)
 {
-    auto* item =
-        new QListWidgetItem(QTime::currentTime().toString(QStringLiteral("hh:mm:ss  ")) + line);
-    item->setData(Qt::UserRole, line);
-    m_list->addItem(item);
-    while (m_list->count() > capacity) {
-        delete m_list->takeItem(0);
+    m_lines.append(line);
+    while (m_lines.size() > capacity) {
+        m_lines.removeFirst();
     }
-    m_list->scrollToBottom();
+    // Shows where a line begins that is wrapped.
+    QTextBlockFormat format;
+    format.setLeftMargin(continuationIndent);
+    format.setTextIndent(-continuationIndent);
+    QTextCursor cursor(m_view->document());
+    cursor.movePosition(QTextCursor::End);
+    if (m_view->document()->isEmpty()) {
+        cursor.setBlockFormat(format);
+    } else {
+        cursor.insertBlock(format);
+    }
+    cursor.insertText(QTime::currentTime().toString(QStringLiteral("hh:mm:ss  ")) + oneLine(line));
+    m_view->verticalScrollBar()->setValue(m_view->verticalScrollBar()->maximum());
 }
 
 void EventLog::clear()
 {
-    m_list->clear();
+    m_lines.clear();
+    m_view->clear();
 }
 
 } // namespace SampleHost

@@ -7,7 +7,7 @@
 #include <QtCore/QStringList>
 #include <QtWidgets/QWidget>
 
-class QListWidget;
+class QTextEdit;
 
 namespace SampleHost {
 
@@ -31,7 +31,7 @@ public:
     void watch(const QWidget& panel, const QString& name);
 
     /** The lines without their times, oldest first. */
-    QStringList lines() const;
+    QStringList lines() const { return m_lines; }
 
 public Q_SLOTS:
     /** Adds a line. */
@@ -41,7 +41,8 @@ public Q_SLOTS:
     void clear();
 
 private:
-    QListWidget* m_list = nullptr;
+    QStringList m_lines;
+    QTextEdit* m_view = nullptr;
 };
 
 } // namespace SampleHost

@@ -7,10 +7,15 @@
 
 #include <printpanels/printwidget.h>
 
+#include <QtGui/QAbstractTextDocumentLayout>
+#include <QtGui/QTextBlock>
+#include <QtGui/QTextDocument>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QSpinBox>
+#include <QtWidgets/QTextEdit>
 
 #include <functional>
 
@@ -32,6 +37,7 @@ private Q_SLOTS:
     void keepsTheNewestLines();
     void canBeCleared();
     void distinguishesPanels();
+    void wrapsLongLines();
 
 private:
     std::unique_ptr<PrintWidget> m_panel;
@@ -143,6 +149,36 @@ void TestEventLog::distinguishesPanels()
     Q_EMIT m_panel->focusLost();
     QCOMPARE(m_log->lines(),
              (QStringList{QStringLiteral("B: focusLost()"), QStringLiteral("A: focusLost()")}));
+}
+
+void TestEventLog::wrapsLongLines()
+{
+    auto* view = m_log->findChild<QTextEdit*>(QStringLiteral("eventList"));
+    m_log->resize(240, 400);
+    m_log->show();
+    QStringList items;
+    for (int i = 1; i <= 60; ++i) {
+        items.append(QString::number(i * 10));
+    }
+    // Without a blank where it could be wrapped.
+    const QString line =
+        QStringLiteral("A: print(\"") + items.join(QLatin1Char(',')) + QStringLiteral("\n\")");
+    m_log->add(line);
+    m_log->add(QStringLiteral("B"));
+    QCOMPARE(m_log->lines().constFirst(), line);
+    const auto height = [view] {
+        QTextBlock block = view->document()->firstBlock();
+        return view->document()->documentLayout()->blockBoundingRect(block).height();
+    };
+    for (const int width : {240, 120, 500, 160}) {
+        m_log->resize(width, 400);
+        QCoreApplication::processEvents();
+        QCOMPARE(view->document()->blockCount(), 2);
+        QVERIFY(height() > 2 * view->fontMetrics().height());
+        // Nothing is cut off.
+        QVERIFY(view->document()->idealWidth() <= view->viewport()->width());
+        QCOMPARE(view->horizontalScrollBar()->maximum(), 0);
+    }
 }
 
 QTEST_MAIN(TestEventLog)
