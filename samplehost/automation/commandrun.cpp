@@ -36,23 +36,32 @@ bool CommandRun::choosePrinter(const QWidget& panel)
 {
     if (!m_command.output.isEmpty() &&
         !HostSettings::isFileName(QFileInfo(m_command.output).fileName())) {
-        return fail(RuntimeFailure, tr("\"%1\" is not the name of a file.").arg(m_command.output));
+        return fail(RuntimeFailure,
+                    tr("\"%1\" is not the name of a file. Write a name such as labels.pdf.")
+                        .arg(m_command.output));
     }
     auto* printers = panel.findChild<QComboBox*>(QStringLiteral("PrinterListCombo"));
     return m_command.printer.isEmpty() || InputSimulation::select(printers, m_command.printer) ||
-           fail(RuntimeFailure, tr("There is no printer \"%1\".").arg(m_command.printer));
+           fail(RuntimeFailure, tr("There is no printer \"%1\". Choose one that the panel lists.")
+                                    .arg(m_command.printer));
 }
 
 bool CommandRun::checkList(const QString& list)
 {
-    return !list.isEmpty() || fail(NothingToPrint, tr("The list is empty. Nothing is printed."));
+    return !list.isEmpty() ||
+           fail(NothingToPrint, tr("The list is empty. Write numbers and ranges such as "
+                                   "1,4-5. Nothing is printed."));
 }
 
-bool CommandRun::checkTypedList(const char* edit, const QString& list)
+bool CommandRun::checkTypedList(const char* edit, const QString& list, int count, ListItems items)
 {
+    const QString problem = listProblem(list, count, items);
+    if (!problem.isEmpty()) {
+        return fail(NothingToPrint, problem);
+    }
     const QString accepted = qobject_cast<QLineEdit*>(panelWidget(edit))->text();
     return accepted == list ||
-           fail(NothingToPrint, tr("The list \"%1\" cannot be read: the panel takes no more than "
+           fail(NothingToPrint, tr("The list \"%1\" is too long: the panel takes no more than "
                                    "\"%2\" of it. Nothing is printed.")
                                     .arg(list, accepted));
 }

@@ -5,6 +5,7 @@
 #define SAMPLEHOST_COMMANDRUN_H
 
 #include "samplehost/commandline/commandline.h"
+#include "samplehost/print/listproblem.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -60,8 +61,9 @@ protected:
     /** Selects the printer of the command line, if any, in a panel that lists printers. */
     bool choosePrinter(const QWidget& panel);
     bool checkList(const QString& list);
-    /** Checks that a line edit has accepted the whole list. */
-    bool checkTypedList(const char* edit, const QString& list);
+    /** Checks that a list names some of count items, and that a line edit has accepted all of it.
+     */
+    bool checkTypedList(const char* edit, const QString& list, int count, ListItems items);
     bool chooseCopies(const char* edit);
     bool clickPrint(const char* button);
 

@@ -71,9 +71,10 @@ bool DocumentRun::chooseCurrent()
     const int page = m_command.document.page;
     const int count = m_page.navigator().count();
     if (page > count) {
-        return fail(
-            NothingToPrint,
-            tr("There is no page %1 among the %2 pages. Nothing is printed.").arg(page).arg(count));
+        return fail(NothingToPrint,
+                    tr("There is no page %1; the last one is %2. Nothing is printed.")
+                        .arg(page)
+                        .arg(count));
     }
     m_page.navigator().setCurrentIndex(page - 1);
     return checkOffered(InputSimulation::click(panelWidget("currentPageRadio")));
@@ -82,23 +83,18 @@ bool DocumentRun::chooseCurrent()
 bool DocumentRun::chooseList()
 {
     const QString list = m_command.document.list;
-    const bool accepted = checkList(list) &&
-                          checkOffered(InputSimulation::click(panelWidget("selectionRadio")) &&
-                                       InputSimulation::type(panelWidget("pageListEdit"), list)) &&
-                          checkTypedList("pageListEdit", list);
-    if (accepted && m_page.preview().shownPage() < 1) {
-        return fail(NothingToPrint,
-                    tr("The list \"%1\" names none of the %2 pages. Nothing is printed.")
-                        .arg(list, QString::number(m_page.navigator().count())));
-    }
-    return accepted;
+    return checkList(list) &&
+           checkOffered(InputSimulation::click(panelWidget("selectionRadio")) &&
+                        InputSimulation::type(panelWidget("pageListEdit"), list)) &&
+           checkTypedList("pageListEdit", list, m_page.navigator().count(), ListItems::Pages);
 }
 
 bool DocumentRun::chooseOptions()
 {
     const DocumentCommand& document = m_command.document;
     if (document.formFillOnly && !setChecked("formFillCheck", true)) {
-        return fail(NothingToPrint, tr("The document has no form fields. Nothing is printed."));
+        return fail(NothingToPrint, tr("The document has no form fields. Print it without "
+                                       "--form-fill. Nothing is printed."));
     }
     const bool chosen =
         (!document.fitToPage || setChecked("fitToPageCheck", *document.fitToPage)) &&

@@ -24,7 +24,8 @@ namespace SampleHost {
 namespace {
 
 /** Writes a complete PNG file or none. */
-bool savePicture(const QPixmap& picture, const QString& path, QString& problem)
+bool savePicture(const QPixmap& picture, const QString& path, ExistingFile existing,
+                 QString& problem)
 {
     // Encoded in memory, because the encoder prints warnings when writing fails.
     QByteArray bytes;
@@ -33,7 +34,7 @@ bool savePicture(const QPixmap& picture, const QString& path, QString& problem)
         problem = HeadlessRun::tr("The picture of the window cannot be made.");
         return false;
     }
-    OutputFile file(path);
+    OutputFile file(path, existing);
     QIODevice* device = file.open(problem);
     if (device == nullptr) {
         return false;
@@ -69,6 +70,10 @@ void HeadlessRun::start()
 {
     applyOptions();
     m_window.show();
+    // Before anything is printed.
+    if (!checkScreenshot()) {
+        return;
+    }
     const QString problem = documentProblem(m_window);
     if (!problem.isEmpty()) {
         fail(CommandRun::RuntimeFailure, problem);
@@ -141,13 +146,24 @@ void HeadlessRun::finish()
     }
 }
 
+bool HeadlessRun::checkScreenshot()
+{
+    const QString& path = m_command.screenshot;
+    QString problem = m_window.settings().overwriteProblem(path);
+    if (problem.isEmpty() && !m_command.overwrite && QFileInfo(path).isFile()) {
+        problem = HostSettings::refusal(path);
+    }
+    return problem.isEmpty() || fail(CommandRun::RuntimeFailure, problem);
+}
+
 bool HeadlessRun::saveScreenshot()
 {
     InputSimulation::processEvents();
     QWidget* popup = openPopup(m_window);
     QWidget* picture = popup != nullptr ? popup : &m_window;
-    QString problem = m_window.settings().overwriteProblem(m_command.screenshot);
-    if (!problem.isEmpty() || !savePicture(picture->grab(), m_command.screenshot, problem)) {
+    const ExistingFile existing = m_command.overwrite ? ExistingFile::Replaced : ExistingFile::Kept;
+    QString problem;
+    if (!savePicture(picture->grab(), m_command.screenshot, existing, problem)) {
         return fail(CommandRun::RuntimeFailure, problem);
     }
     Q_EMIT reported(

@@ -42,6 +42,7 @@ private:
     void execute(CommandRun& run);
     void endJob(PrintJob::Outcome outcome, const QString& message);
     void finish();
+    bool checkScreenshot();
     bool saveScreenshot();
     bool fail(CommandRun::ExitCode code, const QString& message);
 

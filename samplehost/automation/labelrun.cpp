@@ -62,7 +62,7 @@ bool LabelRun::chooseCurrent()
 {
     const int count = m_page.navigator().count();
     if (m_command.currentRecord > count) {
-        return fail(NothingToPrint, tr("There is no record %1 among the %2 records. Nothing is "
+        return fail(NothingToPrint, tr("There is no record %1; the last one is %2. Nothing is "
                                        "printed.")
                                         .arg(m_command.currentRecord)
                                         .arg(count));
@@ -76,7 +76,8 @@ bool LabelRun::chooseList()
     return checkList(m_command.list) &&
            checkOffered(InputSimulation::click(panelWidget("recordListRadio")) &&
                         InputSimulation::type(panelWidget("recordListEdit"), m_command.list)) &&
-           checkTypedList("recordListEdit", m_command.list);
+           checkTypedList("recordListEdit", m_command.list, m_page.navigator().count(),
+                          ListItems::Records);
 }
 
 bool LabelRun::chooseNupMode()

@@ -58,6 +58,11 @@ bool needsNoDisplay(QLatin1String name)
 void CommandLine::applyTo(HostSettings& settings) const
 {
     settings.setOutputPath(output);
+    if (overwrite) {
+        settings.setReplacePolicy(ReplacePolicy::Replace);
+    } else if (isHeadless()) {
+        settings.setReplacePolicy(ReplacePolicy::Refuse);
+    }
     if (nup) {
         settings.setNup(*nup);
     }
@@ -76,15 +81,15 @@ CommandLine parseCommandLine(const QStringList& arguments, const HostParts& part
     addOptions(parser, HostParts());
     CommandLine result;
     if (!parser.parse(arguments)) {
-        result.problem = parser.errorText();
+        result.problem = parser.errorText() + QLatin1Char(' ') + tr("--help lists the options.");
         return result;
     }
     result.helpAsked =
         parser.isSet(QStringLiteral("help")) || parser.isSet(QStringLiteral("help-all"));
     result.versionAsked = parser.isSet(QStringLiteral("version"));
     if (!parser.positionalArguments().isEmpty()) {
-        result.problem =
-            tr("\"%1\" is not an option.").arg(parser.positionalArguments().constFirst());
+        result.problem = tr("\"%1\" is not an option. --help lists the options.")
+                             .arg(parser.positionalArguments().constFirst());
         return result;
     }
     CommandReader(parser, parts, result).read();

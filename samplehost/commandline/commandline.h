@@ -90,6 +90,8 @@ struct CommandLine
     bool printToFile = false;
     /** The PDF file to print to. */
     QString output;
+    /** Whether files of earlier runs are replaced without a question. */
+    bool overwrite = false;
     /** The printer to print to instead of a PDF file. */
     QString printer;
     /** The PNG file for a screenshot of the window. */

@@ -3,6 +3,9 @@
 
 #include "samplehost/commandline/commandreader.h"
 
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+
 #include <limits>
 
 namespace SampleHost {
@@ -191,6 +194,7 @@ void CommandReader::readPages()
 void CommandReader::readOutput()
 {
     m_result.output = value("output");
+    m_result.overwrite = has("overwrite");
     m_result.printer = value("printer");
     m_result.userBackground = has("background");
     m_result.printToFile = has("print-to-file");
@@ -248,6 +252,13 @@ void CommandReader::readWindow()
 {
     m_result.screenshot = value("screenshot");
     checkFileName("screenshot");
+    // Neither file may exist yet, so only their paths can be compared.
+    const auto file = [](const QString& path) {
+        return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    };
+    if (has("screenshot") && has("output") && file(m_result.screenshot) == file(m_result.output)) {
+        report(tr("--screenshot and --output need different files."));
+    }
     readState();
     m_result.host.testControls =
         has("test-controls") || m_result.printToFile || m_result.state == DemoState::TestControls;

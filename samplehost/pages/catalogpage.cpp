@@ -220,7 +220,11 @@ void CatalogPage::showPendingSize()
 
 void CatalogPage::setMessage(const QString& message)
 {
+    const bool cleared = message.isEmpty() && !m_message->text().isEmpty();
     m_message->setText(message);
+    if (cleared) {
+        Q_EMIT messageCleared();
+    }
 }
 
 QString CatalogPage::message() const

@@ -46,6 +46,8 @@ public:
 Q_SIGNALS:
     /** The user asked for a size in which the item cannot be printed; message() says why. */
     void sizeRefused(const QString& problem);
+    /** message() became empty. */
+    void messageCleared();
     /** The user wants to edit an item in its current size, in millimetres. */
     void editorRequested(const SampleHost::CatalogItem& item, const QSizeF& sizeMm);
 

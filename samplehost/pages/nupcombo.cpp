@@ -19,9 +19,12 @@ NupCombo::NupCombo(QWidget* parent) : QComboBox(parent)
 
 void NupCombo::offer(const NupLayout& layout)
 {
+    const QString rows = layout.rows == 1 ? tr("1 row") : tr("%1 rows").arg(layout.rows);
+    const QString columns =
+        layout.columns == 1 ? tr("1 column") : tr("%1 columns").arg(layout.columns);
     const QString text = layout.labelsPerPage() == 1
                              ? tr("One label a page")
-                             : tr("%1 rows x %2 columns").arg(layout.rows).arg(layout.columns);
+                             : tr("%1 x %2", "rows and columns of a sheet").arg(rows, columns);
     addItem(text, layout.text());
 }
 

@@ -56,7 +56,7 @@ bool PdfDocument::check(const QString& path, QString& problem)
         return false;
     }
     if (file.size() == 0) {
-        problem = tr("The file \"%1\" is empty.").arg(name);
+        problem = tr("The file \"%1\" is empty. Open another file.").arg(name);
         return false;
     }
     return true;
@@ -69,10 +69,13 @@ bool PdfDocument::show(const QString& path, QString& problem)
     case QPdfDocument::Error::None:
         return agrees(name, problem);
     case QPdfDocument::Error::IncorrectPassword:
-        problem = tr("The file \"%1\" is protected by a password.").arg(name);
+        problem =
+            tr("The file \"%1\" is protected by a password. Open a copy without one.").arg(name);
         return false;
     case QPdfDocument::Error::UnsupportedSecurityScheme:
-        problem = tr("The file \"%1\" is encrypted in a way that is not supported.").arg(name);
+        problem = tr("The file \"%1\" is encrypted in a way that is not supported. Open a copy "
+                     "that is not encrypted.")
+                      .arg(name);
         return false;
     default:
         problem = damageText(path);
@@ -109,12 +112,12 @@ bool PdfDocument::readObjects(const QString& path, QString& problem)
 bool PdfDocument::agrees(const QString& name, QString& problem) const
 {
     if (pageCount() == 0) {
-        problem = tr("The file \"%1\" has no pages.").arg(name);
+        problem = tr("The file \"%1\" has no pages. Open another file.").arg(name);
         return false;
     }
     // What is printed has to be what is shown.
     if (m_view->pageCount() != pageCount()) {
-        problem = tr("The file \"%1\" is damaged.").arg(name);
+        problem = tr("The file \"%1\" is damaged. Open another file.").arg(name);
         return false;
     }
     return true;
@@ -122,7 +125,7 @@ bool PdfDocument::agrees(const QString& name, QString& problem) const
 
 QString PdfDocument::damageText(const QString& path)
 {
-    return tr("The file \"%1\" is not a PDF document, or it is damaged.")
+    return tr("The file \"%1\" is not a PDF document, or it is damaged. Open another file.")
         .arg(QDir::toNativeSeparators(path));
 }
 

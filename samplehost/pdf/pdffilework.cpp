@@ -7,8 +7,9 @@
 
 namespace SampleHost {
 
-PdfFileWork::PdfFileWork(const PdfSheets& sheets, const QString& path, const QString& title)
-    : m_sheets(sheets), m_file(path), m_title(title)
+PdfFileWork::PdfFileWork(const PdfSheets& sheets, const QString& path, const QString& title,
+                         ExistingFile existing)
+    : m_sheets(sheets), m_file(path, existing), m_title(title)
 {
 }
 

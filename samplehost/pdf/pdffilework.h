@@ -18,11 +18,13 @@ class PdfFileWork : public PrintWork
 {
 public:
     /** Prints to path; title becomes the title of the file. */
-    PdfFileWork(const PdfSheets& sheets, const QString& path, const QString& title);
+    PdfFileWork(const PdfSheets& sheets, const QString& path, const QString& title,
+                ExistingFile existing);
     ~PdfFileWork() override;
 
     qint64 pageCount() const override;
     QString targetDescription() const override;
+    QString file() const override { return m_file.path(); }
     bool open(QString& problem) override;
     bool printPage(qint64 page, QString& problem) override;
     Completion complete(QString& problem) override;

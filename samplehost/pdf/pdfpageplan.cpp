@@ -3,6 +3,8 @@
 
 #include "samplehost/pdf/pdfpageplan.h"
 
+#include "samplehost/print/listproblem.h"
+
 #include <algorithm>
 
 namespace SampleHost {
@@ -31,18 +33,11 @@ PdfPagePlan::PdfPagePlan(const PdfPrintRequest& request, int pageCount)
 
 QString PdfPagePlan::problemText() const
 {
-    switch (problem()) {
-    case PagePlan::Problem::UnreadableList:
-        return tr("The list \"%1\" cannot be read. Nothing is printed.").arg(m_list);
-    case PagePlan::Problem::NoSuchRecord:
-        return m_list.isEmpty()
-                   ? tr("There is no such page. Nothing is printed.")
-                   : tr("The list \"%1\" names none of the %2 pages. Nothing is printed.")
-                         .arg(m_list, QString::number(m_pageCount));
-    case PagePlan::Problem::None:
-        break;
+    if (problem() == PagePlan::Problem::None) {
+        return QString();
     }
-    return QString();
+    return m_list.isEmpty() ? tr("There is no such page. Nothing is printed.")
+                            : listProblem(m_list, m_pageCount, ListItems::Pages);
 }
 
 int PdfPagePlan::pageOnSheet(qint64 sheet) const

@@ -21,10 +21,10 @@ QString pdfPrintProblem(const PdfDocument& document, const PdfPrintRequest& requ
 
 std::unique_ptr<PrintJob> makePdfFileJob(const PdfDocument& document,
                                          const PdfPrintRequest& request, const QString& path,
-                                         const QString& title)
+                                         const QString& title, ExistingFile existing)
 {
     return std::make_unique<PrintJob>(std::make_unique<PdfFileWork>(
-        PdfSheets(document, request), path, title.isEmpty() ? document.title() : title));
+        PdfSheets(document, request), path, title.isEmpty() ? document.title() : title, existing));
 }
 
 std::unique_ptr<PrintJob> makePdfPrinterJob(const PdfDocument& document,

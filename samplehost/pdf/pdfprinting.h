@@ -27,7 +27,8 @@ QString pdfPrintProblem(const PdfDocument& document, const PdfPrintRequest& requ
  */
 std::unique_ptr<PrintJob> makePdfFileJob(const PdfDocument& document,
                                          const PdfPrintRequest& request, const QString& path,
-                                         const QString& title = QString());
+                                         const QString& title = QString(),
+                                         ExistingFile existing = ExistingFile::Replaced);
 
 /** A job that paints a document on a target, as a printer wants it: the sheets become pictures. */
 std::unique_ptr<PrintJob> makePdfPrinterJob(const PdfDocument& document,

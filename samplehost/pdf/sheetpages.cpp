@@ -77,7 +77,9 @@ bool SheetPages::paint(QPainter& painter, QPagedPaintDevice& device, qint64 page
         if (paintSheet(painter, device, m_sheets.page(page))) {
             return true;
         }
-        problem = tr("There is not enough memory to print page %1.").arg(m_sheets.page(page) + 1);
+        problem =
+            tr("There is not enough memory to print page %1. Close other programs and print again.")
+                .arg(m_sheets.page(page) + 1);
     } catch (const std::exception&) {
         problem = m_sheets.damageText(page);
     }

@@ -11,7 +11,10 @@
 
 namespace SampleHost {
 
-OutputFile::OutputFile(const QString& path) : m_path(path) {}
+OutputFile::OutputFile(const QString& path, ExistingFile existing)
+    : m_path(path), m_existing(existing)
+{
+}
 
 OutputFile::~OutputFile()
 {
@@ -22,7 +25,7 @@ QIODevice* OutputFile::open(QString& problem)
 {
     const QFileInfo folder(QFileInfo(m_path).absolutePath());
     if (!folder.isDir()) {
-        problem = tr("The folder \"%1\" does not exist.")
+        problem = tr("The folder \"%1\" does not exist. Choose another folder.")
                       .arg(QDir::toNativeSeparators(folder.filePath()));
         return nullptr;
     }
@@ -35,6 +38,9 @@ QIODevice* OutputFile::open(QString& problem)
     if (existing.exists() && !existing.isFile()) {
         problem =
             message(existing.isDir() ? tr("it is a folder") : tr("it is not an ordinary file"));
+        return nullptr;
+    }
+    if (keepsExisting(problem)) {
         return nullptr;
     }
     m_file = std::make_unique<CheckedSaveFile>(m_path);
@@ -56,8 +62,23 @@ bool OutputFile::isHealthy(QString& problem)
     return false;
 }
 
+bool OutputFile::keepsExisting(QString& problem) const
+{
+    if (m_existing == ExistingFile::Replaced || !QFileInfo::exists(m_path)) {
+        return false;
+    }
+    problem = tr("The file \"%1\" exists by now and is kept. Choose another file.")
+                  .arg(QDir::toNativeSeparators(m_path));
+    return true;
+}
+
 bool OutputFile::commit(QString& problem)
 {
+    // Another program may have made a file meanwhile.
+    if (m_file && keepsExisting(problem)) {
+        discard();
+        return false;
+    }
     const bool committed = m_file && m_file->commitChecked();
     if (!committed) {
         problem = failure();

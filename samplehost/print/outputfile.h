@@ -15,6 +15,12 @@ namespace SampleHost {
 
 class CheckedSaveFile;
 
+/** What happens to a file that already has the name of a job's file. */
+enum class ExistingFile {
+    Replaced,
+    Kept ///< The job fails, even if the file appears only while it runs.
+};
+
 /**
  * The file that a job writes. It has a temporary name in its folder until it is complete, so that
  * nobody ever finds half a document, and a failed job does not change an older file of that name.
@@ -25,7 +31,7 @@ class OutputFile
     Q_DECLARE_TR_FUNCTIONS(OutputFile)
 
 public:
-    explicit OutputFile(const QString& path);
+    explicit OutputFile(const QString& path, ExistingFile existing = ExistingFile::Replaced);
     ~OutputFile();
 
     /** Opens the file. This object owns the device. Null with the reason in problem. */
@@ -40,15 +46,20 @@ public:
     /** Discards the file; does nothing if there is none. */
     void discard();
 
+    /** The path that was given. */
+    QString path() const { return m_path; }
+
     /** The absolute path with native separators. */
     QString description() const;
 
 private:
     Q_DISABLE_COPY_MOVE(OutputFile)
+    bool keepsExisting(QString& problem) const;
     QString failure() const;
     QString message(const QString& reason) const;
 
     QString m_path;
+    ExistingFile m_existing;
     std::unique_ptr<CheckedSaveFile> m_file;
 };
 

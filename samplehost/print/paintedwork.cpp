@@ -11,6 +11,11 @@ namespace SampleHost {
 
 PrintWork::~PrintWork() = default;
 
+QString PrintWork::file() const
+{
+    return QString();
+}
+
 PageSource::~PageSource() = default;
 
 QString PageSource::problemText() const
@@ -42,6 +47,11 @@ qint64 PaintedWork::pageCount() const
 QString PaintedWork::targetDescription() const
 {
     return m_target ? m_target->description() : QString();
+}
+
+QString PaintedWork::file() const
+{
+    return m_target ? m_target->file() : QString();
 }
 
 bool PaintedWork::open(QString& problem)

@@ -60,6 +60,7 @@ public:
 
     qint64 pageCount() const override;
     QString targetDescription() const override;
+    QString file() const override;
     bool open(QString& problem) override;
     bool printPage(qint64 page, QString& problem) override;
     Completion complete(QString& problem) override;

@@ -53,6 +53,9 @@ public:
     /** Where the output goes, as a text for the user. */
     QString targetDescription() const;
 
+    /** The path of the file that is printed to; empty for a printer. */
+    QString file() const { return m_work ? m_work->file() : QString(); }
+
 public Q_SLOTS:
     /** Starts printing when control returns to the event loop. A second call does nothing. */
     void start();

@@ -133,9 +133,11 @@ bool PrintQueue::submit(const QString& file, const QString& title, const QString
     if (withServer(deadline, call)) {
         return true;
     }
-    problem = deadline.hasExpired()
-                  ? tr("The printer \"%1\" does not answer.").arg(m_printerName)
-                  : tr("The printer \"%1\" did not take the job: %2").arg(m_printerName, reason);
+    problem =
+        deadline.hasExpired()
+            ? tr("The printer \"%1\" does not answer. Check that it is switched on and connected.")
+                  .arg(m_printerName)
+            : tr("The printer \"%1\" did not take the job: %2").arg(m_printerName, reason);
     return false;
 }
 

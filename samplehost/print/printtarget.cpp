@@ -63,7 +63,15 @@ bool isComplete(const QString& path)
 
 PrintTarget::~PrintTarget() = default;
 
-PdfTarget::PdfTarget(const QString& path, const QString& title) : m_file(path), m_title(title) {}
+QString PrintTarget::file() const
+{
+    return QString();
+}
+
+PdfTarget::PdfTarget(const QString& path, const QString& title, ExistingFile existing)
+    : m_file(path, existing), m_title(title)
+{
+}
 
 PdfTarget::~PdfTarget()
 {
@@ -125,13 +133,15 @@ QPagedPaintDevice* PrinterTarget::open(const QSizeF& sheetMm, QString& problem)
 {
     const QPrinterInfo info = QPrinterInfo::printerInfo(m_printerName);
     if (info.isNull()) {
-        problem = tr("The printer \"%1\" is not known to the system any more.").arg(m_printerName);
+        problem = tr("The printer \"%1\" is not known to the system. Choose another printer.")
+                      .arg(m_printerName);
         return nullptr;
     }
     m_printer = std::make_unique<QPrinter>(info, QPrinter::HighResolution);
     const bool hasQueue = PrintQueue::isSupported();
     if (!m_printer->isValid() || (hasQueue && PrintQueue(m_printerName).refusesJobs())) {
-        problem = tr("The printer \"%1\" does not accept jobs.").arg(m_printerName);
+        problem = tr("The printer \"%1\" does not accept jobs. Choose another printer.")
+                      .arg(m_printerName);
         m_printer.reset();
         return nullptr;
     }
@@ -170,7 +180,8 @@ bool PrinterTarget::isHealthy(QString& problem)
     const bool broken = !m_printer || m_printer->printerState() == QPrinter::Error ||
                         m_printer->printerState() == QPrinter::Aborted;
     if (broken) {
-        problem = tr("The printer \"%1\" stopped the job.").arg(m_printerName);
+        problem =
+            tr("The printer \"%1\" stopped the job. Check it and print again.").arg(m_printerName);
     } else {
         fitPaperToPage();
     }
@@ -203,7 +214,9 @@ bool PrinterTarget::commit(QString& problem)
 bool PrinterTarget::submit(QString& problem)
 {
     if (!isComplete(spoolPath())) {
-        problem = tr("The job cannot be stored: there is no room in %1.").arg(m_spool->path());
+        problem =
+            tr("The job cannot be stored: there is no room in %1. Make room there and print again.")
+                .arg(m_spool->path());
         return false;
     }
     return PrintQueue(m_printerName)

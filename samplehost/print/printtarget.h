@@ -55,6 +55,9 @@ public:
     /** The destination as a text for the user. */
     virtual QString description() const = 0;
 
+    /** The path of the file that commit() makes; empty, the default, if it makes none. */
+    virtual QString file() const;
+
     /** The resolution of the open device in dots per inch. */
     static constexpr int resolution = 600;
 
@@ -67,7 +70,8 @@ class PdfTarget : public PrintTarget
 {
 public:
     /** Prints to path; title becomes the title of the document. */
-    explicit PdfTarget(const QString& path, const QString& title = QString());
+    explicit PdfTarget(const QString& path, const QString& title = QString(),
+                       ExistingFile existing = ExistingFile::Replaced);
     ~PdfTarget() override;
 
     QPagedPaintDevice* open(const QSizeF& sheetMm, QString& problem) override;
@@ -76,6 +80,7 @@ public:
     bool abort() override;
     void discard() override;
     QString description() const override;
+    QString file() const override { return m_file.path(); }
 
 private:
     OutputFile m_file;

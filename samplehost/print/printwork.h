@@ -34,6 +34,9 @@ public:
     /** Where the output goes, as a text for the user. */
     virtual QString targetDescription() const = 0;
 
+    /** The path of the file that is written; empty, the default, if there is none. */
+    virtual QString file() const;
+
     /**
      * Makes the target ready for the first page. False with the reason in problem; work without
      * any page fails here too.

@@ -126,6 +126,13 @@ QString HostSettings::overwriteProblem(const QString& path) const
     return QString();
 }
 
+QString HostSettings::refusal(const QString& path)
+{
+    return tr("The file \"%1\" exists already. Choose another file, or add --overwrite to replace "
+              "it.")
+        .arg(QDir::toNativeSeparators(path));
+}
+
 void HostSettings::load()
 {
     const QSettings stored;

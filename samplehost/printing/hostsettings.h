@@ -25,6 +25,13 @@ QString paperName(Paper paper);
 /** The size of a paper in millimetres; empty for Paper::LabelSize. */
 QSizeF paperSizeMm(Paper paper);
 
+/** What happens before a job would replace a file of an earlier one. */
+enum class ReplacePolicy {
+    Ask,     ///< The user is asked.
+    Replace, ///< The file is replaced.
+    Refuse   ///< The job fails.
+};
+
 /** The settings for the output of all pages. */
 class HostSettings : public QObject
 {
@@ -74,6 +81,12 @@ public:
     /** Why a file must not be overwritten, for the user; empty if it may. */
     QString overwriteProblem(const QString& path) const;
 
+    /** What happens to files of earlier jobs. It is not stored. */
+    ReplacePolicy replacePolicy() const { return m_replacePolicy; }
+    void setReplacePolicy(ReplacePolicy policy) { m_replacePolicy = policy; }
+    /** Why a file of an earlier job is not replaced, for the user of the command line. */
+    static QString refusal(const QString& path);
+
     /** Loads what save() stored for this user. */
     void load();
     /** Stores the settings. Returns false, without a change to the stored ones, if that fails. */
@@ -104,6 +117,7 @@ private:
     QString m_dataFile;
     QString m_openDocument;
     bool m_metric = false;
+    ReplacePolicy m_replacePolicy = ReplacePolicy::Ask;
 };
 
 } // namespace SampleHost

@@ -206,9 +206,10 @@ void PdfPreview::updateTitle()
         m_dialog->setTitle(
             tr("%1 - page %2 of %3")
                 .arg(name, QString::number(m_shownPage), QString::number(m_document->pageCount())));
+        Q_EMIT problemSolved();
     } else {
         m_dialog->setTitle(tr("%1 - cannot be printed: %2").arg(name, problem()));
-        Q_EMIT statusChanged(tr("%1 cannot be printed: %2.").arg(name, problem()));
+        Q_EMIT problemFound(tr("%1 cannot be printed: %2.").arg(name, problem()));
     }
 }
 

@@ -65,6 +65,11 @@ Q_SIGNALS:
     void preferencesRequested();
     /** There is a text for the status bar. */
     void statusChanged(const QString& text);
+    /** The document, or what is selected of it, cannot be printed; reason says why, for the user.
+     */
+    void problemFound(const QString& reason);
+    /** What is selected can be printed. */
+    void problemSolved();
 
 private:
     void connectPanel();

@@ -17,7 +17,7 @@ namespace SampleHost {
 
 PdfPrintController::PdfPrintController(PdfPreview& preview, const HostSettings& settings,
                                        QObject* parent)
-    : JobController(parent), m_preview(preview), m_settings(settings)
+    : JobController(settings, parent), m_preview(preview)
 {
     connect(&preview.panel(), &MultiPagePrintWidget::widgetPrintSignal, this,
             &PdfPrintController::print);
@@ -30,9 +30,10 @@ void PdfPrintController::setDocument(std::shared_ptr<const PdfDocument> document
 
 void PdfPrintController::print(int sequenceStart, int sequenceEnd, const QString& customRecordsList)
 {
-    if (isPrinting() || !m_document) {
+    if (isBusy() || !m_document) {
         return;
     }
+    Q_EMIT requested();
     PdfPrintRequest request = m_preview.request();
     request.startPage = sequenceStart;
     request.endPage = sequenceEnd;
@@ -42,25 +43,16 @@ void PdfPrintController::print(int sequenceStart, int sequenceEnd, const QString
         Q_EMIT refused(reason);
         return;
     }
-    QString problem;
-    std::unique_ptr<PrintJob> job = makeJob(request, problem);
-    startJob(std::move(job), problem);
-}
-
-std::unique_ptr<PrintJob> PdfPrintController::makeJob(const PdfPrintRequest& request,
-                                                      QString& problem) const
-{
     const QString printer = m_preview.panel().getSelectedPrinter();
-    if (printer != PrinterDirectory::pdfFileName()) {
-        return makePdfPrinterJob(*m_document, request,
-                                 std::make_unique<PrinterTarget>(printer, m_document->title()));
+    if (printer == PrinterDirectory::pdfFileName()) {
+        startFileJob([document = m_document, request](const QString& path, ExistingFile existing) {
+            return makePdfFileJob(*document, request, path, QString(), existing);
+        });
+    } else {
+        startJob(makePdfPrinterJob(*m_document, request,
+                                   std::make_unique<PrinterTarget>(printer, m_document->title())),
+                 QString());
     }
-    const QString path = m_settings.outputPath();
-    problem = m_settings.overwriteProblem(path);
-    if (!problem.isEmpty()) {
-        return nullptr;
-    }
-    return makePdfFileJob(*m_document, request, path);
 }
 
 void PdfPrintController::showPrinting(bool printing)

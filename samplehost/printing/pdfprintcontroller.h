@@ -31,10 +31,8 @@ protected:
 
 private:
     void print(int sequenceStart, int sequenceEnd, const QString& customRecordsList);
-    std::unique_ptr<PrintJob> makeJob(const PdfPrintRequest& request, QString& problem) const;
 
     PdfPreview& m_preview;
-    const HostSettings& m_settings;
     std::shared_ptr<const PdfDocument> m_document;
 };
 

@@ -5,6 +5,7 @@
 
 #include "samplehost/designs/labeldesign.h"
 #include "samplehost/designs/requestsheet.h"
+#include "samplehost/print/listproblem.h"
 #include "samplehost/printing/hostsettings.h"
 #include "samplehost/printing/printerdirectory.h"
 #include "samplehost/printing/printtofile.h"
@@ -24,7 +25,7 @@ const QString noPrinter = QStringLiteral("No printer");
 
 PrintController::PrintController(PrintWidgetInterface& panel, const LabelDesign& design,
                                  const HostSettings& settings, QObject* parent)
-    : JobController(parent), m_panel(panel), m_design(design), m_settings(settings)
+    : JobController(settings, parent), m_panel(panel), m_design(design), m_settings(settings)
 {
     using Panel = PrintWidgetInterface;
     connect(&panel, &Panel::widgetPrintSignal, this, &PrintController::print);
@@ -61,32 +62,26 @@ QString PrintController::selectedPrinter() const
 bool PrintController::isReady() const
 {
     const QString printer = selectedPrinter();
-    return !isPrinting() && !printer.isEmpty() && printer != noPrinter;
+    return !isBusy() && !printer.isEmpty() && printer != noPrinter;
 }
 
 bool PrintController::makePlan(const PrintRequest& request, PagePlan& plan)
 {
     const int records = m_design.recordCount();
     plan = PagePlan::make(request, records);
-    const QString& list = request.customRecordsList;
-    switch (plan.problem()) {
-    case PagePlan::Problem::None:
+    if (plan.problem() == PagePlan::Problem::None) {
         return true;
-    case PagePlan::Problem::UnreadableList:
-        Q_EMIT refused(tr("The list \"%1\" cannot be read. Nothing is printed.").arg(list));
-        break;
-    case PagePlan::Problem::NoSuchRecord:
-        Q_EMIT refused(list.isEmpty()
-                           ? tr("There is no such record. Nothing is printed.")
-                           : tr("The list \"%1\" names none of the %2 records. Nothing is printed.")
-                                 .arg(list, QString::number(records)));
-        break;
     }
+    const QString& list = request.customRecordsList;
+    Q_EMIT refused(list.isEmpty() ? tr("There is no such record. Choose another one, or reload the "
+                                       "data. Nothing is printed.")
+                                  : listProblem(list, records, ListItems::Records));
     return false;
 }
 
 void PrintController::preview(int sequenceStart, int sequenceEnd, const QString& customRecordsList)
 {
+    Q_EMIT requested();
     const PrintRequest wanted = request(sequenceStart, sequenceEnd, customRecordsList);
     PagePlan plan;
     if (!makePlan(wanted, plan)) {
@@ -116,33 +111,38 @@ void PrintController::printAgain(const PrintRequest& request)
 
 void PrintController::printRequest(const PrintRequest& request)
 {
-    PagePlan plan;
-    if (isPrinting() || !makePlan(request, plan)) {
+    if (isBusy()) {
         return;
     }
-    QString problem;
-    std::unique_ptr<PrintJob> job;
-    if (auto target = makeTarget(problem)) {
-        job = std::make_unique<PrintJob>(plan, sheetOf(m_design, request),
-                                         m_design.painter(request), std::move(target));
+    Q_EMIT requested();
+    PagePlan plan;
+    if (!makePlan(request, plan)) {
+        return;
     }
-    startJob(std::move(job), problem);
+    const auto makeJob = [plan, sheet = sheetOf(m_design, request),
+                          painter = m_design.painter(request)](auto target) {
+        return std::make_unique<PrintJob>(plan, sheet, painter, std::move(target));
+    };
+    const QString title = m_design.title();
+    const QString printer = selectedPrinter();
+    if (m_panel.getPrintToFileEnabled()) {
+        QString problem;
+        auto target = makeTestFile(problem);
+        startJob(target ? makeJob(std::move(target)) : nullptr, problem);
+    } else if (printer == PrinterDirectory::pdfFileName()) {
+        startFileJob([makeJob, title](const QString& path, ExistingFile existing) {
+            return makeJob(std::make_unique<PdfTarget>(path, title, existing));
+        });
+    } else {
+        startJob(makeJob(std::make_unique<PrinterTarget>(printer, title)), QString());
+    }
 }
 
-std::unique_ptr<PrintTarget> PrintController::makeTarget(QString& problem) const
+std::unique_ptr<PrintTarget> PrintController::makeTestFile(QString& problem) const
 {
-    const QString title = m_design.title();
-    if (m_panel.getPrintToFileEnabled()) {
-        const QString path = nextPrintTestFile(m_settings.outputFolder(), problem);
-        return path.isEmpty() ? nullptr : std::make_unique<PdfTarget>(path, title);
-    }
-    const QString printer = selectedPrinter();
-    if (printer == PrinterDirectory::pdfFileName()) {
-        const QString path = m_settings.outputPath();
-        problem = m_settings.overwriteProblem(path);
-        return problem.isEmpty() ? std::make_unique<PdfTarget>(path, title) : nullptr;
-    }
-    return std::make_unique<PrinterTarget>(printer, title);
+    const QString path = nextPrintTestFile(m_settings.outputFolder(), problem);
+    return path.isEmpty() ? nullptr
+                          : std::make_unique<PdfTarget>(path, m_design.title(), ExistingFile::Kept);
 }
 
 void PrintController::showPrinting(bool printing)

@@ -53,7 +53,7 @@ private:
     void printRequest(const PrintRequest& request);
     bool makePlan(const PrintRequest& request, PagePlan& plan);
     QString selectedPrinter() const;
-    std::unique_ptr<PrintTarget> makeTarget(QString& problem) const;
+    std::unique_ptr<PrintTarget> makeTestFile(QString& problem) const;
 
     PrintWidgetInterface& m_panel;
     const LabelDesign& m_design;

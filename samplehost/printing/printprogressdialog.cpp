@@ -39,7 +39,8 @@ PrintProgressDialog::PrintProgressDialog(PrintJob& job, QWidget* parent)
 
 void PrintProgressDialog::showProgress(qint64 pagesDone, qint64 pageCount)
 {
-    setLabelText(tr("%1 of %2 pages printed").arg(pagesDone).arg(pageCount));
+    setLabelText(pageCount == 1 ? tr("%1 of 1 page printed").arg(pagesDone)
+                                : tr("%1 of %2 pages printed").arg(pagesDone).arg(pageCount));
     // QProgressDialog::setValue() would show the dialog earlier and hide it at the last page.
     m_bar->setValue(pageCount > 0 ? int(pagesDone * maximum() / pageCount) : 0);
 }

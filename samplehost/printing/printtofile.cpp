@@ -25,7 +25,8 @@ QString nextPrintTestFile(const QString& outputFolder, QString& problem)
     const QDir folder(QDir(outputFolder).filePath(QStringLiteral("guest/logs")));
     if (!folder.mkpath(QStringLiteral("."))) {
         problem = explain(
-            QT_TRANSLATE_NOOP("SampleHost::PrintToFile", "The folder \"%1\" cannot be made."),
+            QT_TRANSLATE_NOOP("SampleHost::PrintToFile",
+                              "The folder \"%1\" cannot be made. Choose another output folder."),
             folder.path());
         return {};
     }

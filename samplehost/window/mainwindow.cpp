@@ -5,18 +5,17 @@
 
 #include "samplehost/pages/labelpage.h"
 #include "samplehost/print/printqueue.h"
-#include "samplehost/printing/printprogressdialog.h"
 #include "samplehost/simulator/supplysimulator.h"
 #include "samplehost/window/combolists.h"
 #include "samplehost/window/errormessages.h"
 #include "samplehost/window/eventlog.h"
 #include "samplehost/window/messagebox.h"
 #include "samplehost/window/preferencesdialog.h"
+#include "samplehost/window/statusmessages.h"
 
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QMessageBox>
-#include <QtWidgets/QStatusBar>
 #include <QtWidgets/QTabWidget>
 
 #include <algorithm>
@@ -35,13 +34,16 @@ MainWindow::MainWindow(const HostOptions& options, QWidget* parent)
 {
     setWindowTitle(tr("Sample Host"));
     m_settings.setPrinter(PrinterDirectory::pdfFileName());
+    createStatusBar();
     createDocks();
     createPages(options);
     createMenus();
     connect(&m_settings, &HostSettings::changed, this, &MainWindow::refreshPrinterStates);
-    statusBar()->showMessage(m_dataSourceProblem.isEmpty()
-                                 ? m_labelPage->design().sourceDescription()
-                                 : m_dataSourceProblem);
+    if (m_dataSourceProblem.isEmpty()) {
+        m_status->show(m_labelPage->design().sourceDescription());
+    } else {
+        m_status->showError(m_dataSourceProblem);
+    }
     nameComboLists(*this);
     resize(windowSize);
 }
@@ -78,6 +80,8 @@ void MainWindow::createMenus()
     QMenu* file = menuBar()->addMenu(tr("&File"));
     addDocumentActions(*file);
     file->addAction(tr("&Print"), QKeySequence::Print, this, [this] { currentPage().print(); });
+    file->addAction(tr("Save PDF &As..."), QKeySequence::SaveAs, this, &MainWindow::savePdfAs)
+        ->setObjectName(QStringLiteral("savePdfAction"));
     file->addAction(tr("Print Pre&view"), this, [this] { currentPage().showPreview(); });
     file->addAction(tr("&Count Pages"), this, &MainWindow::countPages)
         ->setObjectName(QStringLiteral("countPagesAction"));
@@ -101,7 +105,7 @@ void MainWindow::createMenus()
 
 void MainWindow::addUnitAction(QMenu& menu)
 {
-    QAction* metric = menu.addAction(tr("Sizes in &Millimeters"));
+    QAction* metric = menu.addAction(tr("Sizes in &Millimetres"));
     metric->setObjectName(QStringLiteral("metricAction"));
     metric->setCheckable(true);
     connect(metric, &QAction::toggled, &m_settings, &HostSettings::setMetric);
@@ -131,8 +135,8 @@ void MainWindow::countPages()
 {
     const qint64 pages = currentPage().pageCount();
     if (pages >= 0) {
-        statusBar()->showMessage(pages == 1 ? tr("1 page would be printed.")
-                                            : tr("%1 pages would be printed.").arg(pages));
+        m_status->show(pages == 1 ? tr("1 page would be printed.")
+                                  : tr("%1 pages would be printed.").arg(pages));
     }
 }
 
@@ -145,7 +149,7 @@ void MainWindow::reloadData()
     }
     m_dataSourceProblem.clear();
     m_labelPage->setSource(std::move(source));
-    statusBar()->showMessage(m_labelPage->design().sourceDescription());
+    m_status->show(m_labelPage->design().sourceDescription());
 }
 
 void MainWindow::persistSettings()
@@ -158,7 +162,8 @@ bool MainWindow::saveSettings()
 {
     const bool saved = m_settings.save();
     if (!saved) {
-        statusBar()->showMessage(tr("The settings cannot be kept for the next start."));
+        m_status->showError(tr("The settings cannot be kept for the next start. Check that your "
+                               "settings folder can be written."));
     }
     return saved;
 }
@@ -168,31 +173,6 @@ void MainWindow::openPreferences()
     auto* dialog = new PreferencesDialog(m_settings, frontWindow());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
-}
-
-void MainWindow::showJob(PrintJob* job)
-{
-    statusBar()->showMessage(tr("Printing to %1").arg(job->targetDescription()));
-    new PrintProgressDialog(*job, frontWindow());
-}
-
-void MainWindow::showOutcome(PrintJob::Outcome outcome, const QString& message)
-{
-    // The state of the printer may have changed with the job.
-    refreshPrinterStates();
-    if (outcome == PrintJob::Outcome::Failed) {
-        // The log keeps the message when the message box is closed.
-        m_log->add(tr("Host: %1").arg(message));
-        showError(message);
-    } else {
-        statusBar()->showMessage(message);
-    }
-}
-
-void MainWindow::showError(const QString& message)
-{
-    statusBar()->showMessage(message);
-    showMessage(frontWindow(), tr("Printing"), message);
 }
 
 void MainWindow::showPrintError(int number)

@@ -20,10 +20,13 @@ namespace SampleHost {
 class CatalogPage;
 class EventLog;
 class HostPage;
+class JobController;
 class LabelPage;
 class PdfPage;
 class PipePage;
 class PrintPage;
+class PrintedFileBar;
+class StatusMessages;
 class SupplySimulator;
 
 /** The window of the sample host: its pages, the simulated printer and the event log. */
@@ -71,9 +74,11 @@ public:
 private:
     static bool hasDocuments();
     void createPages(const HostOptions& options);
+    void createStatusBar();
     void createDocks();
     void createMenus();
     void addUnitAction(QMenu& menu);
+    void connectController(JobController& controller);
     void addPage(HostPage* page, const QString& title);
     void addPrintPage(PrintPage* page, const QString& title, const QString& logName);
     void connectPanel(PrintPage& page);
@@ -86,6 +91,7 @@ private:
     void countPages();
     void reloadData();
     void openPreferences();
+    void savePdfAs();
     void showJob(PrintJob* job);
     void showOutcome(PrintJob::Outcome outcome, const QString& message);
     void showError(const QString& message);
@@ -97,6 +103,8 @@ private:
     HostSettings m_settings;
     PrinterDirectory m_printers;
     QString m_dataSourceProblem;
+    StatusMessages* m_status = nullptr;
+    PrintedFileBar* m_printedFile = nullptr;
     QTabWidget* m_pages = nullptr;
     LabelPage* m_labelPage = nullptr;
     PipePage* m_pipePage = nullptr;

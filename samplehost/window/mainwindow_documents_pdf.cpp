@@ -5,12 +5,12 @@
 #include "samplehost/printing/pdfpreview.h"
 #include "samplehost/window/eventlog.h"
 #include "samplehost/window/mainwindow.h"
+#include "samplehost/window/statusmessages.h"
 
 #include <printpanels/multipageprintdialog.h>
 #include <printpanels/multipageprintwidget.h>
 
 #include <QtWidgets/QMenu>
-#include <QtWidgets/QStatusBar>
 
 namespace SampleHost {
 
@@ -24,15 +24,16 @@ void MainWindow::addDocumentPage(const QString& document)
     m_pdfPage = new PdfPage(m_settings, m_printers);
     m_log->watch(m_pdfPage->preview().panel(), tr("Documents"));
     addPage(m_pdfPage, tr("Documents"));
-    const auto showStatus = [this](const QString& text) { statusBar()->showMessage(text); };
-    connect(m_pdfPage, &PdfPage::opened, this, [this, showStatus](const QString& path) {
+    connect(m_pdfPage, &PdfPage::opened, this, [this](const QString& path) {
         setCurrentPage(*m_pdfPage);
-        showStatus(tr("Opened %1").arg(path));
+        m_status->show(tr("Opened %1").arg(path));
     });
-    connect(&m_pdfPage->preview(), &PdfPreview::statusChanged, this, showStatus);
+    const PdfPreview* preview = &m_pdfPage->preview();
+    connect(preview, &PdfPreview::statusChanged, m_status, &StatusMessages::show);
+    connect(preview, &PdfPreview::problemFound, m_status, &StatusMessages::showError);
+    connect(preview, &PdfPreview::problemSolved, m_status, &StatusMessages::clearError);
     connect(m_pdfPage, &PdfPage::openFailed, this, &MainWindow::showError);
-    connect(&m_pdfPage->preview(), &PdfPreview::preferencesRequested, this,
-            &MainWindow::openPreferences);
+    connect(preview, &PdfPreview::preferencesRequested, this, &MainWindow::openPreferences);
     if (!document.isEmpty()) {
         m_pdfPage->open(document);
     }

@@ -8,12 +8,12 @@
 #include "samplehost/simulator/supplysimulator.h"
 #include "samplehost/window/eventlog.h"
 #include "samplehost/window/mainwindow.h"
+#include "samplehost/window/statusmessages.h"
 
 #include <printpanels/printpreviewdialog.h>
 #include <printpanels/printwidget.h>
 #include <printpanels/quickprintwidget.h>
 
-#include <QtWidgets/QStatusBar>
 #include <QtWidgets/QTabWidget>
 
 #include <utility>
@@ -26,6 +26,7 @@ void MainWindow::createPages(const HostOptions& options)
     m_pages->setDocumentMode(true);
     m_pages->setAccessibleName(tr("Pages"));
     setCentralWidget(m_pages);
+    connect(m_pages, &QTabWidget::currentChanged, m_status, &StatusMessages::clearError);
     auto source = RecordSource::open(m_dataSource, &m_dataSourceProblem);
     m_settings.setDataFile(RecordSource::filePath(m_dataSource));
     auto design = std::make_unique<ChemicalDesign>(std::move(source), m_dataSourceProblem);
@@ -39,10 +40,7 @@ void MainWindow::createPages(const HostOptions& options)
 
 void MainWindow::addPage(HostPage* page, const QString& title)
 {
-    const JobController* controller = &page->controller();
-    connect(controller, &JobController::refused, this, &MainWindow::showError);
-    connect(controller, &JobController::jobStarted, this, &MainWindow::showJob);
-    connect(controller, &JobController::jobEnded, this, &MainWindow::showOutcome);
+    connectController(page->controller());
     m_pages->addTab(page, title);
 }
 
@@ -65,7 +63,8 @@ void MainWindow::addCatalogPage()
     m_log->watch(m_catalogPage->panel(), tr("Catalogue"));
     // The page shows the problem itself, so no message box is needed.
     connect(m_catalogPage, &CatalogPage::sizeRefused, this,
-            [this](const QString& problem) { statusBar()->showMessage(problem); });
+            [this](const QString& problem) { m_status->showError(problem); });
+    connect(m_catalogPage, &CatalogPage::messageCleared, m_status, &StatusMessages::clearError);
     connect(m_catalogPage, &CatalogPage::editorRequested, this,
             [this](const CatalogItem& item, const QSizeF& sizeMm) {
                 m_labelPage->openItem(item, sizeMm);

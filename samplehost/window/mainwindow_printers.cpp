@@ -4,11 +4,11 @@
 #include "samplehost/pages/labelpage.h"
 #include "samplehost/pages/pipepage.h"
 #include "samplehost/window/mainwindow.h"
+#include "samplehost/window/statusmessages.h"
 
 #include <printpanels/printwidget.h>
 
 #include <QtWidgets/QInputDialog>
-#include <QtWidgets/QStatusBar>
 
 namespace SampleHost {
 
@@ -53,7 +53,10 @@ void MainWindow::addPrinter(const QString& name)
 {
     const QString printer = name.trimmed();
     if (!m_printers.add(printer)) {
-        statusBar()->showMessage(tr("There is already a printer of this name, or it has none."));
+        m_status->showError(
+            printer.isEmpty()
+                ? tr("Enter the name of the printer.")
+                : tr("There is already a printer \"%1\". Choose it in the panel.").arg(printer));
         return;
     }
     m_labelPage->panel().addPrinterToList(printer, false);

@@ -65,7 +65,7 @@ void PreferencesDialog::createWidgets()
     form->addRow(tr("Sheet:"), m_nupCombo);
     m_unitCombo = new QComboBox;
     m_unitCombo->setObjectName(QStringLiteral("preferencesUnitCombo"));
-    m_unitCombo->addItems({tr("Inches"), tr("Millimeters")});
+    m_unitCombo->addItems({tr("Inches"), tr("Millimetres")});
     form->addRow(tr("Sizes in:"), m_unitCombo);
 
     m_problemLabel = new QLabel;
@@ -111,7 +111,7 @@ void PreferencesDialog::checkEntries()
     const QString name = m_fileEdit->text();
     const QString folder = m_folderEdit->text();
     if (folder.contains(QChar::Null) || !QFileInfo(folder).isDir()) {
-        problem = tr("This folder does not exist.");
+        problem = tr("This folder does not exist. Choose another one.");
     } else if (!HostSettings::isFileName(name) || name == QLatin1String(".") ||
                name == QLatin1String("..")) {
         problem = tr("Enter a file name without a folder.");

@@ -255,7 +255,8 @@ void TestCupsPrinting::programExplainsAMissingQueue()
     QCOMPARE(runProgram({QStringLiteral("--print"), QStringLiteral("1"),
                          QStringLiteral("--printer"), QStringLiteral("Ramp")}),
              1);
-    QCOMPARE(m_error, QStringLiteral("There is no printer \"Ramp\".\n"));
+    QCOMPARE(m_error,
+             QStringLiteral("There is no printer \"Ramp\". Choose one that the panel lists.\n"));
     QCOMPARE(m_out, QString());
     QCOMPARE(server().outputs(), QStringList());
 }

@@ -150,8 +150,9 @@ void TestCupsQueues::refusalIsExplained_data()
     addColumns<int, bool, QString, QString>("trouble", "whilePrinting", "reason", "status");
 
     const QString unknown =
-        QStringLiteral("The printer \"Hall\" is not known to the system any more.");
-    const QString refuses = QStringLiteral("The printer \"Hall\" does not accept jobs.");
+        QStringLiteral("The printer \"Hall\" is not known to the system. Choose another printer.");
+    const QString refuses =
+        QStringLiteral("The printer \"Hall\" does not accept jobs. Choose another printer.");
     const QString notTaken = QStringLiteral("The printer \"Hall\" did not take the job: ");
     const QString offline = QStringLiteral("Offline, Unavailable");
     const QString unavailable = QStringLiteral("Online, Unavailable");
@@ -221,7 +222,8 @@ void TestCupsQueues::goneServerIsExplained_data()
 {
     addColumns<bool, QString>("whilePrinting", "reason");
 
-    addRow("before printing", false, "The printer \"Hall\" is not known to the system any more.");
+    addRow("before printing", false,
+           "The printer \"Hall\" is not known to the system. Choose another printer.");
     addRow("while printing", true, "The printer \"Hall\" did not take the job: ");
 }
 

@@ -78,7 +78,8 @@ void TestCatalogCommands::previewRefusesWhatThePanelRefuses()
              qPrintable(error()));
     QVERIFY(!QFile::exists(path("out.pdf")));
     QCOMPARE(run(QStringLiteral("--preview --print 1 --output missing/out.pdf")), 1);
-    QCOMPARE(error(), QStringLiteral("The folder \"%1\" does not exist.\n").arg(shown("missing")));
+    QCOMPARE(error(), QStringLiteral("The folder \"%1\" does not exist. Choose another folder.\n")
+                          .arg(shown("missing")));
 }
 
 void TestCatalogCommands::printsItems_data()
@@ -150,7 +151,8 @@ void TestCatalogCommands::itemsNeedNoData()
     QCOMPARE(run(QStringLiteral("--catalog EXIT --output out.pdf --database .")), 0);
     QCOMPARE(pdfPages(path("out.pdf")).size(), qsizetype(1));
     QCOMPARE(run(QStringLiteral("--catalog EXIT --printer Nobody")), 1);
-    QCOMPARE(error(), QStringLiteral("There is no printer \"Nobody\".\n"));
+    QCOMPARE(error(),
+             QStringLiteral("There is no printer \"Nobody\". Choose one that the panel lists.\n"));
 }
 
 QTEST_MAIN(TestCatalogCommands)

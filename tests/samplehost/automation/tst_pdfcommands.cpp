@@ -140,19 +140,26 @@ void TestPdfCommands::printsNothingForPagesThatDoNotExist_data()
 {
     addColumns<QString, QString>("arguments", "reason");
 
-    const QString none =
-        QStringLiteral("The list \"%1\" names none of the 12 pages. Nothing is printed.\n");
-    const QString takes = QStringLiteral("The list \"%1\" cannot be read: the panel takes no more "
-                                         "than \"%2\" of it. Nothing is printed.\n");
-    addRow("beyond the last", "--pages 13", none.arg(QStringLiteral("13")));
-    addRow("reversed", "--pages 5-2", none.arg(QStringLiteral("5-2")));
-    addRow("unfinished", "--pages 4,", "The list \"4,\" cannot be read. Nothing is printed.\n");
-    addRow("zero", "--pages 0", takes.arg(QStringLiteral("0"), QString()));
-    addRow("letters", "--pages 2,x", takes.arg(QStringLiteral("2,x"), QStringLiteral("2,")));
-    addRow("empty", "--pages=", "The list is empty. Nothing is printed.\n");
-    addRow("page", "--page 13", "There is no page 13 among the 12 pages. Nothing is printed.\n");
+    const QString write =
+        QStringLiteral("Write numbers and ranges such as 1,4-5. Nothing is printed.\n");
+    addRow("beyond the last", "--pages 13",
+           "The list \"13\" names none of the 12 pages: there is no page 13. Write numbers from 1 "
+           "to 12. Nothing is printed.\n");
+    addRow("reversed", "--pages 5-2",
+           "The list \"5-2\" names none of the 12 pages: \"5-2\" runs backwards. Write 2-5. "
+           "Nothing is printed.\n");
+    addRow("unfinished", "--pages 4,",
+           QStringLiteral("The list \"4,\" cannot be read: a page number is missing beside a "
+                          "comma. ") +
+               write);
+    addRow("zero", "--pages 0",
+           QStringLiteral("The list \"0\" cannot be read: \"0\" is not a page number. ") + write);
+    addRow("letters", "--pages 2,x",
+           QStringLiteral("The list \"2,x\" cannot be read: \"x\" is not a page number. ") + write);
+    addRow("empty", "--pages=", QStringLiteral("The list is empty. ") + write);
+    addRow("page", "--page 13", "There is no page 13; the last one is 12. Nothing is printed.\n");
     addRow("no form", "--all-pages --form-fill",
-           "The document has no form fields. Nothing is printed.\n");
+           "The document has no form fields. Print it without --form-fill. Nothing is printed.\n");
 }
 
 void TestPdfCommands::printsNothingForPagesThatDoNotExist()
@@ -176,15 +183,15 @@ void TestPdfCommands::failuresAreExplained_data()
            "The file \"gone.pdf\" does not exist.\n");
     addRow("broken", "--document broken.pdf --page 1 --output out.pdf",
            "The file \"broken.pdf\" is not a PDF document, or "
-           "it is damaged.\n");
+           "it is damaged. Open another file.\n");
     addRow("encrypted", "--document locked.pdf --pages 1 --output out.pdf",
-           "The file \"locked.pdf\" is protected by a password.\n");
+           "The file \"locked.pdf\" is protected by a password. Open a copy without one.\n");
     addRow("broken, picture", "--document broken.pdf --screenshot out.png",
-           "The file \"broken.pdf\" is not a PDF document, or it is damaged.\n");
+           "The file \"broken.pdf\" is not a PDF document, or it is damaged. Open another file.\n");
     addRow("folder", "--document in.pdf --page 1 --output no/out.pdf",
-           "The folder \"%1/no\" does not exist.\n");
+           "The folder \"%1/no\" does not exist. Choose another folder.\n");
     addRow("printer", "--document in.pdf --page 1 --printer Nobody",
-           "There is no printer \"Nobody\".\n");
+           "There is no printer \"Nobody\". Choose one that the panel lists.\n");
     addRow("itself", "--document in.pdf --page 1 --output in.pdf",
            "Printing to \"%1/in.pdf\" would replace the document itself. "
            "Choose another PDF file in the preferences.\n");
@@ -211,7 +218,8 @@ void TestPdfCommands::optionsReachTheSheets()
 {
     const PdfSamples::Page page{QSizeF(300, 400), "0 300 100 100 re f", {}};
     QVERIFY(PdfSamples::write(path("in.pdf"), PdfSamples::pages({page})));
-    const QString command = QStringLiteral("--document in.pdf --page 1 --output out.pdf ");
+    const QString command =
+        QStringLiteral("--document in.pdf --page 1 --output out.pdf --overwrite ");
     QCOMPARE(run(command), 0);
     QRectF ink = PdfOutput::ink(path("out.pdf"));
     QVERIFY2(PdfOutput::agree(ink, QRectF(0, 0, 100, 100)), PdfOutput::described(ink).constData());

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "samplehost/support/hostfixture.h"
+#include "samplehost/support/labelprints.h"
 #include "samplehost/support/programtest.h"
 
 #include <QtCore/QOperatingSystemVersion>
@@ -22,6 +23,8 @@ private Q_SLOTS:
     void savesPicturesOfEveryState();
     void printsAndSavesAPicture();
     void printsToAFile();
+    void keepsFilesOfEarlierRuns_data();
+    void keepsFilesOfEarlierRuns();
     void failuresAreExplained_data();
     void failuresAreExplained();
     void noteOnAModeThatIsNotOffered();
@@ -31,7 +34,18 @@ private Q_SLOTS:
 
 private:
     QStringList recordsPrinted() const;
+    bool writeDocument() const;
 };
+
+namespace {
+
+/** How many records the database has that the program creates. */
+QString recordCount()
+{
+    return QString::number(SampleHost::ChemicalSeed::load().size());
+}
+
+} // namespace
 
 // The pages of out.pdf as 1-based record numbers, "?" for a page of no known record.
 QStringList TestSampleHost::recordsPrinted() const
@@ -51,6 +65,16 @@ QStringList TestSampleHost::recordsPrinted() const
         records.append(found);
     }
     return records;
+}
+
+bool TestSampleHost::writeDocument() const
+{
+    QFile file(path("in.pdf"));
+    const QByteArray document =
+        printPdf(QSizeF(100, 80), 300, [](QPainter& painter, const QRectF& page) {
+            painter.drawText(page, QStringLiteral("Printed."));
+        });
+    return file.open(QIODevice::WriteOnly) && file.write(document) == document.size();
 }
 
 void TestSampleHost::printsTheTypedList()
@@ -90,17 +114,24 @@ void TestSampleHost::printsNothingForListsThatNameNothing_data()
 {
     addColumns<QString, QString>("list", "reason");
 
-    const QString unreadable = QStringLiteral("The list \"%1\" cannot be read");
-    addRow("unfinished", "1,", unreadable);
-    addRow("unfinished range", "4-", unreadable);
-    addRow("zero", "0", unreadable);
-    addRow("five digits", "12345", unreadable);
-    addRow("blank inside", "1, 2", unreadable);
-    addRow("letters", "all", unreadable);
-    addRow("twice a range", "1-2-3", unreadable);
-    addRow("line break", "1\n2", unreadable);
-    addRow("reversed", "5-4", "The list \"%1\" names none of the ");
-    addRow("beyond the last", "9999", "The list \"%1\" names none of the ");
+    const auto unreadable = [](const char* wrong) {
+        return QStringLiteral("The list \"%1\" cannot be read: ") + QString::fromLatin1(wrong) +
+               QStringLiteral(". Write numbers and ranges such as 1,4-5. ");
+    };
+    addRow("unfinished", "1,", unreadable("a record number is missing beside a comma"));
+    addRow("unfinished range", "4-", unreadable("\"4-\" is not a range of records"));
+    addRow("zero", "0", unreadable("\"0\" is not a record number"));
+    addRow("five digits", "12345", unreadable("\"12345\" is not a record number"));
+    addRow("blank inside", "1, 2", unreadable("\" 2\" is not a record number"));
+    addRow("letters", "1,x,3", unreadable("\"x\" is not a record number"));
+    addRow("twice a range", "1-2-3", unreadable("\"1-2-3\" is not a range of records"));
+    addRow("line break", "1\n2", unreadable("\"1\n2\" is not a record number"));
+    const QString none = QStringLiteral("The list \"%1\" names none of the ") + recordCount() +
+                         QStringLiteral(" records: ");
+    addRow("reversed", "5-4", none + QStringLiteral("\"5-4\" runs backwards. Write 4-5. "));
+    addRow("beyond the last", "9999",
+           none + QStringLiteral("there is no record 9999. Write numbers from 1 to ") +
+               recordCount() + QStringLiteral(". "));
     addRow("empty", QString(), "The list is empty.");
 }
 
@@ -125,14 +156,15 @@ void TestSampleHost::printsCurrentAndAll()
     const QStringList output{QStringLiteral("--output"), path("out.pdf")};
     QCOMPARE(run(QStringList{QStringLiteral("--current"), QStringLiteral("6")} + output), 0);
     QCOMPARE(recordsPrinted(), QStringList{QStringLiteral("6")});
-    QCOMPARE(run(QStringList{QStringLiteral("--all")} + output), 0);
+    QCOMPARE(run(QStringList{QStringLiteral("--all"), QStringLiteral("--overwrite")} + output), 0);
     const QStringList all = recordsPrinted();
     QVERIFY(all.size() >= 40);
     for (qsizetype i = 0; i < all.size(); ++i) {
         QCOMPARE(all.at(i), QString::number(i + 1));
     }
     QCOMPARE(run(QStringList{QStringLiteral("--current"), QStringLiteral("9999")} + output), 2);
-    QVERIFY(error().startsWith(QStringLiteral("There is no record 9999 among the ")));
+    QVERIFY(error().startsWith(QStringLiteral("There is no record 9999; the last one is ") +
+                               recordCount() + QStringLiteral(". ")));
 }
 
 void TestSampleHost::savesPicturesOfEveryState_data()
@@ -175,16 +207,61 @@ void TestSampleHost::printsToAFile()
     QCOMPARE(pdfPages(path("guest/logs/printTest_001.prn")).size(), qsizetype(1));
 }
 
+void TestSampleHost::keepsFilesOfEarlierRuns_data()
+{
+    addColumns<QString, QString>("arguments", "file");
+
+    addRow("labels", "--print 2 --output out.pdf", "out.pdf");
+    addRow("catalogue item", "--catalog EXIT --output out.pdf", "out.pdf");
+    addRow("from the preview", "--print 2 --preview --output out.pdf", "out.pdf");
+    addRow("picture", "--screenshot out.png", "out.png");
+    addRow("picture of a print", "--print 2 --output new.pdf --screenshot out.png", "out.png");
+    if (SampleHost::MainWindow::parts().documents) {
+        addRow("document", "--document in.pdf --all-pages --output out.pdf", "out.pdf");
+    }
+}
+
+void TestSampleHost::keepsFilesOfEarlierRuns()
+{
+    QFETCH(QString, arguments);
+    QFETCH(QString, file);
+    const QByteArray earlier("from an earlier run");
+    const QString name = m_folder->filePath(file);
+    QFile old(name);
+    QVERIFY(old.open(QIODevice::WriteOnly) && old.write(earlier) > 0);
+    old.close();
+    QVERIFY(writeDocument());
+
+    QCOMPARE(run(arguments), 1);
+    QCOMPARE(error(), QStringLiteral("The file \"%1\" exists already. Choose another file, or add "
+                                     "--overwrite to replace it.\n")
+                          .arg(file.endsWith(QStringLiteral(".png")) ? file : shown("out.pdf")));
+    QCOMPARE(out(), QString());
+    QVERIFY(old.open(QIODevice::ReadOnly));
+    QCOMPARE(old.readAll(), earlier);
+    old.close();
+    // The check comes before anything is printed.
+    QVERIFY(!QFile::exists(path("new.pdf")));
+
+    QCOMPARE(run(arguments + QStringLiteral(" --overwrite")), 0);
+    QCOMPARE(error(), QString());
+    QVERIFY(QFileInfo(name).size() > 1000);
+}
+
 void TestSampleHost::failuresAreExplained_data()
 {
     addColumns<QString, int, QString>("arguments", "code", "reason");
 
-    addRow("folder", "--all --output missing/out.pdf", 1, "The folder \"%1\" does not exist.\n");
-    addRow("output is a folder", "--all --output ./", 1, "\"./\" is not the name of a file.\n");
-    addRow("printer", "--all --printer Nobody", 1, "There is no printer \"Nobody\".\n");
-    addRow("picture", "--screenshot missing/out.png", 1, "The folder \"%1\" does not exist.\n");
+    addRow("folder", "--all --output missing/out.pdf", 1,
+           "The folder \"%1\" does not exist. Choose another folder.\n");
+    addRow("output is a folder", "--all --output ./", 1,
+           "\"./\" is not the name of a file. Write a name such as labels.pdf.\n");
+    addRow("printer", "--all --printer Nobody", 1,
+           "There is no printer \"Nobody\". Choose one that the panel lists.\n");
+    addRow("picture", "--screenshot missing/out.png", 1,
+           "The folder \"%1\" does not exist. Choose another folder.\n");
     addRow("driver", "--driver NOSUCH --all --output out.pdf", 1, QString());
-    addRow("option", "--odd", 2, "Unknown option 'odd'.\n");
+    addRow("option", "--odd", 2, "Unknown option 'odd'. --help lists the options.\n");
 }
 
 void TestSampleHost::failuresAreExplained()

@@ -34,6 +34,8 @@ private Q_SLOTS:
     void readsRecords_data();
     void readsRecords();
     void readsTheDataSource();
+    void replacesOnlyIfAsked_data();
+    void replacesOnlyIfAsked();
     void testControlsFollowWhatNeedsThem();
     void reportsProblems_data();
     void reportsProblems();
@@ -129,6 +131,27 @@ void TestCommandLine::readsRecords()
     QTEST(command.isHeadless(), "headless");
 }
 
+void TestCommandLine::replacesOnlyIfAsked_data()
+{
+    addColumns<QString, ReplacePolicy>("line", "policy");
+
+    addRow("user", "--output out.pdf", ReplacePolicy::Ask);
+    addRow("user, overwrite", "--overwrite", ReplacePolicy::Replace);
+    addRow("no user", "--all --output out.pdf", ReplacePolicy::Refuse);
+    addRow("no user, overwrite", "--all --output out.pdf --overwrite", ReplacePolicy::Replace);
+    addRow("picture", "--screenshot out.png", ReplacePolicy::Refuse);
+}
+
+void TestCommandLine::replacesOnlyIfAsked()
+{
+    QFETCH(QString, line);
+    const CommandLine command = parse(line);
+    QCOMPARE(command.problem, QString());
+    HostSettings settings;
+    command.applyTo(settings);
+    QTEST(settings.replacePolicy(), "policy");
+}
+
 void TestCommandLine::readsTheDataSource()
 {
     qputenv("SAMPLEHOST_PASSWORD", "secret");
@@ -170,6 +193,8 @@ void TestCommandLine::reportsProblems_data()
            "--copies needs a number from 1 to 999, not \"1000\".");
     addRow("record 0", "--current 0 --output x.pdf",
            "--current needs a number from 1 to 2147483647, not \"0\".");
+    addRow("one file twice", "--print 1 --output out.pdf --screenshot ./out.pdf",
+           "--screenshot and --output need different files.");
     addRow("sheet", "--nup 2", "--nup needs rows x columns such as 2x3, not \"2\".");
     addRow("paper", "--paper A5", "--paper needs label, a4 or letter, not \"a5\".");
     addRow("state", "--state odd",
@@ -197,8 +222,8 @@ void TestCommandLine::reportsProblems_data()
            "--all cannot be used with --catalog.");
     addRow("item and sheet", "--catalog EXIT --nup 2x2 --output x.pdf",
            "--nup cannot be used with --catalog.");
-    addRow("unknown", "--odd", "Unknown option 'odd'.");
-    addRow("stray word", "label.pdf", "\"label.pdf\" is not an option.");
+    addRow("unknown", "--odd", "Unknown option 'odd'. --help lists the options.");
+    addRow("stray word", "label.pdf", "\"label.pdf\" is not an option. --help lists the options.");
 }
 
 void TestCommandLine::reportsProblems()

@@ -204,7 +204,7 @@ void TestHostFaultsDisk::program()
     QVERIFY(disk.isReady());
     QVERIFY(PdfSamples::writeNumbered(folder.filePath(QStringLiteral("in.pdf")), 3));
     QVERIFY(PdfSamples::write(disk.path("out"), "older"));
-    arguments += QStringLiteral(" --database chemicals.db");
+    arguments += QStringLiteral(" --overwrite --database chemicals.db");
     HostProgram program(folder.path());
     // So that the records are there; nothing else is written.
     QCOMPARE(program.run(QStringLiteral("--print 9999 --database chemicals.db --output x.pdf")), 2);

@@ -72,16 +72,16 @@ private:
 void TestHostFaultsDocument::addBroken()
 {
     addColumns<QByteArray, QString>("bytes", "problem");
-    const QString damaged =
-        QStringLiteral("The file \"%1\" is not a PDF document, or it is damaged.");
+    const QString damaged = QStringLiteral(
+        "The file \"%1\" is not a PDF document, or it is damaged. Open another file.");
     const QByteArray good = PdfSamples::form();
-    addRow("empty", QByteArray(), "The file \"%1\" is empty.");
+    addRow("empty", QByteArray(), "The file \"%1\" is empty. Open another file.");
     addRow("garbage", QByteArray(5000, '\xA7'), damaged);
     addRow("null bytes", QByteArray(5000, '\0'), damaged);
     addRow("truncated", good.left(good.size() / 3), damaged);
     addRow("password", PdfSamples::encrypted(good, "secret", true),
-           "The file \"%1\" is protected by a password.");
-    addRow("no pages", PdfSamples::pages({}), "The file \"%1\" has no pages.");
+           "The file \"%1\" is protected by a password. Open a copy without one.");
+    addRow("no pages", PdfSamples::pages({}), "The file \"%1\" has no pages. Open another file.");
     addRow("pages among themselves", withKids("4 0 R 4 0 R 2 0 R"), QString());
 }
 

@@ -46,9 +46,10 @@ QList<Obstacle> obstacles()
     const auto nothing = [](const QString&) { return true; };
     return {
         {"missing folder", QStringLiteral("missing/out.pdf"),
-         QStringLiteral("The folder \"%1/missing\" does not exist."), nothing},
+         QStringLiteral("The folder \"%1/missing\" does not exist. Choose another folder."),
+         nothing},
         {"below a file", QStringLiteral("plain/out.pdf"),
-         QStringLiteral("The folder \"%1/plain\" does not exist."),
+         QStringLiteral("The folder \"%1/plain\" does not exist. Choose another folder."),
          [](const QString& folder) {
              return PdfSamples::write(folder + QStringLiteral("/plain"), "x");
          }},

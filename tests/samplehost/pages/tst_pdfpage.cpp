@@ -123,14 +123,14 @@ void TestPdfPage::keepsTheDocumentWhenAFileCannotBeOpened_data()
 {
     addColumns<QByteArray, QString>("contents", "problem");
 
-    const QString broken =
-        QStringLiteral("The file \"%1\" is not a PDF document, or it is damaged.");
+    const QString broken = QStringLiteral(
+        "The file \"%1\" is not a PDF document, or it is damaged. Open another file.");
     const QByteArray document = PdfSamples::form();
     addRow("missing", QByteArray(), "The file \"%1\" does not exist.");
     addRow("text", QByteArray("Not a document"), broken);
     addRow("cut off", document.left(300), broken);
     addRow("encrypted", PdfSamples::encrypted(document, "secret", true),
-           "The file \"%1\" is protected by a password.");
+           "The file \"%1\" is protected by a password. Open a copy without one.");
 }
 
 void TestPdfPage::keepsTheDocumentWhenAFileCannotBeOpened()

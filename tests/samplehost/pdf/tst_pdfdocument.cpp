@@ -136,19 +136,19 @@ void TestPdfDocument::explainsWhatCannotBeOpened_data()
     QVERIFY(PdfSamples::writeNumbered(numbered, 3));
     const QByteArray good = readAll(numbered);
     QVERIFY(QFile::remove(numbered));
-    const QString damaged =
-        QStringLiteral("The file \"%1\" is not a PDF document, or it is damaged.");
+    const QString damaged = QStringLiteral(
+        "The file \"%1\" is not a PDF document, or it is damaged. Open another file.");
 
     addColumns<QByteArray, QString>("bytes", "problem");
-    addRow("empty", QByteArray(), "The file \"%1\" is empty.");
+    addRow("empty", QByteArray(), "The file \"%1\" is empty. Open another file.");
     addRow("garbage", QByteArray(5000, '\xA7'), damaged);
     addRow("a text", QByteArray("Dear customer,\n"), damaged);
     addRow("a header only", QByteArray("%PDF-1.7\n"), damaged);
     addRow("truncated", halfOf(good), damaged);
     addRow("without its first half", good.mid(good.size() / 2), damaged);
     addRow("password", PdfSamples::encrypted(PdfSamples::form(), "secret", true),
-           "The file \"%1\" is protected by a password.");
-    addRow("no pages", PdfSamples::pages({}), "The file \"%1\" has no pages.");
+           "The file \"%1\" is protected by a password. Open a copy without one.");
+    addRow("no pages", PdfSamples::pages({}), "The file \"%1\" has no pages. Open another file.");
 }
 
 void TestPdfDocument::explainsWhatCannotBeOpened()

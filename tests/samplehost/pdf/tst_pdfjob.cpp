@@ -404,8 +404,10 @@ void TestPdfJob::explainsFailures_data()
     addRow("reversed range", range(3, 2), "output.pdf",
            "There is no such page. Nothing is printed.");
     addRow("unreadable list", list("1;2"), "output.pdf",
-           "The list \"1;2\" cannot be read. Nothing is printed.");
-    addRow("no such folder", range(1, 1), "no/output.pdf", "The folder \"%1/no\" does not exist.");
+           "The list \"1;2\" cannot be read: \"1;2\" is not a page number. Write numbers and "
+           "ranges such as 1,4-5. Nothing is printed.");
+    addRow("no such folder", range(1, 1), "no/output.pdf",
+           "The folder \"%1/no\" does not exist. Choose another folder.");
     addRow("a folder", range(1, 1), "taken", "The file \"%1/taken\" cannot be written: ");
 }
 

@@ -104,13 +104,14 @@ void TestPdfPagePlan::explainsEmptyPlans_data()
     addRow("no pages", range(1, 99999), 0, Problem::NoSuchRecord, noPage);
     addRow("negative page count", range(1, 1), -3, Problem::NoSuchRecord, noPage);
     addRow("list of none", list("13,7-5"), 12, Problem::NoSuchRecord,
-           "The list \"13,7-5\" names none of the 12 "
-           "pages. Nothing is printed.");
+           "The list \"13,7-5\" names none of the 12 pages: there is no page 13. Write numbers "
+           "from 1 to 12. Nothing is printed.");
     addRow("unreadable list", list("1,,2"), 12, Problem::UnreadableList,
-           "The list \"1,,2\" cannot be read. Nothing is printed.");
+           "The list \"1,,2\" cannot be read: a page number is missing beside a comma. Write "
+           "numbers and ranges such as 1,4-5. Nothing is printed.");
     addRow("words", list("%1 %2"), 12, Problem::UnreadableList,
-           "The list \"%1 %2\" cannot be read. Nothing is "
-           "printed.");
+           "The list \"%1 %2\" cannot be read: \"%1 %2\" is not a page number. Write numbers and "
+           "ranges such as 1,4-5. Nothing is printed.");
 }
 
 void TestPdfPagePlan::explainsEmptyPlans()

@@ -240,8 +240,8 @@ void TestPdfPainting::explainsFailures()
     end = PdfOutput::run(
         *makePdfPrinterJob(m_document, request, std::make_unique<PdfTarget>(m_output)));
     QCOMPARE(end.outcome, Outcome::Failed);
-    QCOMPARE(end.message, QStringLiteral("The list \"2\" names none of the 1 pages. Nothing is "
-                                         "printed."));
+    QCOMPARE(end.message, QStringLiteral("The list \"2\" does not name the only page: there is no "
+                                         "page 2. Write 1. Nothing is printed."));
     QVERIFY(!QFile::exists(m_output));
 }
 

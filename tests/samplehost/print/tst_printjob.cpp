@@ -202,7 +202,8 @@ void TestPrintJob::unwritablePathIsExplained_data()
 {
     addColumns<QString, QString>("path", "message");
 
-    addRow("no such folder", "missing/labels.pdf", "The folder \"%1/missing\" does not exist.");
+    addRow("no such folder", "missing/labels.pdf",
+           "The folder \"%1/missing\" does not exist. Choose another folder.");
     addRow("a folder", "taken.pdf", "The file \"%1/taken.pdf\" cannot be written: ");
 }
 
@@ -272,7 +273,8 @@ void TestPrintJob::unknownPrinterIsExplained()
     QCOMPARE(finished.at(0).at(0).value<Outcome>(), Outcome::Failed);
     QCOMPARE(
         finished.at(0).at(1).toString(),
-        QStringLiteral("The printer \"No such printer\" is not known to the system any more."));
+        QStringLiteral(
+            "The printer \"No such printer\" is not known to the system. Choose another printer."));
 }
 
 void TestPrintJob::runsOnce()

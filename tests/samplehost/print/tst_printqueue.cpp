@@ -114,7 +114,10 @@ void TestPrintQueue::silentServerIsReported()
     QVERIFY(!PrintQueue(QStringLiteral("Hall")).refusesJobs());
     QVERIFY2(elapsed.elapsed() < 8000, "The host hung");
     elapsed.start();
-    QCOMPARE(submissionProblem(1500), QStringLiteral("The printer \"Hall\" does not answer."));
+    QCOMPARE(
+        submissionProblem(1500),
+        QStringLiteral(
+            "The printer \"Hall\" does not answer. Check that it is switched on and connected."));
     QVERIFY2(elapsed.elapsed() < 4000, "The host hung");
 }
 

@@ -125,7 +125,7 @@ void TestHostPrinters::testFilesNeedAFolder()
     QString problem;
     QCOMPARE(nextPrintTestFile(m_folder->path(), problem), QString());
     QCOMPARE(problem,
-             QStringLiteral("The folder \"%1\" cannot be made.")
+             QStringLiteral("The folder \"%1\" cannot be made. Choose another output folder.")
                  .arg(QDir::toNativeSeparators(m_folder->filePath(QStringLiteral("guest/logs")))));
 }
 

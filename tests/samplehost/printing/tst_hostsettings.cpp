@@ -223,7 +223,7 @@ void TestHostSettings::dialogRefusesMissingFolder()
     QTest::keyClicks(folder, QStringLiteral("/no such folder"));
     QVERIFY(!ok->isEnabled());
     QCOMPARE(dialog.findChild<QLabel*>(QStringLiteral("problemLabel"))->text(),
-             QStringLiteral("This folder does not exist."));
+             QStringLiteral("This folder does not exist. Choose another one."));
     const QString before = settings.outputFolder();
     dialog.accept();
     QVERIFY(dialog.isVisible());

@@ -264,14 +264,14 @@ void TestLabelPreview::unitCanBeChangedInThePreferences()
     auto* units = dialog.findChild<QComboBox*>(QStringLiteral("preferencesUnitCombo"));
     QCOMPARE(units->currentText(), QStringLiteral("Inches"));
     QTest::keyClick(units, Qt::Key_Down);
-    QCOMPARE(units->currentText(), QStringLiteral("Millimeters"));
+    QCOMPARE(units->currentText(), QStringLiteral("Millimetres"));
     dialog.accept();
     QVERIFY(m_host->window->settings().isMetric());
     QVERIFY(m_host->window->findChild<QAction*>(QStringLiteral("metricAction"))->isChecked());
     QCOMPARE(PreferencesDialog(m_host->window->settings())
                  .findChild<QComboBox*>(QStringLiteral("preferencesUnitCombo"))
                  ->currentText(),
-             QStringLiteral("Millimeters"));
+             QStringLiteral("Millimetres"));
 }
 
 void TestLabelPreview::markersShowThePrintedSizeOnly()

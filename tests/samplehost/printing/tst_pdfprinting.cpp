@@ -79,8 +79,12 @@ void TestPdfPrinting::refusesListsThatNameNothing_data()
 {
     addColumns<QString, QString>("list", "reason");
 
-    addRow("reversed", "5-2", "The list \"5-2\" names none of the 12 pages. Nothing is printed.");
-    addRow("unfinished", "4-", "The list \"4-\" cannot be read. Nothing is printed.");
+    addRow("reversed", "5-2",
+           "The list \"5-2\" names none of the 12 pages: \"5-2\" runs backwards. Write 2-5. "
+           "Nothing is printed.");
+    addRow("unfinished", "4-",
+           "The list \"4-\" cannot be read: \"4-\" is not a range of pages. Write numbers and "
+           "ranges such as 1,4-5. Nothing is printed.");
 }
 
 void TestPdfPrinting::refusesListsThatNameNothing()
@@ -328,7 +332,8 @@ void TestPdfPrinting::unwritableFolderIsExplained()
     QVERIFY(m_host->showDialog());
     QCOMPARE(m_host->print(), Outcome::Failed);
     QCOMPARE(m_host->shownMessage(),
-             QStringLiteral("The folder \"%1\" does not exist.").arg(m_host->path("missing")));
+             QStringLiteral("The folder \"%1\" does not exist. Choose another folder.")
+                 .arg(m_host->path("missing")));
 }
 
 QTEST_MAIN(TestPdfPrinting)

@@ -181,10 +181,18 @@ void TestPrinting::refusesListsThatNameNothing_data()
 {
     addColumns<QString, QString>("list", "reason");
 
-    addRow("unfinished", "1,", "The list \"1,\" cannot be read. Nothing is printed.");
-    addRow("reversed", "5-4", "The list \"5-4\" names none of the %1 records. Nothing is printed.");
+    addRow("unfinished", "1,",
+           "The list \"1,\" cannot be read: a record number is missing beside a comma. Write "
+           "numbers and ranges such as 1,4-5. Nothing is printed.");
+    addRow("unfinished range", "2,5-",
+           "The list \"2,5-\" cannot be read: \"5-\" is not a range of records. Write numbers and "
+           "ranges such as 1,4-5. Nothing is printed.");
+    addRow("reversed", "5-4",
+           "The list \"5-4\" names none of the %1 records: \"5-4\" runs backwards. Write 4-5. "
+           "Nothing is printed.");
     addRow("beyond the last", "9998-9999",
-           "The list \"9998-9999\" names none of the %1 records. Nothing is printed.");
+           "The list \"9998-9999\" names none of the %1 records: there is no record 9998. Write "
+           "numbers from 1 to %1. Nothing is printed.");
 }
 
 void TestPrinting::refusesListsThatNameNothing()
@@ -289,9 +297,9 @@ void TestPrinting::unwritableFolderIsExplained()
     const QString missing = m_host->folder.filePath(QStringLiteral("missing"));
     m_host->window->settings().setOutputFolder(missing);
     QCOMPARE(m_host->print(), Outcome::Failed);
-    QCOMPARE(
-        m_host->message,
-        QStringLiteral("The folder \"%1\" does not exist.").arg(QDir::toNativeSeparators(missing)));
+    QCOMPARE(m_host->message,
+             QStringLiteral("The folder \"%1\" does not exist. Choose another folder.")
+                 .arg(QDir::toNativeSeparators(missing)));
     QVERIFY(m_host->messageBox() != nullptr);
     QCOMPARE(m_host->messageBox()->text(), m_host->message);
     QVERIFY(m_host->find<QWidget>("PrintButton")->isEnabled());
@@ -306,8 +314,9 @@ void TestPrinting::unknownPrinterIsExplained()
     QCOMPARE(m_host->panel().getSelectedPrinter(), QStringLiteral("Gone"));
     QCOMPARE(m_host->find<QLabel>("statusLabel")->text(), QStringLiteral("Offline, Unavailable"));
     QCOMPARE(m_host->print(), Outcome::Failed);
-    QCOMPARE(m_host->message,
-             QStringLiteral("The printer \"Gone\" is not known to the system any more."));
+    QCOMPARE(
+        m_host->message,
+        QStringLiteral("The printer \"Gone\" is not known to the system. Choose another printer."));
 }
 
 void TestPrinting::printToFileIsHonoured()

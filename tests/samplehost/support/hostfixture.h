@@ -35,6 +35,8 @@ public:
         options.testControls = testControls;
         window = std::make_unique<SampleHost::MainWindow>(options);
         window->settings().setOutputPath(outputPath());
+        // Tests print to this file again and again.
+        window->settings().setReplacePolicy(SampleHost::ReplacePolicy::Replace);
         window->show();
     }
 
