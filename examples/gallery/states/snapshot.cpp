@@ -17,12 +17,15 @@ namespace Gallery {
 
 namespace {
 
-// Combo boxes take the width of their contents 20 milliseconds after these change.
+// Combo boxes take the width of their contents 20 milliseconds after these change, and ask the
+// layout whether it has room for that. On a busy machine both waits end in the same turn of the
+// event loop.
 void settle()
 {
     QEventLoop loop;
     QTimer::singleShot(30, &loop, &QEventLoop::quit);
     loop.exec();
+    QCoreApplication::processEvents();
 }
 
 // A host has a column for its panels, which is wider only if a panel needs that.
