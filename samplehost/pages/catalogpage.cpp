@@ -28,7 +28,7 @@ namespace SampleHost {
 namespace {
 
 // The size of the panel's preview.
-constexpr QSize previewSize(200, 200);
+constexpr QRect previewPlace(0, 0, 200, 200);
 
 // Half of the last decimal that the panel shows.
 constexpr double shownTolerance = 0.005;
@@ -53,7 +53,7 @@ CatalogPage::CatalogPage(const HostSettings& settings, QWidget* parent)
     column->addStretch(1);
     setUpLayout(createContents(), holder);
     m_panel->setModule(JxModuleInfo::JxCatalog);
-    m_canvas = new PreviewCanvas(*m_panel, previewSize);
+    m_canvas = new PreviewCanvas(*m_panel, previewPlace);
     connectPanel();
     connect(m_items, &QListWidget::currentRowChanged, this, &CatalogPage::selectItem);
     connect(&settings, &HostSettings::changed, this, &CatalogPage::showSize);

@@ -23,8 +23,8 @@ namespace {
 // The value of the popup's orientation signal for portrait.
 constexpr int portraitOrientation = 1;
 
-// The size of the popup's preview.
-constexpr QSize previewSize(832, 381);
+// Where the preview is in the popup.
+constexpr QRect previewPlace(14, 53, 832, 381);
 
 } // namespace
 
@@ -75,7 +75,7 @@ void LabelPreview::createPopup()
         m_page.window(), Qt::Dialog | Qt::FramelessWindowHint, QImage(), designSize(),
         printedSize(), !m_design.hasDesignSize(), m_portrait, m_settings.isMetric(),
         m_shown.sequenceStart, m_shown.sequenceEnd, m_shown.customRecordsList);
-    m_canvas = new PreviewCanvas(*m_popup, previewSize);
+    m_canvas = new PreviewCanvas(*m_popup, previewPlace);
     m_popup->setWindowTitle(tr("Print Preview"));
     addShortcuts();
     connectPopup();

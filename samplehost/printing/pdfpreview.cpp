@@ -25,8 +25,8 @@ namespace SampleHost {
 namespace {
 
 constexpr bool fitAtStart = true;
-// The size of the window's preview.
-constexpr QSize previewSize(682, 453);
+// Where the preview is in the window.
+constexpr QRect previewPlace(304, 73, 682, 453);
 
 } // namespace
 
@@ -37,7 +37,7 @@ PdfPreview::PdfPreview(HostSettings& settings, const PrinterDirectory& printers,
     m_panel = new MultiPagePrintWidget(fitAtStart, false, nullptr);
     m_panel->setModule(JxModuleInfo::PDFViewer);
     m_dialog = new MultiPagePrintDialog(m_panel, parent, Qt::FramelessWindowHint | Qt::Dialog);
-    m_canvas = new PreviewCanvas(*m_dialog, previewSize);
+    m_canvas = new PreviewCanvas(*m_dialog, previewPlace);
     connect(m_canvas, &PreviewCanvas::fitChanged, this, &PdfPreview::updateImage);
     connectPanel();
     connectOptions();

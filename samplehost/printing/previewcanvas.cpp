@@ -8,10 +8,10 @@
 
 namespace SampleHost {
 
-PreviewCanvas::PreviewCanvas(QWidget& panel, const QSize& expectedSize)
+PreviewCanvas::PreviewCanvas(QWidget& panel, const QRect& expectedPlace)
     : QObject(&panel),
       m_canvas(panel.findChild<QWidget*>(QStringLiteral("PreviewView"))),
-      m_fit(expectedSize, panel.devicePixelRatioF())
+      m_fit(expectedPlace, panel.devicePixelRatioF())
 {
     if (m_canvas != nullptr) {
         m_canvas->installEventFilter(this);
@@ -34,7 +34,7 @@ bool PreviewCanvas::eventFilter(QObject* watched, QEvent* event)
 
 void PreviewCanvas::update()
 {
-    const ScreenFit fit(m_canvas->size(), m_canvas->devicePixelRatioF());
+    const ScreenFit fit(*m_canvas);
     if (fit != m_fit) {
         m_fit = fit;
         Q_EMIT fitChanged();

@@ -18,8 +18,8 @@ class PreviewCanvas : public QObject
     Q_OBJECT
 
 public:
-    /** Watches the preview of a panel, which owns this. Its size until it is shown is a guess. */
-    PreviewCanvas(QWidget& panel, const QSize& expectedSize);
+    /** Watches the preview of a panel, which owns this. Until it is shown, its place is a guess. */
+    PreviewCanvas(QWidget& panel, const QRect& expectedPlace);
 
     /** What the current picture has to be like. */
     const ScreenFit& fit() const { return m_fit; }

@@ -4,8 +4,10 @@
 #ifndef SAMPLEHOST_SCREENFIT_H
 #define SAMPLEHOST_SCREENFIT_H
 
-#include <QtCore/QSize>
+#include <QtCore/QRect>
 #include <QtGui/QImage>
+
+class QWidget;
 
 namespace SampleHost {
 
@@ -14,16 +16,21 @@ namespace SampleHost {
  * the screen when it fits. The preview scales without smoothing: of a larger picture it leaves out
  * pixels, and with them thin lines.
  *
- * At ratios of which neither side of the preview is a whole number of pixels, the picture is scaled
- * by less than one pixel in all.
+ * At ratios at which neither side of the preview is a whole number of pixels, the picture is scaled
+ * by less than a pixel in all. Its size is chosen so that this affects no pixel, if there is one.
  */
 class ScreenFit
 {
 public:
     /** For no preview: all sizes are empty. */
     ScreenFit() = default;
-    /** For a preview of size (device-independent pixels) on a screen with a device pixel ratio. */
-    ScreenFit(const QSize& size, qreal ratio);
+    /**
+     * For a preview on a screen with a device pixel ratio: where it is in its window, in
+     * device-independent pixels.
+     */
+    ScreenFit(const QRect& place, qreal ratio);
+    /** For a preview that is shown. */
+    explicit ScreenFit(const QWidget& canvas);
 
     bool operator==(const ScreenFit& other) const;
     bool operator!=(const ScreenFit& other) const { return !(*this == other); }

@@ -81,7 +81,7 @@ void TestPdfLines::everyPixelIsShown()
     QVERIFY(m_host->openBytes(PdfSamples::form()));
     QVERIFY(m_host->showDialog());
     const QWidget* canvas = PreviewPixels::canvasIn(m_host->dialog());
-    const ScreenFit fit(canvas->size(), canvas->devicePixelRatioF());
+    const ScreenFit fit(*canvas);
     const QImage sheet =
         previewPdfSheet(*m_host->page().document(), m_host->preview().request(), 0, fit.room());
     QVERIFY(PreviewPixels::contains(shown(), sheet));

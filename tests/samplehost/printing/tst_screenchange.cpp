@@ -39,7 +39,7 @@ bool TestScreenChange::isRenderedFor(qreal ratio) const
     if (canvas->devicePixelRatioF() != ratio) {
         return false;
     }
-    const QSize room = ScreenFit(canvas->size(), ratio).room();
+    const QSize room = ScreenFit(*canvas).room();
     const PrintRequest request = m_host->labels().controller().request(1, -1, QString());
     return PreviewPixels::contains(PreviewPixels::shown(*canvas),
                                    renderFirstSheet(m_host->labels().design(), request, room));
