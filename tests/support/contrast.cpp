@@ -3,7 +3,7 @@
 
 #include "support/contrast.h"
 
-#include <QtCore/QHash>
+#include <QtCore/QMap>
 #include <QtGui/QImage>
 #include <QtGui/QPalette>
 #include <QtTest/QTest>
@@ -35,7 +35,8 @@ double luminance(const QColor& color)
 
 QRect buttonTextPlace(const QAbstractButton* button)
 {
-    if (button->text().trimmed().isEmpty())
+    // A tool button has a text and shows its picture.
+    if (button->text().trimmed().isEmpty() || button->inherits("QToolButton"))
         return QRect();
     QStyleOptionButton option;
     option.initFrom(button);
@@ -97,7 +98,7 @@ QString description(const TextContrast& contrast)
 
 TextContrast contrastIn(const QImage& picture, const QRect& place, const QString& control)
 {
-    QHash<QRgb, int> counts;
+    QMap<QRgb, int> counts; // in order, for a tie
     const QRect inside = place & picture.rect();
     for (int y = inside.top(); y <= inside.bottom(); ++y) {
         for (int x = inside.left(); x <= inside.right(); ++x)
