@@ -14,6 +14,11 @@ namespace SampleHost {
 
 namespace {
 
+class ListProblem
+{
+    Q_DECLARE_TR_FUNCTIONS(SampleHost::ListProblem)
+};
+
 /** The texts for what the numbers stand for. */
 struct Texts
 {
@@ -49,11 +54,6 @@ constexpr Texts pageTexts{
 constexpr QChar itemSeparator = u',';
 constexpr QChar rangeSeparator = u'-';
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("SampleHost::ListProblem", text);
-}
-
 bool isReadable(QStringView item)
 {
     return RecordList::expand(item, std::numeric_limits<int>::max()).has_value();
@@ -62,9 +62,10 @@ bool isReadable(QStringView item)
 QString itemProblem(QStringView item, const Texts& texts)
 {
     if (item.isEmpty()) {
-        return tr(texts.missing);
+        return ListProblem::tr(texts.missing);
     }
-    return tr(item.contains(rangeSeparator) ? texts.notRange : texts.notNumber).arg(item);
+    return ListProblem::tr(item.contains(rangeSeparator) ? texts.notRange : texts.notNumber)
+        .arg(item);
 }
 
 /** What is wrong with an item that can be read but names nothing. */
@@ -73,10 +74,11 @@ QString rangeProblem(QStringView item, int count, const Texts& texts)
     const qsizetype hyphen = item.indexOf(rangeSeparator);
     const QStringView first = hyphen < 0 ? item : item.first(hyphen);
     if (first.toInt() > count) {
-        return tr(texts.beyond).arg(first) + QLatin1Char(' ') +
-               (count == 1 ? tr("Write 1.") : tr("Write numbers from 1 to %1.").arg(count));
+        return ListProblem::tr(texts.beyond).arg(first) + QLatin1Char(' ') +
+               (count == 1 ? ListProblem::tr("Write 1.")
+                           : ListProblem::tr("Write numbers from 1 to %1.").arg(count));
     }
-    return tr("\"%1\" runs backwards. Write %2.")
+    return ListProblem::tr("\"%1\" runs backwards. Write %2.")
         .arg(item, item.sliced(hyphen + 1).toString() + rangeSeparator + first.toString());
 }
 
@@ -85,14 +87,14 @@ QString reasonText(const QString& list, int count, const Texts& texts)
     QStringView nothing;
     for (QStringView item : QStringTokenizer(list, itemSeparator, Qt::KeepEmptyParts)) {
         if (!isReadable(item)) {
-            return tr("The list \"%1\" cannot be read:").arg(list) + QLatin1Char(' ') +
+            return ListProblem::tr("The list \"%1\" cannot be read:").arg(list) + QLatin1Char(' ') +
                    itemProblem(item, texts) + QLatin1Char(' ') +
-                   tr("Write numbers and ranges such as 1,4-5.");
+                   ListProblem::tr("Write numbers and ranges such as 1,4-5.");
         }
         nothing = nothing.isEmpty() ? item : nothing;
     }
-    const QString head =
-        count == 1 ? tr(texts.notOnly).arg(list) : tr(texts.none).arg(list, QString::number(count));
+    const QString head = count == 1 ? ListProblem::tr(texts.notOnly).arg(list)
+                                    : ListProblem::tr(texts.none).arg(list, QString::number(count));
     return head + QLatin1Char(' ') + rangeProblem(nothing, count, texts);
 }
 
@@ -105,8 +107,9 @@ QString listProblem(const QString& list, int count, ListItems items)
     if (ranges && !ranges->isEmpty()) {
         return QString();
     }
-    const QString reason = count < 1 ? tr(texts.nothing) : reasonText(list, count, texts);
-    return reason + QLatin1Char(' ') + tr("Nothing is printed.");
+    const QString reason =
+        count < 1 ? ListProblem::tr(texts.nothing) : reasonText(list, count, texts);
+    return reason + QLatin1Char(' ') + ListProblem::tr("Nothing is printed.");
 }
 
 } // namespace SampleHost

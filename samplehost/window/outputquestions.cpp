@@ -16,25 +16,27 @@ namespace SampleHost {
 
 namespace {
 
-QString tr(const char* text)
+class OutputQuestions
 {
-    return QCoreApplication::translate("SampleHost::OutputQuestions", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(SampleHost::OutputQuestions)
+};
 
 } // namespace
 
 void askToReplace(QWidget* parent, const QString& path, JobController& controller,
                   HostSettings& settings)
 {
-    const QString question =
-        tr("The file \"%1\" exists already. Replace it?").arg(QDir::toNativeSeparators(path));
-    auto* box = new QMessageBox(QMessageBox::Question, tr("Printing"), question,
+    const QString question = OutputQuestions::tr("The file \"%1\" exists already. Replace it?")
+                                 .arg(QDir::toNativeSeparators(path));
+    auto* box = new QMessageBox(QMessageBox::Question, OutputQuestions::tr("Printing"), question,
                                 QMessageBox::NoButton, parent);
     box->setObjectName(QStringLiteral("replaceQuestion"));
     box->setTextFormat(Qt::PlainText);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    const QPushButton* replace = box->addButton(tr("&Replace"), QMessageBox::DestructiveRole);
-    const QPushButton* saveAs = box->addButton(tr("Save &As..."), QMessageBox::ActionRole);
+    const QPushButton* replace =
+        box->addButton(OutputQuestions::tr("&Replace"), QMessageBox::DestructiveRole);
+    const QPushButton* saveAs =
+        box->addButton(OutputQuestions::tr("Save &As..."), QMessageBox::ActionRole);
     // Whoever presses a key too early keeps the file.
     box->setDefaultButton(box->addButton(QMessageBox::Cancel));
     QObject::connect(box, &QDialog::finished, &controller, [=, &controller, &settings] {
@@ -55,8 +57,9 @@ void askToReplace(QWidget* parent, const QString& path, JobController& controlle
 void choosePdfFile(QWidget* parent, HostSettings& settings, const std::function<void()>& chosen,
                    const std::function<void()>& cancelled)
 {
-    auto* dialog = new QFileDialog(parent, tr("Save PDF As"), settings.outputFolder(),
-                                   tr("PDF documents (*.pdf);;All files (*)"));
+    auto* dialog =
+        new QFileDialog(parent, OutputQuestions::tr("Save PDF As"), settings.outputFolder(),
+                        OutputQuestions::tr("PDF documents (*.pdf);;All files (*)"));
     dialog->setObjectName(QStringLiteral("savePdfDialog"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
