@@ -125,7 +125,8 @@ void TestHostFaultsDisk::settings()
     const QString message = host.window->statusBar()->currentMessage();
     const bool saved = host.window->saveSettings();
     disk.free();
-    QCOMPARE(message, QStringLiteral("The settings cannot be kept for the next start."));
+    QCOMPARE(message, QStringLiteral("The settings cannot be kept for the next start. Check that "
+                                     "your settings folder can be written."));
     QVERIFY(!saved);
     QCOMPARE(contentsOf(file), older);
     QCOMPARE(settings.nup(), (NupLayout{2, 2}));
