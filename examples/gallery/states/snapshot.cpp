@@ -40,7 +40,8 @@ void fit(QWidget& window)
 
 void show(QWidget& window)
 {
-    window.move(0, 0);
+    // Away from the mouse pointer, which stands in the corner of a screen that has none.
+    window.move(100, 100);
     window.show();
     window.activateWindow();
     fit(window);
