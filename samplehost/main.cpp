@@ -11,6 +11,7 @@
 #include <printpanels/printpanels_version.h>
 
 #include <QtCore/QTimer>
+#include <QtGui/QScreen>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QStatusBar>
 
@@ -70,6 +71,11 @@ int runWithUser(MainWindow& window, const CommandLine& command)
     closeOwnConsole();
     window.persistSettings();
     command.applyTo(window.settings());
+    // A file to print to names the printer, too.
+    window.choosePrinter(command.printer.isEmpty() && !command.output.isEmpty()
+                             ? PrinterDirectory::pdfFileName()
+                             : command.printer);
+    window.restoreWindow(window.screen()->availableGeometry());
     window.show();
     applyDemoState(window, command.state);
     const int code = QCoreApplication::exec();

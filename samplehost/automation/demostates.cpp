@@ -17,6 +17,7 @@
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QDockWidget>
 #include <QtWidgets/QSpinBox>
 
 namespace SampleHost {
@@ -48,6 +49,7 @@ bool showSupply(MainWindow& window)
 {
     SupplySimulator& supply = window.supply();
     auto* secondRibbon = supply.findChild<QComboBox*>(QStringLiteral("ribbon2Combo"));
+    window.findChild<QDockWidget*>(QStringLiteral("supplyDock"))->show();
     supply.setReport(SupplySimulator::Report::TwoRibbons);
     // The last colour stands for no ribbon.
     secondRibbon->setCurrentIndex(secondRibbon->count() - 1);

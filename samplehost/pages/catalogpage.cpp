@@ -237,11 +237,11 @@ QSizeF CatalogPage::shownSize() const
     return LengthUnit::fromMm(m_design.sizeMm(), m_settings.isMetric());
 }
 
-void CatalogPage::print()
+PageControls CatalogPage::controls() const
 {
-    if (m_controller->isReady()) {
-        m_panel->printSlot();
-    }
+    PageControls controls;
+    controls.print = m_panel->findChild<QAbstractButton*>(QStringLiteral("printButton"));
+    return controls;
 }
 
 } // namespace SampleHost

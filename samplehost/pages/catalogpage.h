@@ -40,8 +40,7 @@ public:
     /** The message about the size that is shown; empty if there is none. */
     QString message() const;
 
-    /** Prints as the panel's Print button does, unless it is disabled. */
-    void print() override;
+    PageControls controls() const override;
 
 Q_SIGNALS:
     /** The user asked for a size in which the item cannot be printed; message() says why. */

@@ -5,6 +5,7 @@
 
 #include "samplehost/pages/panelscroller.h"
 
+#include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QFrame>
 #include <QtWidgets/QHBoxLayout>
 
@@ -27,6 +28,13 @@ void HostPage::setUpLayout(QWidget* contents, QWidget* panel)
     row->addWidget(contents, 1);
     row->addWidget(border);
     row->addWidget(m_scroller);
+}
+
+void HostPage::print()
+{
+    if (QAbstractButton* button = controls().print) {
+        button->click();
+    }
 }
 
 int HostPage::fullHeight() const

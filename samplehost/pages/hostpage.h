@@ -4,6 +4,8 @@
 #ifndef SAMPLEHOST_HOSTPAGE_H
 #define SAMPLEHOST_HOSTPAGE_H
 
+#include "samplehost/pages/pagecontrols.h"
+
 #include <QtWidgets/QWidget>
 
 namespace SampleHost {
@@ -22,11 +24,11 @@ public:
     /** Runs the print jobs of this page. */
     virtual JobController& controller() const = 0;
 
-    /** Prints, as the page's own Print button does. */
-    virtual void print() = 0;
+    /** The page's own controls for printing. */
+    virtual PageControls controls() const = 0;
 
-    /** Shows a preview, as the page's own button does. A page without that button prints. */
-    virtual void showPreview() { print(); }
+    /** Prints, as the page's own Print button does. */
+    void print();
 
     /** The number of pages that print() would print now; -1 if the page cannot tell. */
     virtual qint64 pageCount() const { return -1; }

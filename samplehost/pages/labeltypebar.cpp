@@ -3,6 +3,7 @@
 
 #include "samplehost/pages/labeltypebar.h"
 
+#include "samplehost/pages/flowlayout.h"
 #include "samplehost/pages/nupcombo.h"
 #include "samplehost/printing/hostsettings.h"
 
@@ -23,7 +24,9 @@ LabelTypeBar::LabelTypeBar(HostSettings& settings, QWidget* parent)
 
 void LabelTypeBar::createWidgets()
 {
-    auto* row = new QHBoxLayout(this);
+    auto* rows = new FlowLayout(12, 6, this);
+    auto* sheet = new QWidget;
+    auto* row = new QHBoxLayout(sheet);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(12);
     auto* sheetLabel = new QLabel(tr("Sheet:"));
@@ -33,6 +36,7 @@ void LabelTypeBar::createWidgets()
     m_nupCombo->setObjectName(QStringLiteral("nupCombo"));
     m_nupCombo->setToolTip(tr("How many labels are printed on one sheet"));
     row->addWidget(m_nupCombo);
+    rows->addWidget(sheet);
     m_dynamicCheck = addCheck(
         QStringLiteral("dynamicLengthCheck"), tr("Dynamic length"),
         tr("Labels of this type vary in length, so a sheet can only repeat one label"), false);
@@ -40,7 +44,6 @@ void LabelTypeBar::createWidgets()
                             tr("The label takes its contents from the records"), true);
     m_backgroundCheck = addCheck(QStringLiteral("backgroundCheck"), tr("Background layer"),
                                  tr("The user has put a background under the label"), false);
-    row->addStretch(1);
 }
 
 QCheckBox* LabelTypeBar::addCheck(const QString& name, const QString& text, const QString& toolTip,

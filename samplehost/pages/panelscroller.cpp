@@ -6,7 +6,16 @@
 #include <QtCore/QEvent>
 #include <QtWidgets/QScrollBar>
 
+#include <algorithm>
+
 namespace SampleHost {
+
+namespace {
+
+// Enough for every panel in every language, so that the column is the same on all pages.
+constexpr int usualPanelWidth = 336;
+
+} // namespace
 
 PanelScroller::PanelScroller(QWidget* panel, QWidget* parent) : QScrollArea(parent)
 {
@@ -17,29 +26,32 @@ PanelScroller::PanelScroller(QWidget* panel, QWidget* parent) : QScrollArea(pare
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     setWidget(panel);
     panel->installEventFilter(this);
-    updateMinimumHeight();
+    updatePanelSize();
 }
 
-void PanelScroller::updateMinimumHeight()
+void PanelScroller::updatePanelSize()
 {
+    // The panel keeps its width when a section that is wider goes, and with or without scroll bar.
+    m_panelWidth = std::max({m_panelWidth, usualPanelWidth, widget()->sizeHint().width()});
+    widget()->setFixedWidth(m_panelWidth);
     // Otherwise the panel's rows would be squeezed before the panel is scrolled.
     widget()->setMinimumHeight(fullHeight());
     updateGeometry();
 }
 
-int PanelScroller::panelWidth() const
+int PanelScroller::columnWidth() const
 {
-    return widget()->sizeHint().width() + verticalScrollBar()->sizeHint().width();
+    return m_panelWidth + verticalScrollBar()->sizeHint().width();
 }
 
 QSize PanelScroller::sizeHint() const
 {
-    return {panelWidth(), fullHeight()};
+    return {columnWidth(), fullHeight()};
 }
 
 QSize PanelScroller::minimumSizeHint() const
 {
-    return {panelWidth(), 200};
+    return {columnWidth(), 200};
 }
 
 int PanelScroller::fullHeight() const
@@ -51,7 +63,7 @@ bool PanelScroller::eventFilter(QObject* watched, QEvent* event)
 {
     // A section of the panel was shown or hidden.
     if (event->type() == QEvent::LayoutRequest) {
-        updateMinimumHeight();
+        updatePanelSize();
     }
     return QScrollArea::eventFilter(watched, event);
 }

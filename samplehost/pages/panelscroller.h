@@ -9,8 +9,8 @@
 namespace SampleHost {
 
 /**
- * Shows a print panel at its natural width and scrolls it if it is higher than the window. There is
- * always room for the scroll bar, so that the panel never changes its width.
+ * Shows a print panel in a column of one width, and scrolls it if it is higher than the window.
+ * There is always room for the scroll bar, so that the panel never changes its width.
  */
 class PanelScroller : public QScrollArea
 {
@@ -30,8 +30,10 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void updateMinimumHeight();
-    int panelWidth() const;
+    void updatePanelSize();
+    int columnWidth() const;
+
+    int m_panelWidth = 0;
 };
 
 } // namespace SampleHost

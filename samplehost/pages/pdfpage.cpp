@@ -9,15 +9,19 @@
 #include "samplehost/printing/hostsettings.h"
 #include "samplehost/printing/pdfpreview.h"
 
+#include <printpanels/multipageprintwidget.h>
+
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QMimeData>
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QDragEnterEvent>
 #include <QtGui/QPainter>
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QStackedWidget>
@@ -39,7 +43,7 @@ QString draggedFile(const QMimeData& data)
 } // namespace
 
 PdfPage::PdfPage(HostSettings& settings, const PrinterDirectory& printers, QWidget* parent)
-    : HostPage(parent), m_settings(settings), m_folder(QDir::homePath())
+    : HostPage(parent), m_settings(settings)
 {
     setObjectName(QStringLiteral("pdfPage"));
     setAcceptDrops(true);
@@ -119,7 +123,6 @@ bool PdfPage::open(const QString& path)
         Q_EMIT openFailed(m_problem);
         return false;
     }
-    m_folder = QFileInfo(path).absolutePath();
     m_settings.setRecentDocument(path);
     setDocument(std::move(document));
     Q_EMIT opened(path);
@@ -170,13 +173,30 @@ void PdfPage::paintPage(QPainter& painter, const QRectF& paper)
 
 void PdfPage::chooseFile()
 {
-    auto* dialog = new QFileDialog(this, tr("Open Document"), m_folder,
-                                   tr("PDF documents (*.pdf);;All files (*)"));
+    const QFileInfo recent(m_settings.recentDocument());
+    const bool known = recent.isAbsolute() && recent.absoluteDir().exists();
+    auto* dialog =
+        new QFileDialog(this, tr("Open Document"), known ? recent.absolutePath() : QDir::homePath(),
+                        tr("PDF documents (*.pdf);;All files (*)"));
     dialog->setObjectName(QStringLiteral("openDocumentDialog"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::ExistingFile);
     connect(dialog, &QFileDialog::fileSelected, this, &PdfPage::open);
     dialog->open();
+}
+
+PageControls PdfPage::controls() const
+{
+    const MultiPagePrintWidget& panel = m_preview->panel();
+    PageControls controls;
+    controls.print = m_printButton;
+    controls.preview = m_printButton;
+    controls.current = panel.findChild<QAbstractButton*>(QStringLiteral("currentPageRadio"));
+    controls.all = panel.findChild<QAbstractButton*>(QStringLiteral("allPagesRadio"));
+    controls.list = panel.findChild<QAbstractButton*>(QStringLiteral("selectionRadio"));
+    controls.listEdit = panel.findChild<QLineEdit*>(QStringLiteral("pageListEdit"));
+    controls.printers = panel.findChild<QComboBox*>(QStringLiteral("PrinterListCombo"));
+    return controls;
 }
 
 void PdfPage::showPrintWindow()

@@ -58,8 +58,8 @@ public:
 
     PdfPrintController& controller() const override { return *m_controller; }
 
-    /** Opens that window, where the user chooses what is printed. */
-    void print() override { showPrintWindow(); }
+    /** Print and Print Preview open that window, where the user chooses what is printed. */
+    PageControls controls() const override;
 
 public Q_SLOTS:
     /** Lets the user choose the file to open. */
@@ -89,7 +89,6 @@ private:
     HostSettings& m_settings;
     std::shared_ptr<PdfDocument> m_document;
     QString m_problem;
-    QString m_folder;
     QPushButton* m_printButton = nullptr;
     QLabel* m_nameLabel = nullptr;
     QStackedWidget* m_stack = nullptr;

@@ -10,6 +10,8 @@
 #include <printpanels/printwidget.h>
 
 #include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QLineEdit>
 
 namespace SampleHost {
 
@@ -25,21 +27,17 @@ void PrintPage::setUp(QWidget* contents, const LabelDesign& design, const HostSe
     setUpLayout(contents, m_panel);
 }
 
-void PrintPage::clickPanelButton(const char* name)
+PageControls PrintPage::controls() const
 {
-    if (auto* button = m_panel->findChild<QAbstractButton*>(QLatin1String(name))) {
-        button->click();
-    }
-}
-
-void PrintPage::print()
-{
-    clickPanelButton("PrintButton");
-}
-
-void PrintPage::showPreview()
-{
-    clickPanelButton("PreviewButton");
+    PageControls controls;
+    controls.print = m_panel->findChild<QAbstractButton*>(QStringLiteral("PrintButton"));
+    controls.preview = m_panel->findChild<QAbstractButton*>(QStringLiteral("PreviewButton"));
+    controls.current = m_panel->findChild<QAbstractButton*>(QStringLiteral("currentRecordRadio"));
+    controls.all = m_panel->findChild<QAbstractButton*>(QStringLiteral("allRecordsRadio"));
+    controls.list = m_panel->findChild<QAbstractButton*>(QStringLiteral("recordListRadio"));
+    controls.listEdit = m_panel->findChild<QLineEdit*>(QStringLiteral("recordListEdit"));
+    controls.printers = m_panel->findChild<QComboBox*>(QStringLiteral("PrinterListCombo"));
+    return controls;
 }
 
 qint64 PrintPage::pageCount() const

@@ -29,8 +29,7 @@ public:
     /** Shows what the panel is about to print. */
     LabelPreview& preview() const { return *m_preview; }
 
-    void print() override;
-    void showPreview() override;
+    PageControls controls() const override;
     qint64 pageCount() const override;
 
     /** What this page prints. */
@@ -44,8 +43,6 @@ protected:
     void setUp(QWidget* contents, const LabelDesign& design, const HostSettings& settings);
 
 private:
-    void clickPanelButton(const char* name);
-
     PrintWidget* m_panel = nullptr;
     PrintController* m_controller = nullptr;
     LabelPreview* m_preview = nullptr;

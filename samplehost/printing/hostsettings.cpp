@@ -34,6 +34,7 @@ const QString folderKey = QStringLiteral("output/folder");
 const QString fileKey = QStringLiteral("output/file");
 const QString paperKey = QStringLiteral("output/paper");
 const QString nupKey = QStringLiteral("output/nup");
+const QString printerKey = QStringLiteral("output/printer");
 const QString documentKey = QStringLiteral("documents/recent");
 const QString metricKey = QStringLiteral("view/metric");
 
@@ -139,6 +140,7 @@ void HostSettings::load()
     setOutputFolder(stored.value(folderKey).toString());
     setOutputFileName(stored.value(fileKey).toString());
     setRecentDocument(stored.value(documentKey, m_recentDocument).toString());
+    m_rememberedPrinter = stored.value(printerKey).toString();
     const int paper = stored.value(paperKey, int(m_paper)).toInt();
     if (paper >= int(Paper::LabelSize) && paper <= int(Paper::Letter)) {
         setPaper(Paper(paper));
@@ -155,6 +157,7 @@ bool HostSettings::save() const
     stored.setValue(folderKey, m_outputFolder);
     stored.setValue(fileKey, m_outputFileName);
     stored.setValue(paperKey, int(m_paper));
+    stored.setValue(printerKey, m_printer);
     stored.setValue(documentKey, m_recentDocument);
     stored.setValue(nupKey, m_nup.text());
     stored.setValue(metricKey, m_metric);

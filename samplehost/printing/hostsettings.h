@@ -52,8 +52,10 @@ public:
     NupLayout nup() const { return m_nup; }
     /** Whether sizes are shown in millimetres instead of inches. */
     bool isMetric() const { return m_metric; }
-    /** The printer that was selected last in any panel. It is not stored. */
+    /** The printer that was selected last in any panel. */
     QString printer() const { return m_printer; }
+    /** The printer that load() found, which may be gone; empty if there is none. */
+    QString rememberedPrinter() const { return m_rememberedPrinter; }
     /** The document that was opened last; empty if there is none. */
     QString recentDocument() const { return m_recentDocument; }
 
@@ -78,6 +80,7 @@ public:
     void setDataFile(const QString& path) { m_dataFile = path; }
     /** Sets the open document, which must not be overwritten; empty for none. */
     void setOpenDocument(const QString& path) { m_openDocument = path; }
+    QString openDocument() const { return m_openDocument; }
     /** Why a file must not be overwritten, for the user; empty if it may. */
     QString overwriteProblem(const QString& path) const;
 
@@ -87,7 +90,7 @@ public:
     /** Why a file of an earlier job is not replaced, for the user of the command line. */
     static QString refusal(const QString& path);
 
-    /** Loads what save() stored for this user. */
+    /** Loads what save() stored for this user. The selected printer stays. */
     void load();
     /** Stores the settings. Returns false, without a change to the stored ones, if that fails. */
     bool save() const;
@@ -113,6 +116,7 @@ private:
     Paper m_paper = Paper::LabelSize;
     NupLayout m_nup;
     QString m_printer;
+    QString m_rememberedPrinter;
     QString m_recentDocument;
     QString m_dataFile;
     QString m_openDocument;

@@ -10,13 +10,16 @@
 #include "samplehost/window/errormessages.h"
 #include "samplehost/window/eventlog.h"
 #include "samplehost/window/messagebox.h"
+#include "samplehost/window/pageactions.h"
 #include "samplehost/window/preferencesdialog.h"
 #include "samplehost/window/statusmessages.h"
 
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QMenuBar>
-#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QStatusBar>
 #include <QtWidgets/QTabWidget>
+#include <QtWidgets/QToolBar>
 
 #include <algorithm>
 #include <utility>
@@ -26,6 +29,21 @@ namespace SampleHost {
 namespace {
 
 constexpr QSize windowSize(1100, 760);
+constexpr int toolIconSide = 16;
+
+// A dock may become this narrow, so that the window fits on a small screen with it.
+constexpr int minimumDockWidth = 120;
+
+/** Lets a dock be smaller than its contents. */
+QWidget* scrolled(QWidget* contents)
+{
+    auto* area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setWidget(contents);
+    area->setMinimumWidth(minimumDockWidth);
+    return area;
+}
 
 } // namespace
 
@@ -38,6 +56,7 @@ MainWindow::MainWindow(const HostOptions& options, QWidget* parent)
     createDocks();
     createPages(options);
     createMenus();
+    createToolBar();
     connect(&m_settings, &HostSettings::changed, this, &MainWindow::refreshPrinterStates);
     if (m_dataSourceProblem.isEmpty()) {
         m_status->show(m_labelPage->design().sourceDescription());
@@ -67,10 +86,12 @@ void MainWindow::createDocks()
         dock->setObjectName(name);
         dock->setWidget(contents);
         addDockWidget(Qt::LeftDockWidgetArea, dock);
+        // A first look belongs to the label and the panel.
+        dock->hide();
         return dock;
     };
     QDockWidget* supply =
-        addDock(QStringLiteral("supplyDock"), tr("Loaded Supply Simulator"), m_supply);
+        addDock(QStringLiteral("supplyDock"), tr("Loaded Supply Simulator"), scrolled(m_supply));
     QDockWidget* log = addDock(QStringLiteral("eventDock"), tr("Panel Events"), m_log);
     resizeDocks({supply, log}, {240, 240}, Qt::Horizontal);
 }
@@ -79,10 +100,9 @@ void MainWindow::createMenus()
 {
     QMenu* file = menuBar()->addMenu(tr("&File"));
     addDocumentActions(*file);
-    file->addAction(tr("&Print"), QKeySequence::Print, this, [this] { currentPage().print(); });
+    m_actions->addPrintActions(*file);
     file->addAction(tr("Save PDF &As..."), QKeySequence::SaveAs, this, &MainWindow::savePdfAs)
         ->setObjectName(QStringLiteral("savePdfAction"));
-    file->addAction(tr("Print Pre&view"), this, [this] { currentPage().showPreview(); });
     file->addAction(tr("&Count Pages"), this, &MainWindow::countPages)
         ->setObjectName(QStringLiteral("countPagesAction"));
     file->addAction(tr("&Add Printer..."), this, &MainWindow::askForPrinter)
@@ -92,6 +112,7 @@ void MainWindow::createMenus()
     file->addAction(tr("P&references..."), this, &MainWindow::openPreferences);
     file->addSeparator();
     file->addAction(tr("&Quit"), QKeySequence::Quit, this, &QWidget::close);
+    m_actions->addChoices(*menuBar()->addMenu(tr("&Records")));
     QMenu* view = menuBar()->addMenu(tr("&View"));
     const auto docks = findChildren<QDockWidget*>();
     for (QDockWidget* dock : docks) {
@@ -99,8 +120,30 @@ void MainWindow::createMenus()
     }
     view->addSeparator();
     addUnitAction(*view);
-    QMenu* help = menuBar()->addMenu(tr("&Help"));
-    help->addAction(tr("&About Sample Host"), this, &MainWindow::showAbout);
+    addFullScreenAction(*view);
+    addHelpActions(*menuBar()->addMenu(tr("&Help")));
+}
+
+void MainWindow::createToolBar()
+{
+    // The buttons of the panel are out of sight on small screens, so these are always there.
+    auto* toolBar = new QToolBar(tr("Print"));
+    toolBar->setObjectName(QStringLiteral("printToolBar"));
+    toolBar->setMovable(false);
+    toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    toolBar->setIconSize(QSize(toolIconSide, toolIconSide));
+    toolBar->toggleViewAction()->setVisible(false);
+    m_actions->addPrintActions(*toolBar);
+    addToolBar(toolBar);
+}
+
+void MainWindow::addFullScreenAction(QMenu& menu)
+{
+    QAction* fullScreen = menu.addAction(tr("&Full Screen"));
+    fullScreen->setObjectName(QStringLiteral("fullScreenAction"));
+    fullScreen->setShortcut(Qt::Key_F11);
+    connect(fullScreen, &QAction::triggered, this,
+            [this] { setWindowState(windowState() ^ Qt::WindowFullScreen); });
 }
 
 void MainWindow::addUnitAction(QMenu& menu)
@@ -152,22 +195,6 @@ void MainWindow::reloadData()
     m_status->show(m_labelPage->design().sourceDescription());
 }
 
-void MainWindow::persistSettings()
-{
-    m_settings.load();
-    connect(&m_settings, &HostSettings::changed, this, &MainWindow::saveSettings);
-}
-
-bool MainWindow::saveSettings()
-{
-    const bool saved = m_settings.save();
-    if (!saved) {
-        m_status->showError(tr("The settings cannot be kept for the next start. Check that your "
-                               "settings folder can be written."));
-    }
-    return saved;
-}
-
 void MainWindow::openPreferences()
 {
     auto* dialog = new PreferencesDialog(m_settings, frontWindow());
@@ -178,13 +205,6 @@ void MainWindow::openPreferences()
 void MainWindow::showPrintError(int number)
 {
     showMessage(this, tr("Print Error %1").arg(number), printErrorMessage(number));
-}
-
-void MainWindow::showAbout()
-{
-    QMessageBox::about(this, tr("About Sample Host"),
-                       tr("Shows the print panels at work: labels from a data source, printed to "
-                          "PDF files and printers."));
 }
 
 } // namespace SampleHost

@@ -22,6 +22,7 @@ class EventLog;
 class HostPage;
 class JobController;
 class LabelPage;
+class PageActions;
 class PdfPage;
 class PipePage;
 class PrintPage;
@@ -45,11 +46,20 @@ public:
     /** Why the data source could not be opened; empty if it is open. */
     QString dataSourceProblem() const { return m_dataSourceProblem; }
 
-    /** Loads the stored settings and stores them whenever one changes. */
+    /** Loads the stored settings, with the printer, and stores them whenever one changes. */
     void persistSettings();
 
-    /** Stores the settings. If that fails, shows a message and returns false. */
+    /** Stores the settings and the window. If that fails, shows a message and returns false. */
     bool saveSettings();
+
+    /**
+     * Brings the window, which is not shown yet, where the last one was, but inside the available
+     * part of the screen, and shows the last page unless there is a document to show.
+     */
+    void restoreWindow(const QRect& available);
+
+    /** Selects a printer in all panels; nothing changes if there is none of that name. */
+    void choosePrinter(const QString& name);
 
     HostSettings& settings() { return m_settings; }
     LabelPage& labelPage() const { return *m_labelPage; }
@@ -77,8 +87,11 @@ private:
     void createStatusBar();
     void createDocks();
     void createMenus();
+    void createToolBar();
     void addUnitAction(QMenu& menu);
     void connectController(JobController& controller);
+    void addFullScreenAction(QMenu& menu);
+    void addHelpActions(QMenu& menu);
     void addPage(HostPage* page, const QString& title);
     void addPrintPage(PrintPage* page, const QString& title, const QString& logName);
     void connectPanel(PrintPage& page);
@@ -90,6 +103,7 @@ private:
     void addPrinter(const QString& name);
     void countPages();
     void reloadData();
+    bool checkSaved(bool saved);
     void openPreferences();
     void savePdfAs();
     void showJob(PrintJob* job);
@@ -97,6 +111,7 @@ private:
     void showError(const QString& message);
     QWidget* frontWindow();
     void showPrintError(int number);
+    void showHelp();
     void showAbout();
 
     DataSourceOptions m_dataSource;
@@ -106,6 +121,7 @@ private:
     StatusMessages* m_status = nullptr;
     PrintedFileBar* m_printedFile = nullptr;
     QTabWidget* m_pages = nullptr;
+    PageActions* m_actions = nullptr;
     LabelPage* m_labelPage = nullptr;
     PipePage* m_pipePage = nullptr;
     CatalogPage* m_catalogPage = nullptr;

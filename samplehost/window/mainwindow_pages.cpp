@@ -8,6 +8,7 @@
 #include "samplehost/simulator/supplysimulator.h"
 #include "samplehost/window/eventlog.h"
 #include "samplehost/window/mainwindow.h"
+#include "samplehost/window/pageactions.h"
 #include "samplehost/window/statusmessages.h"
 
 #include <printpanels/printpreviewdialog.h>
@@ -27,6 +28,9 @@ void MainWindow::createPages(const HostOptions& options)
     m_pages->setAccessibleName(tr("Pages"));
     setCentralWidget(m_pages);
     connect(m_pages, &QTabWidget::currentChanged, m_status, &StatusMessages::clearError);
+    m_actions = new PageActions(this);
+    connect(m_pages, &QTabWidget::currentChanged, m_actions,
+            [this] { m_actions->setPage(currentPage()); });
     auto source = RecordSource::open(m_dataSource, &m_dataSourceProblem);
     m_settings.setDataFile(RecordSource::filePath(m_dataSource));
     auto design = std::make_unique<ChemicalDesign>(std::move(source), m_dataSourceProblem);
@@ -41,6 +45,7 @@ void MainWindow::createPages(const HostOptions& options)
 void MainWindow::addPage(HostPage* page, const QString& title)
 {
     connectController(page->controller());
+    m_actions->addPage(*page);
     m_pages->addTab(page, title);
 }
 
