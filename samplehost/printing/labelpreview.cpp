@@ -9,6 +9,7 @@
 #include "samplehost/printing/hostsettings.h"
 #include "samplehost/printing/previewcanvas.h"
 #include "samplehost/printing/printcontroller.h"
+#include "samplehost/printing/windowscroller.h"
 
 #include <previewinput.h>
 #include <printpanels/printpreviewdialog.h>
@@ -62,11 +63,8 @@ void LabelPreview::open(const PrintRequest& request)
     showReadiness();
     if (!m_popup->isVisible()) {
         m_focusBefore = QApplication::focusWidget();
-        centerPopup();
-        m_popup->show();
     }
-    m_popup->raise();
-    m_popup->activateWindow();
+    m_scroller->open();
 }
 
 void LabelPreview::createPopup()
@@ -77,6 +75,8 @@ void LabelPreview::createPopup()
         m_shown.sequenceStart, m_shown.sequenceEnd, m_shown.customRecordsList);
     m_canvas = new PreviewCanvas(*m_popup, previewPlace);
     m_popup->setWindowTitle(tr("Print Preview"));
+    m_scroller = new WindowScroller(
+        *m_popup, m_page, [popup = m_popup.data()](int x, int y) { popup->mouseMoveSlot(x, y); });
     addShortcuts();
     connectPopup();
     Q_EMIT popupCreated(m_popup);
@@ -142,12 +142,6 @@ void LabelPreview::print(int sequenceStart, int sequenceEnd, const QString& cust
     request.sequenceEnd = sequenceEnd;
     request.customRecordsList = customRecordsList;
     m_controller.printAgain(request);
-}
-
-void LabelPreview::centerPopup()
-{
-    const QPoint corner = m_page.window()->geometry().center() - m_popup->rect().center();
-    m_popup->mouseMoveSlot(corner.x(), corner.y());
 }
 
 void LabelPreview::restoreFocus()

@@ -19,6 +19,7 @@ class HostSettings;
 class LabelDesign;
 class PreviewCanvas;
 class PrintController;
+class WindowScroller;
 
 /**
  * Shows the first sheet of a request in a popup and prints the request from there. Except for the
@@ -53,7 +54,6 @@ private:
     void showReadiness();
     void turn(int orientation);
     void print(int sequenceStart, int sequenceEnd, const QString& customRecordsList);
-    void centerPopup();
     void restoreFocus();
     QSizeF designSize() const;
     QSizeF printedSize() const;
@@ -65,6 +65,7 @@ private:
     QPointer<PrintPreviewDialog> m_popup;
     // The preview in the popup, which owns this.
     PreviewCanvas* m_canvas = nullptr;
+    QPointer<WindowScroller> m_scroller;
     QPointer<QShortcut> m_printShortcut;
     QPointer<QWidget> m_focusBefore;
     // As the panel requested it, and in the orientation that is shown.

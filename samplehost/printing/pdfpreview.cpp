@@ -8,6 +8,7 @@
 #include "samplehost/printing/hostsettings.h"
 #include "samplehost/printing/previewcanvas.h"
 #include "samplehost/printing/printerdirectory.h"
+#include "samplehost/printing/windowscroller.h"
 
 #include <previewinput.h>
 #include <printpanels-hostkit/jxmoduleinfo.h>
@@ -39,6 +40,8 @@ PdfPreview::PdfPreview(HostSettings& settings, const PrinterDirectory& printers,
     m_dialog = new MultiPagePrintDialog(m_panel, parent, Qt::FramelessWindowHint | Qt::Dialog);
     m_canvas = new PreviewCanvas(*m_dialog, previewPlace);
     connect(m_canvas, &PreviewCanvas::fitChanged, this, &PdfPreview::updateImage);
+    m_scroller = new WindowScroller(*m_dialog, *parent,
+                                    [this](int x, int y) { m_dialog->mouseMoveSlot(x, y); });
     connectPanel();
     connectOptions();
     addShortcuts();
@@ -136,16 +139,12 @@ void PdfPreview::show()
     if (!m_document) {
         return;
     }
-    if (!m_dialog->isVisible()) {
-        const QRect host = m_dialog->parentWidget()->window()->frameGeometry();
-        const QPoint middle = host.center() - m_dialog->rect().center();
-        m_dialog->mouseMoveSlot(qMax(0, middle.x()), qMax(0, middle.y()));
-        m_dialog->show();
+    const bool opens = !m_dialog->isVisible();
+    m_scroller->open();
+    if (opens) {
         // The host may show another page by now.
         m_panel->checkRangeUpdate(true);
     }
-    m_dialog->raise();
-    m_dialog->activateWindow();
 }
 
 // The current page follows. A choice of other pages stays as it is, so the page is only looked at.

@@ -20,6 +20,7 @@ class HostSettings;
 class PdfDocument;
 class PreviewCanvas;
 class PrinterDirectory;
+class WindowScroller;
 
 /**
  * The window "Preview and Print" of a document: fills its panel, shows the first of the selected
@@ -31,7 +32,8 @@ class PdfPreview : public QObject
     Q_OBJECT
 
 public:
-    /** Creates the window, hidden, as a child of parent. The arguments must outlive it. */
+    /** Creates the window, hidden, as a child of parent, not null. The arguments must outlive it.
+     */
     PdfPreview(HostSettings& settings, const PrinterDirectory& printers, QWidget* parent);
 
     MultiPagePrintWidget& panel() const { return *m_panel; }
@@ -90,6 +92,7 @@ private:
     MultiPagePrintWidget* m_panel = nullptr;
     MultiPagePrintDialog* m_dialog = nullptr;
     PreviewCanvas* m_canvas = nullptr;
+    WindowScroller* m_scroller = nullptr;
     std::shared_ptr<const PdfDocument> m_document;
     PdfPrintRequest m_options;
     int m_shownPage = 1;

@@ -3,6 +3,7 @@
 
 #include "samplehost/support/documentfixture.h"
 #include "samplehost/support/hosttest.h"
+#include "samplehost/support/offscreenscreen.h"
 #include "samplehost/support/signallogging.h"
 
 #include <QtWidgets/QComboBox>
@@ -431,6 +432,10 @@ void TestPdfPanel::everySignalIsLogged()
     checkThatEverySignalIsLogged(panel, events, 14);
 }
 
-QTEST_MAIN(TestPdfPanel)
+// Large enough for the window "Preview and Print" and the host around it.
+int main(int argc, char** argv)
+{
+    return runOnScreen<TestPdfPanel>(1920, 1080, argc, argv);
+}
 
 #include "tst_pdfpanel.moc"

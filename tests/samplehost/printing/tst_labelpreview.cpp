@@ -4,6 +4,7 @@
 #include "samplehost/printing/labelpreview.h"
 #include "samplehost/support/hostfixture.h"
 #include "samplehost/support/hosttest.h"
+#include "samplehost/support/offscreenscreen.h"
 #include "samplehost/window/eventlog.h"
 #include "samplehost/window/preferencesdialog.h"
 
@@ -450,6 +451,10 @@ void TestLabelPreview::titleBarMovesThePopup()
     QCOMPARE(popup()->pos(), QPoint(33, 44));
 }
 
-QTEST_MAIN(TestLabelPreview)
+// Large enough for the window "Print Preview" and the host around it.
+int main(int argc, char** argv)
+{
+    return runOnScreen<TestLabelPreview>(1920, 1080, argc, argv);
+}
 
 #include "tst_labelpreview.moc"
