@@ -4,12 +4,14 @@
 #include "samplehost/automation/demostates.h"
 #include "samplehost/automation/headlessrun.h"
 #include "samplehost/commandline/commandline.h"
+#include "samplehost/commandline/languages.h"
 #include "samplehost/system.h"
 #include "samplehost/window/hoststyle.h"
 #include "samplehost/window/mainwindow.h"
 
 #include <printpanels/printpanels_version.h>
 
+#include <QtCore/QLocale>
 #include <QtCore/QTimer>
 #include <QtGui/QScreen>
 #include <QtWidgets/QApplication>
@@ -85,6 +87,28 @@ int runWithUser(MainWindow& window, const CommandLine& command)
     return code;
 }
 
+/** The user's language without a choice on the command line; scripts read English. */
+QString userLanguage(const CommandLine& command)
+{
+    if (command.isHeadless()) {
+        return QStringLiteral("en");
+    }
+    const QString stored = Languages::stored();
+    const QStringList codes = Languages::codes();
+    return codes.contains(stored) ? stored
+                                  : Languages::ofSystem(QLocale::system().uiLanguages(), codes);
+}
+
+/** Reads the command line and translates the program, with the messages about the command line. */
+CommandLine readCommandLine()
+{
+    const QStringList arguments = QCoreApplication::arguments();
+    const CommandLine command = parseCommandLine(arguments, MainWindow::parts());
+    const bool chosen = Languages::codes().contains(command.language);
+    Languages::install(chosen ? command.language : userLanguage(command));
+    return parseCommandLine(arguments, MainWindow::parts());
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -95,8 +119,7 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationName(QStringLiteral("samplehost"));
     QCoreApplication::setOrganizationName(QStringLiteral("printpanels"));
     QCoreApplication::setApplicationVersion(QStringLiteral(PRINTPANELS_VERSION_STRING));
-    const CommandLine command =
-        parseCommandLine(QCoreApplication::arguments(), MainWindow::parts());
+    const CommandLine command = readCommandLine();
     if (!command.problem.isEmpty()) {
         printLine(stderr, command.problem);
         return CommandRun::NothingToPrint;

@@ -21,10 +21,11 @@ namespace {
 // The parser's own options, which need no display.
 constexpr const char* parserOptions[] = {"help", "help-all", "version", "h", "v"};
 
-QString tr(const char* text)
+/** The texts belong to the messages of CommandReader. */
+struct Texts
 {
-    return QCoreApplication::translate("SampleHost::CommandLine", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(SampleHost::CommandLine)
+};
 
 /** Adds the options of a build with these parts. */
 void addOptions(QCommandLineParser& parser, const HostParts& parts)
@@ -34,7 +35,7 @@ void addOptions(QCommandLineParser& parser, const HostParts& parts)
     const QString states = demoStateNames(parts).join(QStringLiteral(", "));
     for (const CommandOption& option : commandOptions) {
         if (isOffered(option, parts)) {
-            QString description = tr(option.description);
+            QString description = Texts::tr(option.description);
             description.replace(QStringLiteral("%1"), states);
             parser.addOption({QString::fromLatin1(option.name), description,
                               QString::fromLatin1(option.valueName)});
@@ -81,14 +82,14 @@ CommandLine parseCommandLine(const QStringList& arguments, const HostParts& part
     addOptions(parser, HostParts());
     CommandLine result;
     if (!parser.parse(arguments)) {
-        result.problem = parser.errorText() + QLatin1Char(' ') + tr("--help lists the options.");
+        result.problem = parser.errorText() + QLatin1Char(' ') + Texts::tr("--help lists the options.");
         return result;
     }
     result.helpAsked =
         parser.isSet(QStringLiteral("help")) || parser.isSet(QStringLiteral("help-all"));
     result.versionAsked = parser.isSet(QStringLiteral("version"));
     if (!parser.positionalArguments().isEmpty()) {
-        result.problem = tr("\"%1\" is not an option. --help lists the options.")
+        result.problem = Texts::tr("\"%1\" is not an option. --help lists the options.")
                              .arg(parser.positionalArguments().constFirst());
         return result;
     }
@@ -100,18 +101,19 @@ QString commandLineHelp(const HostParts& parts)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        parts.documents ? tr("Prints labels and documents through the print panels.")
-                        : tr("Prints labels through the print panels."));
+        parts.documents ? Texts::tr("Prints labels and documents through the print panels.")
+                        : Texts::tr("Prints labels through the print panels."));
     addOptions(parser, parts);
     QString help = parser.helpText();
     if (!parts.documents || !parts.printQueues) {
         help += QLatin1Char('\n');
     }
     if (!parts.documents) {
-        help += tr("This build has no PDF documents.") + QLatin1Char('\n');
+        help += Texts::tr("This build has no PDF documents.") + QLatin1Char('\n');
     }
     if (!parts.printQueues) {
-        help += tr("This build has no print queues of CUPS: the system's own printing is used.") +
+        help += Texts::tr(
+                    "This build has no print queues of CUPS: the system's own printing is used.") +
                 QLatin1Char('\n');
     }
     return help;

@@ -85,6 +85,8 @@ struct CommandLine
     bool preview = false;
     /** The orientation to select in the preview; that of the label if unset. */
     std::optional<bool> portrait;
+    /** The code of the language; empty for the user's choice. */
+    QString language;
     /** Whether sizes are shown in millimetres. */
     bool metric = false;
     bool printToFile = false;

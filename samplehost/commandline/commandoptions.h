@@ -47,6 +47,7 @@ inline constexpr CommandOption commandOptions[] = {
     {"portrait", nullptr, "Turn the preview to portrait."},
     {"landscape", nullptr, "Turn the preview to landscape."},
     {"metric", nullptr, "Show sizes in millimetres."},
+    {"language", "code", "The language of the window, for example de."},
     {"test-controls", nullptr, "Show the panels' print-to-file and error-test controls."},
     {"screenshot", "file.png", "Save a picture of the window and end.",
      CommandOption::AnyCommand, CommandOption::WithoutDisplay},

@@ -3,6 +3,8 @@
 
 #include "samplehost/commandline/commandreader.h"
 
+#include "samplehost/commandline/languages.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 
@@ -259,9 +261,20 @@ void CommandReader::readWindow()
     if (has("screenshot") && has("output") && file(m_result.screenshot) == file(m_result.output)) {
         report(tr("--screenshot and --output need different files."));
     }
+    readLanguage();
     readState();
     m_result.host.testControls =
         has("test-controls") || m_result.printToFile || m_result.state == DemoState::TestControls;
+}
+
+void CommandReader::readLanguage()
+{
+    m_result.language = value("language");
+    const QStringList codes = Languages::codes();
+    if (has("language") && !codes.contains(m_result.language)) {
+        report(tr("--language needs one of %1, not \"%2\".")
+                   .arg(codes.join(QStringLiteral(", ")), m_result.language));
+    }
 }
 
 void CommandReader::readState()

@@ -46,6 +46,7 @@ private:
     void readPaper();
     void readPreview();
     void readWindow();
+    void readLanguage();
     void readState();
     void readDataSource();
     void checkTarget();

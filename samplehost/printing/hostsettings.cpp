@@ -37,6 +37,7 @@ const QString nupKey = QStringLiteral("output/nup");
 const QString printerKey = QStringLiteral("output/printer");
 const QString documentKey = QStringLiteral("documents/recent");
 const QString metricKey = QStringLiteral("view/metric");
+const QString languageKey = QStringLiteral("view/language");
 
 bool isSameFile(const QString& path, const QString& other)
 {
@@ -149,6 +150,7 @@ void HostSettings::load()
         setNup(*nup);
     }
     setMetric(stored.value(metricKey, m_metric).toBool());
+    setLanguage(stored.value(languageKey).toString());
 }
 
 bool HostSettings::save() const
@@ -161,6 +163,7 @@ bool HostSettings::save() const
     stored.setValue(documentKey, m_recentDocument);
     stored.setValue(nupKey, m_nup.text());
     stored.setValue(metricKey, m_metric);
+    stored.setValue(languageKey, m_language);
     stored.sync();
     return stored.status() == QSettings::NoError;
 }

@@ -52,6 +52,8 @@ public:
     NupLayout nup() const { return m_nup; }
     /** Whether sizes are shown in millimetres instead of inches. */
     bool isMetric() const { return m_metric; }
+    /** The code of the language for the next start; empty for that of the system. */
+    QString language() const { return m_language; }
     /** The printer that was selected last in any panel. */
     QString printer() const { return m_printer; }
     /** The printer that load() found, which may be gone; empty if there is none. */
@@ -72,6 +74,7 @@ public:
     /** Sets the layout of sheets, bounded. */
     void setNup(const NupLayout& nup) { set(m_nup, nup.bounded()); }
     void setMetric(bool metric) { set(m_metric, metric); }
+    void setLanguage(const QString& code) { set(m_language, code); }
     void setPrinter(const QString& printer);
     /** Sets the document that was opened last, without a signal. */
     void setRecentDocument(const QString& path);
@@ -115,6 +118,7 @@ private:
     QString m_outputFileName;
     Paper m_paper = Paper::LabelSize;
     NupLayout m_nup;
+    QString m_language;
     QString m_printer;
     QString m_rememberedPrinter;
     QString m_recentDocument;

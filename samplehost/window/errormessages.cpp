@@ -70,7 +70,8 @@ constexpr std::array<const char*, lastPrintError + 1> messages = {
 QString printErrorMessage(int number)
 {
     if (number < 0 || number > lastPrintError) {
-        return QCoreApplication::translate(context, "There is no print error %1.").arg(number);
+        return QCoreApplication::translate("SampleHost::PrintError", "There is no print error %1.")
+            .arg(number);
     }
     return QCoreApplication::translate(context, messages.at(size_t(number)));
 }

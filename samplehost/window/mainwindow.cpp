@@ -92,7 +92,7 @@ void MainWindow::createDocks()
     QDockWidget* supply =
         addDock(QStringLiteral("supplyDock"), tr("Loaded Supply Simulator"), scrolled(m_supply));
     QDockWidget* log = addDock(QStringLiteral("eventDock"), tr("Panel Events"), m_log);
-    resizeDocks({supply, log}, {240, 240}, Qt::Horizontal);
+    resizeDocks({supply, log}, {260, 260}, Qt::Horizontal);
 }
 
 void MainWindow::createMenus()
@@ -119,6 +119,7 @@ void MainWindow::createMenus()
     }
     view->addSeparator();
     addUnitAction(*view);
+    addLanguageMenu(*view);
     addFullScreenAction(*view);
     addHelpActions(*menuBar()->addMenu(tr("&Help")));
 }

@@ -91,6 +91,7 @@ private:
     void addUnitAction(QMenu& menu);
     void connectController(JobController& controller);
     void addFullScreenAction(QMenu& menu);
+    void addLanguageMenu(QMenu& menu);
     void addHelpActions(QMenu& menu);
     void addPage(HostPage* page, const QString& title);
     void addPrintPage(PrintPage* page, const QString& title, const QString& logName);
