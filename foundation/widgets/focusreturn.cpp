@@ -36,7 +36,8 @@ FocusReturn::FocusReturn(QWidget* panel) : QObject(panel)
 
 bool FocusReturn::eventFilter(QObject* watched, QEvent* event)
 {
-    auto* button = static_cast<QPushButton*>(watched);
+    // Not as a push button: one that is being deleted is only a widget by then.
+    auto* button = static_cast<QWidget*>(watched);
     switch (event->type()) {
     case QEvent::FocusIn:
         m_focused = button;
@@ -57,7 +58,7 @@ bool FocusReturn::eventFilter(QObject* watched, QEvent* event)
 }
 
 // A button that is being disabled is disabled already when it loses the focus.
-void FocusReturn::focusLost(QPushButton* button, Qt::FocusReason reason)
+void FocusReturn::focusLost(QWidget* button, Qt::FocusReason reason)
 {
     if (!button->isEnabled()) {
         lose(button);
@@ -68,7 +69,7 @@ void FocusReturn::focusLost(QPushButton* button, Qt::FocusReason reason)
 }
 
 // A button that held the focus for another one only passes it on.
-void FocusReturn::lose(QPushButton* button)
+void FocusReturn::lose(QWidget* button)
 {
     m_focused = nullptr;
     if (!m_lost || button != m_holder)
@@ -76,7 +77,7 @@ void FocusReturn::lose(QPushButton* button)
 }
 
 // In a window that is not active, the focus moves without an event.
-void FocusReturn::disabled(QPushButton* button)
+void FocusReturn::disabled(QWidget* button)
 {
     m_isBeingDisabled = false;
     if (button == m_focused)
@@ -85,7 +86,7 @@ void FocusReturn::disabled(QPushButton* button)
         m_holder = button->window()->focusWidget();
 }
 
-void FocusReturn::enabled(QPushButton* button)
+void FocusReturn::enabled(QWidget* button)
 {
     if (button != m_lost)
         return;

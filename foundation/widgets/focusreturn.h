@@ -7,7 +7,6 @@
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
 
-class QPushButton;
 class QWidget;
 
 namespace PrintPanels {
@@ -30,16 +29,16 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void focusLost(QPushButton* button, Qt::FocusReason reason);
-    void lose(QPushButton* button);
-    void disabled(QPushButton* button);
-    void enabled(QPushButton* button);
+    void focusLost(QWidget* button, Qt::FocusReason reason);
+    void lose(QWidget* button);
+    void disabled(QWidget* button);
+    void enabled(QWidget* button);
     void followFocus(QWidget* to);
 
     /** The button that has the focus of its window, active or not. */
-    QPointer<QPushButton> m_focused;
+    QPointer<QWidget> m_focused;
     /** The button that lost the focus, and the control that Qt gave it to. */
-    QPointer<QPushButton> m_lost;
+    QPointer<QWidget> m_lost;
     QPointer<QWidget> m_holder;
     bool m_isBeingDisabled = false;
 };
