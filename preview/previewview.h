@@ -57,7 +57,6 @@ public:
 
     /** The size given to the constructor. */
     QSize sizeHint() const override;
-    QAccessibleInterface* createAccessible() override;
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -68,6 +67,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    QAccessibleInterface* createAccessible() override;
     void takeImage(const QImage& image);
     void centre();
     void showZoom();

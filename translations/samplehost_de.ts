@@ -914,6 +914,10 @@ Zeigt die Druckbedienfelder bei der Arbeit: Etiketten aus einer Datenquelle, ged
         <source>The settings cannot be kept for the next start. Check that your settings folder can be written.</source>
         <translation>Die Einstellungen können nicht für den nächsten Start aufbewahrt werden. Prüfen Sie, ob Ihr Einstellungsordner beschreibbar ist.</translation>
     </message>
+    <message>
+        <source>More Buttons</source>
+        <translation>Weitere Schaltflächen</translation>
+    </message>
 </context>
 <context>
     <name>SampleHost::NupCombo</name>

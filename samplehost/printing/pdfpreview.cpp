@@ -86,6 +86,8 @@ void PdfPreview::addShortcuts()
     add(Qt::Key_PageDown, [this] { turnTo(m_shownPage + 1); });
     add(Qt::CTRL | Qt::Key_Home, [this] { turnTo(1); });
     add(Qt::CTRL | Qt::Key_End, [this] { turnTo(m_document ? m_document->pageCount() : 1); });
+    add(Qt::ALT | Qt::Key_Plus, [this] { m_panel->increaseCopyCount(); });
+    add(Qt::ALT | Qt::Key_Minus, [this] { m_panel->decreaseCopyCount(); });
     add(QKeySequence::Print, [this] {
         if (canPrint()) {
             m_panel->printSlot();

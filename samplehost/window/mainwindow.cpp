@@ -39,6 +39,7 @@ QWidget* scrolled(QWidget* contents)
     auto* area = new QScrollArea;
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus); // its contents take the focus
     area->setWidget(contents);
     area->setMinimumWidth(minimumDockWidth);
     return area;
@@ -135,6 +136,10 @@ void MainWindow::createToolBar()
     toolBar->toggleViewAction()->setVisible(false);
     m_actions->addPrintActions(*toolBar);
     addToolBar(toolBar);
+    // Qt gives the button for what has no room neither a name nor a text.
+    if (auto* more = toolBar->findChild<QWidget*>(QStringLiteral("qt_toolbar_ext_button"))) {
+        more->setAccessibleName(tr("More Buttons"));
+    }
 }
 
 void MainWindow::addFullScreenAction(QMenu& menu)

@@ -321,7 +321,9 @@ void TestPdfPanel::shortcutsReachThePanel()
     QTest::keyClick(&m_host->dialog(), Qt::Key_Minus, Qt::ControlModifier);
     QVERIFY(view->grab().toImage() != fitted);
     QCOMPARE(m_host->documentPanel().getNumberOfCopies(), 1);
-    m_host->documentPanel().setNumberOfCopies(2);
+    for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Plus, Qt::Key_Minus})
+        QTest::keyClick(&m_host->dialog(), key, Qt::AltModifier);
+    QCOMPARE(m_host->documentPanel().getNumberOfCopies(), 2);
     m_host->typePages(QStringLiteral("9"));
     QTest::keyClick(&m_host->dialog(), Qt::Key_P, Qt::ControlModifier);
     QVERIFY(requests.isEmpty());
@@ -351,6 +353,8 @@ void TestPdfPanel::keysTurnThePages()
     m_host->press(choice.constData());
     if (!list.isEmpty())
         m_host->typePages(list);
+    // An edit keeps Ctrl+Home and Ctrl+End.
+    m_host->widget("PrintButton")->setFocus();
     const auto expectPage = [&](int page) {
         QCOMPARE(m_host->title(), QStringLiteral("in.pdf - page %1 of 4").arg(page));
         QCOMPARE(m_host->preview().shownPage(), page);

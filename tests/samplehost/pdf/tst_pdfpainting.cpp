@@ -229,8 +229,8 @@ void TestPdfPainting::explainsFailures()
         m_document, request, std::make_unique<PrinterTarget>(QStringLiteral("No such printer"))));
     QCOMPARE(end.outcome, Outcome::Failed);
     QCOMPARE(end.message,
-             QStringLiteral("The printer \"No such printer\" is not known to the system any "
-                            "more."));
+             QStringLiteral("The printer \"No such printer\" is not known to the system. "
+                            "Choose another printer."));
 
     end = PdfOutput::run(*makePdfPrinterJob(m_document, request, nullptr));
     QCOMPARE(end.outcome, Outcome::Failed);

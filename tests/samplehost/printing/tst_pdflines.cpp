@@ -5,6 +5,7 @@
 #include "samplehost/printing/screenfit.h"
 #include "samplehost/support/documentfixture.h"
 #include "samplehost/support/hosttest.h"
+#include "samplehost/support/offscreenscreen.h"
 #include "samplehost/support/previewpixels.h"
 
 using namespace SampleHost;
@@ -87,5 +88,10 @@ void TestPdfLines::everyPixelIsShown()
     QVERIFY(PreviewPixels::contains(shown(), sheet));
 }
 
-QTEST_MAIN(TestPdfLines)
+// On a smaller screen the window would be scrolled, at every ratio.
+int main(int argc, char** argv)
+{
+    return runOnScreen<TestPdfLines>(3200, 2400, argc, argv);
+}
+
 #include "tst_pdflines.moc"

@@ -8,6 +8,7 @@
 #include "samplehost/printing/labelpreview.h"
 #include "samplehost/printing/previewcanvas.h"
 #include "samplehost/printing/printcontroller.h"
+#include "samplehost/support/offscreenscreen.h"
 #include "samplehost/support/previewpixels.h"
 #include "support/stricttest.h"
 
@@ -249,5 +250,10 @@ void TestScreenFit::sizesFit()
     QVERIFY(fit.picture(QImage()).isNull());
 }
 
-QTEST_MAIN(TestScreenFit)
+// On a smaller screen the window would be scrolled, at every ratio.
+int main(int argc, char** argv)
+{
+    return runOnScreen<TestScreenFit>(3200, 2400, argc, argv);
+}
+
 #include "tst_screenfit.moc"

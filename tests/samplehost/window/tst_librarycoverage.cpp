@@ -50,15 +50,18 @@ QString sourceText(const QString& path)
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-/** The sources of the host, all in one. */
+/** The sources of the host, all in one, with what it shares with the examples. */
 QString hostSources()
 {
     QString all;
-    QDirIterator files(QStringLiteral(PROJECT_SOURCE_DIR "/samplehost"),
-                       {QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files,
-                       QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        all += sourceText(files.next());
+    for (const QString& folder :
+         {QStringLiteral("/samplehost"), QStringLiteral("/examples/previewinput")}) {
+        QDirIterator files(QStringLiteral(PROJECT_SOURCE_DIR) + folder,
+                           {QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files,
+                           QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            all += sourceText(files.next());
+        }
     }
     return all;
 }

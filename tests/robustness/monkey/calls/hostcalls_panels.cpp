@@ -190,6 +190,8 @@ HostCalls previewViewCalls()
         hostCall<Panel>("resetZoom()", &Panel::resetZoom),
         hostCall<Panel>("scaleBy(double)", &Panel::scaleBy, real),
         hostCall<Panel>("fitToView()", &Panel::fitToView),
+        hostCall<Panel>("imageSize()", &Panel::imageSize),
+        hostCall<Panel>("zoom()", &Panel::zoom),
         hostCall<Panel>("sizeHint()", &Panel::sizeHint),
     };
 }
