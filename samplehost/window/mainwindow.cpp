@@ -93,7 +93,9 @@ void MainWindow::createDocks()
     QDockWidget* supply =
         addDock(QStringLiteral("supplyDock"), tr("Loaded Supply Simulator"), scrolled(m_supply));
     QDockWidget* log = addDock(QStringLiteral("eventDock"), tr("Panel Events"), m_log);
-    resizeDocks({supply, log}, {260, 260}, Qt::Horizontal);
+    // Wide enough for the simulator in every language.
+    const int width = std::max(260, m_supply->sizeHint().width());
+    resizeDocks({supply, log}, {width, width}, Qt::Horizontal);
 }
 
 void MainWindow::createMenus()

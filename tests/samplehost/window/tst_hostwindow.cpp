@@ -8,6 +8,7 @@
 #include "samplehost/support/hostfixture.h"
 #include "samplehost/support/hosttest.h"
 #include "samplehost/window/helpdialog.h"
+#include "support/pseudotranslator.h"
 
 #include <printpanels/printpanels_version.h>
 #include <printpanels/quickprintwidget.h>
@@ -15,6 +16,7 @@
 #include <QtGui/QAction>
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QPlainTextEdit>
+#include <QtWidgets/QScrollArea>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QStatusBar>
 #include <QtWidgets/QTabWidget>
@@ -38,6 +40,7 @@ class TestHostWindow : public HostTest<HostFixture, true>
 
 private Q_SLOTS:
     void docksStartClosed();
+    void simulatorIsShownWholeInALongLanguage();
     void everyPageFitsOnASmallScreen_data();
     void everyPageFitsOnASmallScreen();
     void docksFitOnASmallScreen();
@@ -87,6 +90,20 @@ void TestHostWindow::docksStartClosed()
         dock->toggleViewAction()->trigger();
         QVERIFY(dock->isVisible());
     }
+}
+
+void TestHostWindow::simulatorIsShownWholeInALongLanguage()
+{
+    PseudoTranslator translator;
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    m_host = std::make_unique<HostFixture>(true);
+    m_host->window->resize(1800, 900); // with room for the page, which is longer, too
+    m_host->window->show();
+    auto* dock = m_host->window->findChild<QDockWidget*>(QStringLiteral("supplyDock"));
+    dock->show();
+    QCoreApplication::processEvents();
+    const auto* area = qobject_cast<QScrollArea*>(dock->widget());
+    QCOMPARE(area->horizontalScrollBar()->maximum(), 0);
 }
 
 void TestHostWindow::everyPageFitsOnASmallScreen_data()

@@ -4,6 +4,7 @@
 #include "samplehost/pages/catalogpage.h"
 #include "samplehost/support/hostfixture.h"
 #include "samplehost/support/hosttest.h"
+#include "samplehost/window/statusmessages.h"
 
 #include <printpanels/quickprintwidget.h>
 
@@ -50,6 +51,7 @@ private Q_SLOTS:
     void errorLeaves_data();
     void errorLeaves();
     void sizeErrorLeavesWithItsCause();
+    void pathStaysWholeFromRightToLeft();
 
 private:
     QToolButton* open() const { return button("openFileButton"); }
@@ -181,6 +183,23 @@ void TestOutcomes::sizeErrorLeavesWithItsCause()
     resize("10");
     QCOMPARE(page.message(), QString());
     QCOMPARE(status(), QString());
+}
+
+// What is isolated cannot lose a slash to the other end of the line.
+void TestOutcomes::pathStaysWholeFromRightToLeft()
+{
+    const QString path = QStringLiteral("/labels/today.pdf");
+    QStatusBar bar;
+    StatusMessages messages(bar);
+    messages.show(path);
+    QCOMPARE(bar.currentMessage(), path);
+    bar.setLayoutDirection(Qt::RightToLeft);
+    messages.show(path);
+    QCOMPARE(bar.currentMessage(), QChar(0x2068) + path + QChar(0x2069));
+    messages.showError(path);
+    QCOMPARE(bar.currentMessage(), QChar(0x2068) + path + QChar(0x2069));
+    messages.clearError();
+    QCOMPARE(bar.currentMessage(), QString());
 }
 
 QTEST_MAIN(TestOutcomes)
