@@ -95,10 +95,11 @@ void TitleBarLabel::paintEvent(QPaintEvent*)
     painter.setPen(isEnabled() ? QColor(Qt::white) : QColor(0x84, 0x84, 0x84));
     const QString shown = QFontMetrics(font).elidedText(paintedText(), Qt::ElideRight, width());
     // At the start of the line, and in the direction of the text.
-    const int start = Qt::AlignAbsolute | (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft);
+    const Qt::Alignment start =
+        Qt::AlignAbsolute | (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft);
     const int direction =
         text().isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
-    painter.drawText(rect(), start | Qt::AlignVCenter | Qt::TextSingleLine | direction, shown);
+    painter.drawText(rect(), int(start) | Qt::AlignVCenter | Qt::TextSingleLine | direction, shown);
 }
 
 TitleBarButton::TitleBarButton(QWidget* parent) : QAbstractButton(parent)
