@@ -126,7 +126,7 @@ bool WindowScroller::eventFilter(QObject* watched, QEvent* event)
         } else if (type == QEvent::Move && m_area->isVisible()) {
             moveArea();
         }
-    } else if (watched == m_area && type == QEvent::Close) {
+    } else if (type == QEvent::Close && watched == m_area) { // not while the area is destroyed
         // Closed by the system instead of its own controls.
         m_window.close();
     }
