@@ -78,26 +78,26 @@ void WindowScroller::putIntoArea()
         m_area = new QScrollArea(m_window.parentWidget());
         m_area->setWindowFlags(m_flags);
         m_area->setWindowTitle(m_window.windowTitle());
-        m_area->setFrameShape(QFrame::NoFrame);
+        area()->setFrameShape(QFrame::NoFrame);
         m_area->installEventFilter(this);
-        m_area->setWidget(&m_window);
+        area()->setWidget(&m_window);
     }
     // One scroll bar takes room from the other direction.
     QSize size = m_window.size();
-    const int bar = m_area->verticalScrollBar()->sizeHint().width();
+    const int bar = area()->verticalScrollBar()->sizeHint().width();
     const bool tooWide = size.width() > m_available.width();
     const bool tooHigh = size.height() > m_available.height();
     size += QSize(tooHigh ? bar : 0, tooWide ? bar : 0);
     m_area->resize(size.boundedTo(m_available.size()));
-    m_area->horizontalScrollBar()->setValue(0);
-    m_area->verticalScrollBar()->setValue(0);
+    area()->horizontalScrollBar()->setValue(0);
+    area()->verticalScrollBar()->setValue(0);
 }
 
 void WindowScroller::takeFromArea()
 {
     if (m_area != nullptr) {
         m_area->removeEventFilter(this);
-        m_area->takeWidget();
+        area()->takeWidget();
         m_window.setParent(m_area->parentWidget(), m_flags);
         delete m_area;
     }
@@ -106,15 +106,20 @@ void WindowScroller::takeFromArea()
 // The window's title bar moves the window where the scroll area should stand.
 void WindowScroller::moveArea()
 {
-    const QPoint scrolled(-m_area->horizontalScrollBar()->value(),
-                          -m_area->verticalScrollBar()->value());
-    const QRect place = QStyle::visualRect(m_area->layoutDirection(), m_area->viewport()->rect(),
+    const QPoint scrolled(-area()->horizontalScrollBar()->value(),
+                          -area()->verticalScrollBar()->value());
+    const QRect place = QStyle::visualRect(m_area->layoutDirection(), area()->viewport()->rect(),
                                            QRect(scrolled, m_window.size()));
     if (m_window.pos() != place.topLeft()) {
         const QRect wanted(m_window.pos(), m_area->size());
         m_window.move(place.topLeft());
         m_area->move(cornerInside(wanted.size(), wanted.center(), m_available));
     }
+}
+
+QScrollArea* WindowScroller::area() const
+{
+    return static_cast<QScrollArea*>(m_area.data());
 }
 
 bool WindowScroller::eventFilter(QObject* watched, QEvent* event)

@@ -35,12 +35,13 @@ public:
     void open(const QRect& available);
 
     /** The scroll area; null if the window stands on its own. */
-    QScrollArea* scrollArea() const { return m_area; }
+    QScrollArea* scrollArea() const { return area(); }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    QScrollArea* area() const;
     void place(const QRect& available);
     void putIntoArea();
     void takeFromArea();
@@ -50,7 +51,9 @@ private:
     QWidget& m_host;
     Move m_move;
     Qt::WindowFlags m_flags;
-    QPointer<QScrollArea> m_area;
+    // A QPointer to a QScrollArea must not be used while the area is destroyed, which hides the
+    // window.
+    QPointer<QWidget> m_area;
     QRect m_available;
 };
 
