@@ -11,7 +11,7 @@ namespace PrintPanels {
 
 class PreviewView;
 
-/** What assistive technology is told of a canvas: a picture, its size and its scale. */
+/** The accessible interface of a canvas: a picture with its size and scale. */
 class AccessiblePreview : public QAccessibleWidget
 {
     Q_DECLARE_TR_FUNCTIONS(PreviewView)

@@ -70,7 +70,7 @@ int widthOfEdit(const QLineEdit* edit, const QFont& font)
 }
 
 // What the control's size hint would be. The hint itself still belongs to the font before the
-// change while the control is told of that.
+// change while it sends the change event.
 int widthOf(const QWidget* control, const QFont& font)
 {
     if (const auto* button = qobject_cast<const QAbstractButton*>(control))

@@ -82,7 +82,8 @@ CommandLine parseCommandLine(const QStringList& arguments, const HostParts& part
     addOptions(parser, HostParts());
     CommandLine result;
     if (!parser.parse(arguments)) {
-        result.problem = parser.errorText() + QLatin1Char(' ') + Texts::tr("--help lists the options.");
+        result.problem =
+            parser.errorText() + QLatin1Char(' ') + Texts::tr("--help lists the options.");
         return result;
     }
     result.helpAsked =

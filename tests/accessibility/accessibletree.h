@@ -10,7 +10,7 @@
 
 class QWidget;
 
-/** What assistive technology is told of one control. */
+/** The accessible properties of one control. */
 struct AccessibleControl
 {
     /** Class and object name of the control, or of the nearest widget around it. */
