@@ -69,8 +69,8 @@ int widthOfEdit(const QLineEdit* edit, const QFont& font)
     return edit->style()->sizeFromContents(QStyle::CT_LineEdit, &option, text, edit).width();
 }
 
-// What the control's size hint would be. The hint itself still belongs to the font before the
-// change while it sends the change event.
+// What the size hint would be. While the control handles the change of its font, the hint still
+// belongs to the font before.
 int widthOf(const QWidget* control, const QFont& font)
 {
     if (const auto* button = qobject_cast<const QAbstractButton*>(control))
